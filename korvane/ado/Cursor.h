@@ -1,0 +1,58 @@
+#pragma once
+
+#include <korvane/ado/DataType.h>
+#include <korvane/runtime/Variant.h>
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvane::ado {
+
+/// What a provider knows of a column of a result.
+struct ColumnInfo {
+    std::string name;
+    DataType type = DataType::VarWChar;
+    std::int32_t definedSize = 0; ///< characters; 0 when the type has no length
+};
+
+/// One field of the current row with the value it is to take.
+struct FieldChange {
+    int ordinal = 0;
+    Variant value;
+};
+
+/// How a result may be walked and written; the codes are those of a recordset's `CursorType` and `LockType`.
+enum class CursorType : int { ForwardOnly = 0, Keyset = 1, Dynamic = 2, Static = 3 };
+enum class LockType : int { ReadOnly = 1, Pessimistic = 2, Optimistic = 3, BatchOptimistic = 4 };
+
+/// The provider's side of an open recordset: one result, walked forward. Made by `Connection::openCursor`, already on its
+/// first row. Hosts use `Recordset`.
+class Cursor {
+public:
+    virtual ~Cursor() = default;
+
+    virtual std::span<const ColumnInfo> columns() const = 0;
+    /// The ordinal of the column of that name (case does not count); -1 when there is none.
+    virtual int columnIndex(std::string_view name) const = 0;
+
+    virtual bool atEnd() const = 0;
+    /// To the next row. Only while not `atEnd`. Engine failures are raised.
+    virtual void moveNext() = 0;
+    /// The value of a column of the current row, Null included, into `value` (whose storage is reused).
+    virtual void value(int ordinal, Variant& value) const = 0;
+
+    /// The number of rows; -1 when it is not known without walking them.
+    virtual std::int32_t rowCount() const = 0;
+    /// The cursor type really given.
+    virtual CursorType cursorType() const = 0;
+    virtual LockType lockType() const = 0;
+
+    /// Writes the changed fields of the current row into its table, found by the table's key; the current row then shows them.
+    /// ReadOnlyRecordset when the result cannot be traced to the key of one table, or was not opened for writing.
+    virtual void update(std::span<const FieldChange> changes) = 0;
+};
+
+} // namespace Korvane::ado
