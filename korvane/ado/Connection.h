@@ -10,19 +10,20 @@
 
 namespace Korvane::ado {
 
-/// What a transaction is for: reading sees one snapshot and takes no write lock, writing takes the lock at once, so that a
-/// read followed by a write cannot lose against another writer half-way.
+/// What a transaction is for: reading sees one snapshot and takes no write lock, writing takes the lock at
+/// once, so that a read followed by a write cannot lose against another writer half-way.
 enum class TransactionFor { Reading, Writing };
 
-/// An open database. All statements are in the library's one SQL dialect (see docs/sql-dialect.md); the provider turns
-/// them into its engine's own.
+/// An open database. All statements are in the library's one SQL dialect (see docs/sql-dialect.md); the
+/// provider turns them into its engine's own.
 ///
 ///     auto db = ado::open("sqlite:clinic.db");
 ///     db->Execute("Update Encounter Set [Description]='Visit' Where EncounterID=12");
 ///
-/// Used by one thread. Failures are raised as `RuntimeError` with the engine's code; ObjectClosed when not open.
+/// Used by one thread. Failures are raised as `RuntimeError` with the engine's code; ObjectClosed when not
+/// open.
 class Connection : public std::enable_shared_from_this<Connection> {
-public:
+  public:
     virtual ~Connection() = default;
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -30,35 +31,40 @@ public:
     /// 1 while open, 0 once closed.
     virtual std::int32_t State() const = 0;
 
-    /// Runs a statement and returns the number of rows it inserted, updated or deleted (0 for any other statement; rows that
-    /// a statement returns are dropped). The schema may change with it.
+    /// Runs a statement and returns the number of rows it inserted, updated or deleted (0 for any other
+    /// statement; rows that a statement returns are dropped). The schema may change with it.
     virtual std::int32_t Execute(std::string_view statement) = 0;
 
     /// Begins a transaction, inside one that is open if there is one; returns its level, 1 for the outermost.
     virtual std::int32_t BeginTrans(TransactionFor use = TransactionFor::Writing) = 0;
-    /// End the innermost one. An error when none is open. After a failed `CommitTrans` the transaction is still open.
+    /// End the innermost one. An error when none is open. After a failed `CommitTrans` the transaction is
+    /// still open.
     virtual void CommitTrans() = 0;
     virtual void RollbackTrans() = 0;
     /// How many transactions begun here are open.
     virtual std::int32_t transactionLevel() const = 0;
 
-    /// Says which statements are about to run, in this order, so that a provider may send them together. The statements are
-    /// still run one by one by their callers. Does nothing on an engine that gains nothing.
+    /// Says which statements are about to run, in this order, so that a provider may send them together. The
+    /// statements are still run one by one by their callers. Does nothing on an engine that gains nothing.
     virtual void Announce(std::span<const std::string> statements);
 
-    /// Closes; open recordsets of this connection become closed. Rolls nothing back silently: TransactionOpen while a
-    /// transaction is open. A handle that a host lent is not closed, only let go of. Closing twice is an error (ObjectClosed).
+    /// Closes; open recordsets of this connection become closed. Rolls nothing back silently: TransactionOpen
+    /// while a transaction is open. A handle that a host lent is not closed, only let go of. Closing twice is
+    /// an error (ObjectClosed).
     virtual void Close() = 0;
 
     /// Opens a result for a `Recordset`. A statement that returns no rows gives null.
-    virtual std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType, LockType lockType) = 0;
+    virtual std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
+                                               LockType lockType) = 0;
 
-protected:
+  protected:
     Connection() = default;
 };
 
-/// Opens a database by its address: "sqlite:clinic.db", "sqlite:/var/lib/clinic/clinic.db", "sqlite::memory:"; for SQLite,
-/// "?mode=ro" opens read-only. A file that does not exist is created. Raises a RuntimeError that says what was wrong.
+/// Opens a database by its address: "sqlite:clinic.db", "sqlite:/var/lib/clinic/clinic.db",
+/// "sqlite::memory:"; for SQLite,
+/// "?mode=ro" opens read-only. A file that does not exist is created. Raises a RuntimeError that says what
+/// was wrong.
 std::shared_ptr<Connection> open(std::string_view address);
 
 } // namespace Korvane::ado

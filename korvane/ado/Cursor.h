@@ -28,10 +28,10 @@ struct FieldChange {
 enum class CursorType : int { ForwardOnly = 0, Keyset = 1, Dynamic = 2, Static = 3 };
 enum class LockType : int { ReadOnly = 1, Pessimistic = 2, Optimistic = 3, BatchOptimistic = 4 };
 
-/// The provider's side of an open recordset: one result, walked forward. Made by `Connection::openCursor`, already on its
-/// first row. Hosts use `Recordset`.
+/// The provider's side of an open recordset: one result, walked forward. Made by `Connection::openCursor`,
+/// already on its first row. Hosts use `Recordset`.
 class Cursor {
-public:
+  public:
     virtual ~Cursor() = default;
 
     virtual std::span<const ColumnInfo> columns() const = 0;
@@ -50,8 +50,9 @@ public:
     virtual CursorType cursorType() const = 0;
     virtual LockType lockType() const = 0;
 
-    /// Writes the changed fields of the current row into its table, found by the table's key; the current row then shows them.
-    /// ReadOnlyRecordset when the result cannot be traced to the key of one table, or was not opened for writing.
+    /// Writes the changed fields of the current row into its table, found by the table's key; the current row
+    /// then shows them. ReadOnlyRecordset when the result cannot be traced to the key of one table, or was
+    /// not opened for writing.
     virtual void update(std::span<const FieldChange> changes) = 0;
 };
 

@@ -19,7 +19,8 @@ enum class DataType : int {
     LongVarBinary = 205,
 };
 
-/// Whether a null of that type reads as the number 0 (otherwise as the empty text): the types 2, 3, 4, 5, 6, 11, 131.
+/// Whether a null of that type reads as the number 0 (otherwise as the empty text): the types 2, 3, 4, 5, 6,
+/// 11, 131.
 bool IsNumericField(DataType type);
 
 } // namespace Korvane::ado

@@ -13,7 +13,7 @@ namespace Korvane::ado {
 ///
 ///     rs.Value("PatientID");   rs.Value(2);
 class FieldKey {
-public:
+  public:
     FieldKey(const char* name) : mName(name) {}
     FieldKey(std::string_view name) : mName(name) {}
     FieldKey(const std::string& name) : mName(name) {}
@@ -27,7 +27,7 @@ public:
     /// The name, or the ordinal in decimal.
     std::string text() const;
 
-private:
+  private:
     std::string_view mName{};
     int mOrdinal = -1;
 };

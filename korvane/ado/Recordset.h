@@ -14,10 +14,10 @@ namespace Korvane::ado {
 
 class Recordset;
 
-/// A field of an open recordset, as it stands in the current row. Every use after the recordset was closed, reopened or
-/// released raises ObjectClosed.
+/// A field of an open recordset, as it stands in the current row. Every use after the recordset was closed,
+/// reopened or released raises ObjectClosed.
 class Field {
-public:
+  public:
     std::string Name() const;
     DataType Type() const;
     /// Characters; 0 when the type has no length.
@@ -27,7 +27,7 @@ public:
     /// Takes effect in the table with `Recordset::Update`. ReadOnlyRecordset unless opened for writing.
     void Value(const Variant& value) const;
 
-private:
+  private:
     friend class Recordset;
     Field(std::weak_ptr<Recordset> owner, int ordinal, std::uint32_t opening);
     std::shared_ptr<Recordset> owner() const;
@@ -45,9 +45,10 @@ private:
 ///     for (; !rs->Eof(); rs->MoveNext()) use(rs->Value("PatientID"));
 ///     rs->Close();
 ///
-/// A new one is closed, forward-only and read-only. Members that need rows raise ObjectClosed while it is closed.
+/// A new one is closed, forward-only and read-only. Members that need rows raise ObjectClosed while it is
+/// closed.
 class Recordset : public std::enable_shared_from_this<Recordset> {
-public:
+  public:
     /// Codes of `Supports`.
     enum Capability : std::int32_t { Update_ = 16777216, Bookmark = 8192, ApproximatePosition = 16384 };
 
@@ -63,15 +64,16 @@ public:
     ado::LockType LockType() const;
     void LockType(ado::LockType type);
 
-    /// Runs the statement and stands on its first row. A statement that returns no rows runs and leaves the recordset closed.
-    /// ObjectOpen when already open, InvalidConnection without a connection, ObjectClosed when that is closed.
+    /// Runs the statement and stands on its first row. A statement that returns no rows runs and leaves the
+    /// recordset closed. ObjectOpen when already open, InvalidConnection without a connection, ObjectClosed
+    /// when that is closed.
     void Open(std::string_view source, const std::shared_ptr<Connection>& connection);
 
     /// Drops pending changes. ObjectClosed when not open.
     void Close();
 
-    /// Whether everything in the sum of capabilities is there: bookmarks and approximate position for static and keyset
-    /// cursors (a dynamic one is given as keyset), updating for a lock type other than read-only.
+    /// Whether everything in the sum of capabilities is there: bookmarks and approximate position for static
+    /// and keyset cursors (a dynamic one is given as keyset), updating for a lock type other than read-only.
     bool Supports(std::int32_t capabilities) const;
 
     /// The number of rows; -1 for a forward-only one.
@@ -79,7 +81,8 @@ public:
 
     bool Eof() const;
 
-    /// To the next row; pending changes of the current one are written first. NoCurrentRecord when already at the end.
+    /// To the next row; pending changes of the current one are written first. NoCurrentRecord when already at
+    /// the end.
     void MoveNext();
 
     std::int32_t FieldCount() const;
@@ -87,18 +90,20 @@ public:
     Field Fields(const FieldKey& key) const;
     DataType FieldType(const FieldKey& key) const;
 
-    /// The value in the current row, Null included. NoCurrentRecord at the end, ItemNotFound for an unknown field.
+    /// The value in the current row, Null included. NoCurrentRecord at the end, ItemNotFound for an unknown
+    /// field.
     Variant Value(const FieldKey& key) const;
     /// The same into a variant whose storage is reused: for walking many rows.
     void Value(const FieldKey& key, Variant& value) const;
     /// Changes the current row; written by `Update`. ReadOnlyRecordset unless opened for writing.
     void SetValue(const FieldKey& key, const Variant& value);
 
-    /// Writes the pending changes of the current row into its table. On failure they stay pending. Nothing pending: nothing happens.
+    /// Writes the pending changes of the current row into its table. On failure they stay pending. Nothing
+    /// pending: nothing happens.
     void Update();
     void CancelUpdate();
 
-private:
+  private:
     Recordset();
     friend class Field;
     struct Opened;

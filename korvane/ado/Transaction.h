@@ -10,7 +10,7 @@ namespace Korvane::ado {
 ///     db->Execute(...);
 ///     work.commit();
 class Transaction {
-public:
+  public:
     explicit Transaction(Connection& connection, TransactionFor use = TransactionFor::Writing);
     /// Rolls back when not committed; never raises.
     ~Transaction();
@@ -20,7 +20,7 @@ public:
     /// Raises when the commit fails; the transaction is then rolled back by the destructor.
     void commit();
 
-private:
+  private:
     Connection& mConnection;
     bool mOpen = false;
 };

@@ -7,10 +7,10 @@ namespace Korvane {
 
 /// What the library knows of the application it runs in.
 class App {
-public:
+  public:
     /// The directory of the error files, without a separator at its end. Until a host sets it:
-    /// $XDG_STATE_HOME/korvane, or $HOME/.local/state/korvane, or "korvane" in the temporary directory; made (for its
-    /// owner alone) when it is first asked for.
+    /// $XDG_STATE_HOME/korvane, or $HOME/.local/state/korvane, or "korvane" in the temporary directory; made
+    /// (for its owner alone) when it is first asked for.
     static std::string Path();
     /// Taken as given; the directory must exist. An empty text goes back to the default.
     static void Path(std::string_view directory);

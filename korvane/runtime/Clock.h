@@ -11,7 +11,7 @@ namespace Korvane {
 ///     Clock::set([] { return Date::of(2026, 11, 15, 17, 21, 51); });   // in a test or a demonstration
 ///     Clock::set(nullptr);                                            // the system's clock again
 class Clock {
-public:
+  public:
     using Source = std::function<Date()>;
 
     static Date now();

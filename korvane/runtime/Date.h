@@ -8,16 +8,18 @@
 
 namespace Korvane {
 
-/// A point in local time, kept as a day number: whole days since 30 December 1899, the time of day as the fraction.
-/// Before day 0 the fraction still counts forward from midnight: -0.25 is 30 December 1899 6:00 AM, -1.25 is 29 December 6:00 AM.
+/// A point in local time, kept as a day number: whole days since 30 December 1899, the time of day as the
+/// fraction. Before day 0 the fraction still counts forward from midnight: -0.25 is 30 December 1899 6:00 AM,
+/// -1.25 is 29 December 6:00 AM.
 ///
 ///     Date d = Date::of(2026, 11, 15, 17, 21, 51);
 ///     d.text();      // "11/15/2026 5:21:51 PM"
 ///     d.isoText();   // "2026-11-15 17:21:51"
 ///
-/// Range: 1 January 100 to 31 December 9999. Resolution in texts and parts: one second, rounded to the nearest.
+/// Range: 1 January 100 to 31 December 9999. Resolution in texts and parts: one second, rounded to the
+/// nearest.
 class Date {
-public:
+  public:
     struct Parts {
         int year = 1899, month = 12, day = 30, hour = 0, minute = 0, second = 0;
         int weekday = 6; ///< 0 = Sunday
@@ -29,12 +31,14 @@ public:
     constexpr Date() = default;
     constexpr explicit Date(double dayNumber) : mDays(dayNumber) {}
 
-    /// Parts out of range roll over (month 13 is January of the next year). Overflow outside the range of years.
-    /// A year of 0 to 29 means 2000 to 2029, one of 30 to 99 means 1930 to 1999.
+    /// Parts out of range roll over (month 13 is January of the next year). Overflow outside the range of
+    /// years. A year of 0 to 29 means 2000 to 2029, one of 30 to 99 means 1930 to 1999.
     static Date of(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
 
-    /// As `of`, but nothing rolls over and the year stands as given (100 to 9999): nothing when no such moment exists.
-    static std::optional<Date> exactly(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
+    /// As `of`, but nothing rolls over and the year stands as given (100 to 9999): nothing when no such
+    /// moment exists.
+    static std::optional<Date> exactly(int year, int month, int day, int hour = 0, int minute = 0,
+                                       int second = 0);
 
     constexpr double dayNumber() const { return mDays; }
 
@@ -54,12 +58,13 @@ public:
     friend constexpr auto operator<=>(const Date& a, const Date& b) { return a.mDays <=> b.mDays; }
     friend constexpr bool operator==(const Date& a, const Date& b) { return a.mDays == b.mDays; }
 
-private:
+  private:
     double mDays = 0.0;
 };
 
-/// Reads a text as a date the way the general conversion does (en-US, month before day; two-digit years 00-29 are
-/// 2000s). A date without a year takes `currentYear`; a time alone lies on day 0. Nothing when it is no date.
+/// Reads a text as a date the way the general conversion does (en-US, month before day; two-digit years 00-29
+/// are 2000s). A date without a year takes `currentYear`; a time alone lies on day 0. Nothing when it is no
+/// date.
 ///
 ///     parseDate("2 January, 1970", 2026);   // 1970-01-02
 ///     parseDate("8:30 PM", 2026);           // 1899-12-30 20:30

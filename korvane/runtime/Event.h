@@ -10,12 +10,12 @@ namespace Korvane {
 /// Keeps a listener connected for as long as it lives; dropping it disconnects. An empty handle does nothing.
 /// It may outlive the event it belongs to.
 class EventHandle {
-public:
+  public:
     EventHandle() = default;
     explicit EventHandle(std::shared_ptr<void> link) : mLink(std::move(link)) {}
     void disconnect() { mLink.reset(); }
 
-private:
+  private:
     std::shared_ptr<void> mLink;
 };
 
@@ -25,12 +25,12 @@ private:
 ///     EventHandle h = Saved.connect([](std::int32_t id) { ... });
 ///     Saved.raise(12);
 ///
-/// Listeners are called in the order in which they connected, on the raiser's thread. A listener may connect or
-/// disconnect (also itself) while it is called: one connected meanwhile is called from the next time on. What a
-/// listener throws goes to the raiser, and the listeners behind it are not called.
+/// Listeners are called in the order in which they connected, on the raiser's thread. A listener may connect
+/// or disconnect (also itself) while it is called: one connected meanwhile is called from the next time on.
+/// What a listener throws goes to the raiser, and the listeners behind it are not called.
 template <typename... Args>
 class Event {
-public:
+  public:
     using Listener = std::function<void(Args...)>;
 
     [[nodiscard]] EventHandle connect(Listener listener) {
@@ -47,7 +47,7 @@ public:
         }
     }
 
-private:
+  private:
     std::vector<std::weak_ptr<Listener>> mListeners;
 };
 

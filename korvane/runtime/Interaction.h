@@ -24,10 +24,11 @@ enum : int {
 /// What the user answered.
 enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
-/// How the library talks to its user. One is in force at a time (`Interaction::current`): a host with windows installs
-/// one that shows boxes; the default writes messages to standard error and answers for nobody (Cancel or No).
+/// How the library talks to its user. One is in force at a time (`Interaction::current`): a host with windows
+/// installs one that shows boxes; the default writes messages to standard error and answers for nobody
+/// (Cancel or No).
 class Interaction {
-public:
+  public:
     virtual ~Interaction() = default;
 
     /// Shows a message and waits for the answer. An empty title is allowed.

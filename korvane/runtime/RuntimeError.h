@@ -12,7 +12,7 @@ namespace Korvane {
 ///
 /// A database failure carries, beside one of the numbers below, the engine's own code (`NativeCode`).
 class RuntimeError : public std::runtime_error {
-public:
+  public:
     enum Code : int {
         InvalidProcedureCall = 5,
         Overflow = 6,
@@ -47,7 +47,7 @@ public:
     /// The database engine's own code; 0 when no engine was involved.
     int NativeCode() const noexcept { return mNativeCode; }
 
-private:
+  private:
     int mNumber;
     std::string mDescription;
     int mNativeCode = 0;
@@ -57,7 +57,8 @@ private:
 ///
 ///     catch (...) { ErrLog("Error in cNip.Save: " + currentError().Description()); }
 ///
-/// An exception that is no `RuntimeError` reads as number 5 with its `what()` text (std::bad_alloc as number 7).
+/// An exception that is no `RuntimeError` reads as number 5 with its `what()` text (std::bad_alloc as number
+/// 7).
 RuntimeError currentError();
 
 } // namespace Korvane

@@ -16,8 +16,8 @@ bool sameName(std::string_view a, std::string_view b);
 /// Without blanks at both ends (blanks only: line breaks and tabs stay).
 std::string_view trim(std::string_view text);
 
-/// Whether a text reads as a number: blanks around it, a sign before or behind, "$", thousands commas, a decimal point,
-/// an exponent, "&H" and "&O" forms. Empty text is no number.
+/// Whether a text reads as a number: blanks around it, a sign before or behind, "$", thousands commas, a
+/// decimal point, an exponent, "&H" and "&O" forms. Empty text is no number.
 bool isNumeric(std::string_view text);
 
 /// The number that `isNumeric` would accept; nothing otherwise.

@@ -62,7 +62,7 @@ enum class VarType : std::uint16_t {
 ///     v.text();                    // "7"
 ///     compare(v, Variant("7"));    // see `compare`
 class Variant {
-public:
+  public:
     struct EmptyValue {
         friend bool operator==(EmptyValue, EmptyValue) = default;
     };
@@ -94,8 +94,8 @@ public:
     bool isText() const { return std::holds_alternative<std::string>(mValue); }
     bool isArray() const { return std::holds_alternative<std::shared_ptr<VariantArray>>(mValue); }
 
-    /// The value's text in the en-US forms: "True"/"False", numbers in their plain form ("2.5", "1E+15"), dates in the
-    /// general date form, Empty as "". InvalidUseOfNull for Null, TypeMismatch for an array.
+    /// The value's text in the en-US forms: "True"/"False", numbers in their plain form ("2.5", "1E+15"),
+    /// dates in the general date form, Empty as "". InvalidUseOfNull for Null, TypeMismatch for an array.
     std::string text() const;
 
     /// The text joined to an empty text: as `text`, but Null gives "".
@@ -107,9 +107,9 @@ public:
     /// Makes this a text, keeping the storage of a text that is already there.
     void setText(std::string_view text);
 
-    /// Numeric conversions: from numbers, booleans (True is -1), dates (the day number), Empty (0) and numeric text.
-    /// Fractions round half to even. Overflow when it does not fit, TypeMismatch for other text and for arrays,
-    /// InvalidUseOfNull for Null.
+    /// Numeric conversions: from numbers, booleans (True is -1), dates (the day number), Empty (0) and
+    /// numeric text. Fractions round half to even. Overflow when it does not fit, TypeMismatch for other text
+    /// and for arrays, InvalidUseOfNull for Null.
     std::int16_t toInt16() const;
     std::int32_t toInt32() const;
     float toSingle() const;
@@ -119,7 +119,8 @@ public:
     /// Errors as above.
     bool toBoolean() const;
 
-    /// From a date, a number (a day number), or text that reads as a date. Empty is the zero date. Errors as above.
+    /// From a date, a number (a day number), or text that reads as a date. Empty is the zero date. Errors as
+    /// above.
     Date toDate() const;
 
     /// The array held. TypeMismatch when this is not one.
@@ -130,20 +131,21 @@ public:
     /// Same kind and same value; for the ordering of unlike kinds see `compare`.
     friend bool operator==(const Variant& a, const Variant& b);
 
-    using Storage = std::variant<EmptyValue, NullValue, std::int16_t, std::int32_t, float, double, Currency, Date,
-                                 std::string, bool, Decimal, std::uint8_t, std::shared_ptr<VariantArray>>;
+    using Storage =
+        std::variant<EmptyValue, NullValue, std::int16_t, std::int32_t, float, double, Currency, Date,
+                     std::string, bool, Decimal, std::uint8_t, std::shared_ptr<VariantArray>>;
     const Storage& storage() const { return mValue; }
 
-private:
+  private:
     Storage mValue;
 };
 
 /// The result of comparing two variants; `Null` when either is Null.
 enum class Comparison { Less, Equal, Greater, Null };
 
-/// Compares as the language's own comparison does: numbers by value, texts by their characters (`a` before `B`
-/// regardless of case only in `compareText`), a number is less than any text, Empty is 0 beside a number and "" beside
-/// a text, a date beside a number is its day number. TypeMismatch for arrays.
+/// Compares as the language's own comparison does: numbers by value, texts by their characters (`a` before
+/// `B` regardless of case only in `compareText`), a number is less than any text, Empty is 0 beside a number
+/// and "" beside a text, a date beside a number is its day number. TypeMismatch for arrays.
 Comparison compare(const Variant& a, const Variant& b);
 
 } // namespace Korvane

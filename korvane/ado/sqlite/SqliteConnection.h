@@ -10,15 +10,17 @@ struct sqlite3;
 
 namespace Korvane::ado::sqlite {
 
-/// Opens a database file (or ":memory:") with the settings that suit a clinic on a local disk: write-ahead logging with
-/// full synchronisation, a busy timeout, foreign keys on. Raises when the file cannot be opened or is no database.
+/// Opens a database file (or ":memory:") with the settings that suit a clinic on a local disk: write-ahead
+/// logging with full synchronisation, a busy timeout, foreign keys on. Raises when the file cannot be opened
+/// or is no database.
 std::shared_ptr<Connection> open(std::string_view path, bool readOnly = false);
 
-/// Works on a handle that the host opened and goes on owning: its settings are left as they are, it is never closed
-/// here, and it must outlive the connection's use. A transaction that the host has open is joined.
+/// Works on a handle that the host opened and goes on owning: its settings are left as they are, it is never
+/// closed here, and it must outlive the connection's use. A transaction that the host has open is joined.
 std::shared_ptr<Connection> adopt(sqlite3* handle);
 
-/// How long a statement waits for another writer before it fails. 5 seconds unless set; only connections of this provider.
+/// How long a statement waits for another writer before it fails. 5 seconds unless set; only connections of
+/// this provider.
 void setBusyTimeout(Connection& connection, std::chrono::milliseconds timeout);
 
 } // namespace Korvane::ado::sqlite

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <korvane/ado/Connection.h>
+#include <korvane/nip/FieldRecord.h>
+#include <korvane/runtime/Variant.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvane {
+
+/// The model of a Nip: its groups, the fields of each group, each field's allowed values and its value for
+/// one encounter.
+///
+///     cNIP nip;
+///     if (nip.LoadStructure(db) && nip.Load(12, "P-0042", false)) {
+///         nip.value(1, 3, "37.2");
+///         nip.Save();
+///     }
+///
+/// Groups and fields are addressed by 16-bit indexes counted from 1, the group first. A get with a negative
+/// index returns the empty value of its type; an index above the table's bounds (the number of groups; the
+/// largest number of fields of any group) raises SubscriptOutOfRange. Row 0 and column 0 exist and are empty,
+/// and so are the fields behind the last one of a shorter group.
+class cNIP {
+  public:
+    cNIP();
+    ~cNIP();
+    cNIP(const cNIP&) = delete;
+    cNIP& operator=(const cNIP&) = delete;
+
+    std::int16_t GroupCount() const;
+    /// Fields of a group, and rows of its layout grid.
+    std::int16_t FieldCount(std::int16_t group) const;
+    std::int16_t RowCount(std::int16_t group) const;
+    std::int16_t RowCountMax() const;
+
+    const std::string& TableName(std::int16_t group, std::int16_t field) const;
+    const std::string& GroupName(std::int16_t group, std::int16_t field) const;
+    std::int32_t GroupID(std::int16_t group, std::int16_t field) const;
+    /// The name of a group, also of one without fields.
+    const std::string& GroupName(std::int16_t group) const;
+
+    const std::string& fieldName(std::int16_t group, std::int16_t field) const;
+    /// A different name is kept beside the stored one and marks the field as changed; `fieldName` stays until
+    /// it is saved.
+    void fieldName(std::int16_t group, std::int16_t field, std::string_view name);
+    const std::string& Caption(std::int16_t group, std::int16_t field) const;
+    void Caption(std::int16_t group, std::int16_t field, std::string_view caption);
+    std::int16_t maxLength(std::int16_t group, std::int16_t field) const;
+    void maxLength(std::int16_t group, std::int16_t field, std::int16_t length);
+    const std::string& dataType(std::int16_t group, std::int16_t field) const;
+    const std::string& displayType(std::int16_t group, std::int16_t field) const;
+    void displayType(std::int16_t group, std::int16_t field, std::string_view type);
+    std::int16_t ControlIndex(std::int16_t group, std::int16_t field) const;
+    void ControlIndex(std::int16_t group, std::int16_t field, std::int16_t index);
+    std::int16_t ControlIndexLabel(std::int16_t group, std::int16_t field) const;
+    void ControlIndexLabel(std::int16_t group, std::int16_t field, std::int16_t index);
+    std::int16_t InitialValueRule(std::int16_t group, std::int16_t field) const;
+    void InitialValueRule(std::int16_t group, std::int16_t field, std::int16_t rule);
+    std::int16_t RowIndex(std::int16_t group, std::int16_t field) const;
+    void RowIndex(std::int16_t group, std::int16_t field, std::int16_t row);
+    std::int16_t ColIndex(std::int16_t group, std::int16_t field) const;
+    void ColIndex(std::int16_t group, std::int16_t field, std::int16_t column);
+    float Ordinal(std::int16_t group, std::int16_t field) const;
+    void Ordinal(std::int16_t group, std::int16_t field, float ordinal);
+    const Variant& DefaultValue(std::int16_t group, std::int16_t field) const;
+    void DefaultValue(std::int16_t group, std::int16_t field, const Variant& value);
+    const Variant& value(std::int16_t group, std::int16_t field) const;
+    void value(std::int16_t group, std::int16_t field, const Variant& value);
+
+    /// The allowed values, and the chosen ones of a list field: arrays from 0 whose element 0 is empty, the
+    /// first entry at 1.
+    const Variant& ValueList(std::int16_t group, std::int16_t field) const;
+    void ValueList(std::int16_t group, std::int16_t field, const Variant& values);
+    std::int16_t ValueListCount(std::int16_t group, std::int16_t field) const;
+    void ValueListCount(std::int16_t group, std::int16_t field, std::int16_t count);
+    const Variant& ChoiceList(std::int16_t group, std::int16_t field) const;
+    void ChoiceList(std::int16_t group, std::int16_t field, const Variant& values);
+    std::int16_t ChoiceListCount(std::int16_t group, std::int16_t field) const;
+    void ChoiceListCount(std::int16_t group, std::int16_t field, std::int16_t count);
+
+    /// The encounter whose rows `Save` writes: set once a new encounter has been given its identifier.
+    void EncounterID(std::int32_t id);
+
+    /// Loads groups, fields and allowed values; what was held before is lost, values included. False without
+    /// a connection (nothing changes then) or after a database failure, which is written to the error log.
+    bool LoadStructure(const std::shared_ptr<ado::Connection>& connection);
+
+    /// Fills every field's value for an encounter; for a new one from the defaults or, where the field says
+    /// so, from the patient's latest encounter. False after a database failure.
+    bool Load(std::int32_t encounterID, std::string_view patientID, bool newEncounter);
+
+    /// Writes every group's row for the encounter, updating or inserting it, all in one transaction. False,
+    /// with a line in the error log and nothing written, after a failure.
+    bool Save();
+
+  private:
+    struct Group;
+
+    const FieldRecord& at(std::int16_t group, std::int16_t field) const;
+    FieldRecord& at(std::int16_t group, std::int16_t field);
+    const Group& groupAt(std::int16_t group) const;
+
+    std::shared_ptr<ado::Connection> mConnection;
+    std::vector<Group> mGroups;
+    std::int16_t mFieldCountMax = 0;
+    std::int16_t mRowCountMax = 0;
+    bool mStructureLoaded = false;
+    std::int32_t mEncounterID = 0;
+    std::string mPatientID;
+    bool mNewEncounter = false;
+};
+
+} // namespace Korvane

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <korvane/ado/Connection.h>
+#include <korvane/runtime/Variant.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Korvane {
+
+/// One row of the table `Attachment`: a file that belongs to an encounter.
+///
+///     Attachment a;
+///     a.Connection(db);
+///     a.EncounterID(12);
+///     a.FileName("scan.png");
+///     a.Save();                       // inserted, AttachmentID is now set
+///
+/// A new one is not stored: its `AttachmentID` is Empty. Database failures are reported to the user by
+/// `SQLData`.
+class Attachment {
+  public:
+    Attachment() = default;
+
+    /// Empty until stored; text after a load, a number after an insert.
+    const Variant& AttachmentID() const { return mAttachmentID; }
+    /// Stores the identifier and loads its row; without a row every field is empty. An identifier that is not
+    /// a whole number finds nothing.
+    void AttachmentID(const Variant& id);
+
+    const std::string& Archived() const { return mArchived; }
+    void Archived(std::string_view value);
+    const std::string& AttachmentType() const { return mAttachmentType; }
+    void AttachmentType(std::string_view value);
+    /// The name of the category `CategoryID`, counted from 0. SubscriptOutOfRange outside 0 to 6.
+    const std::string& Category() const;
+    const std::string& CategoryID() const { return mCategoryID; }
+    void CategoryID(std::string_view value);
+    void Connection(std::shared_ptr<ado::Connection> connection);
+    bool Deleted() const { return mDeleted; }
+    /// Marks as deleted, whatever value is given: an attachment is never undeleted this way.
+    void Deleted(bool value);
+    const std::string& Description() const { return mDescription; }
+    void Description(std::string_view value);
+    std::int32_t EncounterID() const { return mEncounterID; }
+    void EncounterID(std::int32_t value);
+    /// Text that is no date is ignored; the same date in other words changes nothing.
+    const std::string& EntryDate() const { return mEntryDate; }
+    void EntryDate(std::string_view value);
+    const std::string& FileName() const { return mFileName; }
+    void FileName(std::string_view value);
+    const std::string& InUseBy() const { return mInUseBy; }
+    void InUseBy(std::string_view value);
+    bool Locked() const { return mLocked; }
+    void Locked(bool value);
+    const std::string& Orientation() const { return mOrientation; }
+    void Orientation(std::string_view value);
+    const std::string& Origin() const { return mOrigin; }
+    void Origin(std::string_view value);
+    /// As `EntryDate`.
+    const std::string& OriginDate() const { return mOriginDate; }
+    void OriginDate(std::string_view value);
+
+    /// Name and number in turn ("Audio", "1", ... "Other", "7"), an array from 0 to 13. The numbers are one
+    /// more than the matching `CategoryID`.
+    Variant ListCategories() const;
+
+    /// Inserts with the next free identifier, or updates. False, with a line in the error log, when
+    /// `EncounterID` is below 0. The outcome of the statement itself is not told.
+    bool Save();
+
+    /// False, with a message of level 2 in the message log, when there is no such row. The file itself stays.
+    bool Delete();
+
+  private:
+    bool SaveObjectToDatabase();
+    bool DeleteObjectFromDatabase(std::string_view id);
+    void LoadObjectFromDatabase(std::string_view id);
+
+    Variant mAttachmentID;
+    std::string mArchived, mAttachmentType, mCategoryID, mDescription, mEntryDate, mFileName, mInUseBy,
+        mOrientation, mOrigin, mOriginDate;
+    std::int32_t mEncounterID = 0;
+    bool mDeleted = false;
+    bool mLocked = false;
+    bool mChanged = false;
+    std::shared_ptr<ado::Connection> mConnection;
+};
+
+} // namespace Korvane

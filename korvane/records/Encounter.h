@@ -1,0 +1,89 @@
+#pragma once
+
+#include <korvane/ado/Connection.h>
+#include <korvane/records/Attachment.h>
+#include <korvane/runtime/Clock.h>
+#include <korvane/runtime/Event.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvane {
+
+/// One row of the table `Encounter`: a patient's contact with a provider.
+///
+///     Encounter e;
+///     e.Connection(db);
+///     e.PatientID("P-0042");
+///     e.ProviderID(3);
+///     e.Save();                       // inserted; EncounterID is now set, SavedNewEncounter was raised
+///
+/// A new one has the `EncounterID` -1 (not stored), the provider -1, method 1, outgoing, the current date and
+/// time, and no attachments. Database failures are reported to the user by `SQLData`.
+class Encounter {
+  public:
+    Encounter() = default;
+
+    /// Raised when a new row has been inserted and `EncounterID` is its identifier; also when that insert
+    /// failed.
+    Event<> SavedNewEncounter;
+
+    std::int32_t EncounterID() const { return mEncounterID; }
+    /// Stores the identifier and loads its row; without a row numbers are 0, texts empty and the date the
+    /// zero date.
+    void EncounterID(std::int32_t id);
+    std::int16_t AttachmentCount() const;
+    /// Adds it under the text of its identifier. DuplicateKey when there is one with that identifier.
+    void AttachmentLet(std::shared_ptr<Attachment> attachment);
+    const std::string& Description() const { return mDescription; }
+    void Description(std::string_view value) { mDescription = value; }
+    Date EncounterDate() const { return mEncounterDate; }
+    void EncounterDate(Date value) { mEncounterDate = value; }
+    void LocationID(std::int16_t value) { mLocationID = value; }
+    void MethodID(std::int16_t value) { mMethodID = value; }
+    void Outgoing(bool value) { mOutgoing = value; }
+    std::int32_t ProviderID() const { return mProviderID; }
+    void ProviderID(std::int32_t value) { mProviderID = value; }
+    const std::string& PatientID() const { return mPatientID; }
+    void PatientID(std::string_view value) { mPatientID = value; }
+    void Transport(std::int32_t value) { mTransport = value; }
+    void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
+
+    /// Deletes the row, or writes a line to the error log when there is none. Always false. Attachments stay.
+    bool Delete();
+
+    /// Inserts with the next free identifier, or updates. False, with a line in the error log, when the
+    /// method, patient, provider or location is invalid (in this order). The outcome of the statement itself
+    /// is not told.
+    bool Save();
+
+    /// Replaces the collection by the attachments stored for this encounter.
+    void LoadAttachments();
+
+    /// The attachment at an index counted from 1. True, and nothing in `attachment`, when the index is above
+    /// the count. SubscriptOutOfRange below 1. For use within the library.
+    bool AttachmentGet(std::int16_t index, std::shared_ptr<Attachment>& attachment) const;
+
+  private:
+    bool SaveObjectToDatabase();
+    bool DeleteObjectFromDatabase(std::string_view id);
+    void LoadObjectFromDatabase();
+
+    std::int32_t mEncounterID = -1;
+    std::int32_t mMethodID = 1;
+    std::string mPatientID;
+    std::int32_t mProviderID = -1;
+    std::int32_t mForeignProviderID = 0;
+    std::int32_t mLocationID = 0;
+    Date mEncounterDate = Clock::now();
+    bool mOutgoing = true;
+    std::string mDescription;
+    std::int32_t mTransport = 0;
+    std::shared_ptr<ado::Connection> mConnection;
+    std::vector<std::shared_ptr<Attachment>> mAttachments;
+};
+
+} // namespace Korvane
