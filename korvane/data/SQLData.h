@@ -1,6 +1,7 @@
 #pragma once
 
 #include <korvane/ado/Recordset.h>
+#include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Variant.h>
 
 #include <cstdint>

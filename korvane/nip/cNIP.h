@@ -72,12 +72,13 @@ class cNIP {
     const Variant& value(std::int16_t group, std::int16_t field) const;
     void value(std::int16_t group, std::int16_t field, const Variant& value);
 
-    /// The allowed values, and the chosen ones of a list field: arrays from 0 whose element 0 is empty, the
-    /// first entry at 1.
+    /// The allowed values: an array from 0 whose element 0 is empty, the first value at index 1.
     const Variant& ValueList(std::int16_t group, std::int16_t field) const;
     void ValueList(std::int16_t group, std::int16_t field, const Variant& values);
     std::int16_t ValueListCount(std::int16_t group, std::int16_t field) const;
     void ValueListCount(std::int16_t group, std::int16_t field, std::int16_t count);
+    /// The chosen entries of a "LIST-MULTIPLE" or "LIST-EDITCONTENT" field: an array from 0, the first entry at index 0, as
+    /// many as `ChoiceListCount` says. `Save` stores them joined with "|" in place of `value`.
     const Variant& ChoiceList(std::int16_t group, std::int16_t field) const;
     void ChoiceList(std::int16_t group, std::int16_t field, const Variant& values);
     std::int16_t ChoiceListCount(std::int16_t group, std::int16_t field) const;

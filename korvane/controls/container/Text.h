@@ -1,0 +1,25 @@
+#pragma once
+
+#include <korvane/runtime/Date.h>
+
+#include <QDateTime>
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace Korvane {
+
+/// The data side keeps UTF-8, the controls show QString.
+inline QString qt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline std::string utf8(const QString& text) {
+    return text.toStdString();
+}
+
+/// To the second, local time as it stands (no time zone arithmetic).
+QDateTime qt(Date date);
+Date fromQt(const QDateTime& dateTime);
+
+} // namespace Korvane

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <korvane/ado/Connection.h>
+#include <korvane/controls/container/UserControl.h>
+
+#include <QDateTime>
+#include <QString>
+
+#include <memory>
+
+namespace Korvane {
+
+/// The Nip panel: a clinician enters, reviews and customizes one Nip for one patient in it. Each Nip saved is
+/// one encounter.
+///
+///     auto* panel = new ucNIPPanel(window);
+///     panel->Initialize(connection);
+///     connect(panel, &ucNIPPanel::CreatedNip, window, &Window::refresh);
+///     panel->CreateNip("P-0042");                 // or LoadNipInfo(12, "P-0042")
+///
+/// The connection is the host's: it is never opened or closed here. Failures inside are written to the error
+/// log; the user is asked before entries are thrown away and told when they could not be saved.
+class ucNIPPanel : public UserControl {
+    Q_OBJECT
+    Q_PROPERTY(QString PatientID READ PatientID)
+    Q_PROPERTY(bool CustomizeOnly READ CustomizeOnly WRITE CustomizeOnly)
+    Q_PROPERTY(bool AllowClosePanel READ AllowClosePanel WRITE AllowClosePanel)
+
+  public:
+    explicit ucNIPPanel(QWidget* parent = nullptr);
+    ~ucNIPPanel() override;
+
+    /// The patient whose Nip is shown; empty before the first create or load.
+    QString PatientID() const;
+
+    /// Whether the panel serves only to customize the structure. Default false.
+    bool CustomizeOnly() const;
+    void CustomizeOnly(bool on);
+
+    /// Whether the panel offers its close buttons. Default true.
+    bool AllowClosePanel() const;
+    void AllowClosePanel(bool on);
+
+    /// Saves the entered values (not the encounter pane, which the Save button saves first). When they cannot
+    /// be saved the user is told, nothing is raised and every entry stays.
+    void SaveNipInfo();
+
+    /// Gives the panel its connection, loads the structure and builds the entry controls. May be called
+    /// again.
+    void Initialize(const std::shared_ptr<ado::Connection>& connection);
+
+    /// Switches into customization mode.
+    void CustomizeNip();
+
+    /// Hands the identifier of an encounter just inserted to the model. Called by the encounter's own event.
+    void mEncounter_SavedNewEncounter();
+
+    /// Starts a new, empty Nip. False when the user wants to keep unsaved entries, or before `Initialize`.
+    bool CreateNip(const QString& patientID);
+
+    /// Shows a saved Nip. False as above, or when it cannot be read.
+    bool LoadNipInfo(qint32 encounterID, const QString& patientID);
+
+    void ReadProperties(const PropertyBag& bag) override;
+    void WriteProperties(PropertyBag& bag) const override;
+
+    /// Whether there are entries that are not saved.
+    bool isModified() const;
+
+    /// Runs the closing routine, as the Cancel button does; false when the user wants to go on. For a host
+    /// whose window closes.
+    bool requestClose();
+
+  signals:
+    void CloseNipPanel();
+    /// A Nip made by `CreateNip` was saved for the first time. An identifier above 32767 fails with an
+    /// overflow.
+    void CreatedNip(qint16 encounterID);
+    /// The description or date of an existing encounter was changed and saved.
+    void RenamedNip(qint16 encounterID, const QString& description, const QDateTime& encounterDate);
+    void modifiedChanged(bool modified);
+
+  private:
+    struct Members;
+    std::unique_ptr<Members> m;
+};
+
+} // namespace Korvane
