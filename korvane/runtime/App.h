@@ -9,8 +9,9 @@ namespace Korvane {
 class App {
   public:
     /// The directory of the error files, without a separator at its end. Until a host sets it:
-    /// $XDG_STATE_HOME/korvane, or $HOME/.local/state/korvane, or "korvane" in the temporary directory; made
-    /// (for its owner alone) when it is first asked for.
+    /// $XDG_STATE_HOME/korvane, or $HOME/.local/state/korvane, or "korvane-<user id>" in the temporary
+    /// directory, the first of them that can be written; made (for its owner alone) when it is first asked
+    /// for.
     static std::string Path();
     /// Taken as given; the directory must exist. An empty text goes back to the default.
     static void Path(std::string_view directory);

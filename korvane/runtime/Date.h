@@ -52,7 +52,8 @@ class Date {
     /// "2026-11-15 17:21:51", always with the time. Sorts as it stands. Overflow outside the range.
     std::string isoText() const;
 
-    /// Seconds since day 0, rounded: two dates that read the same are equal in it.
+    /// Seconds since day 0, rounded: two dates that read the same are equal in it. Overflow outside the
+    /// range.
     std::int64_t seconds() const;
 
     friend constexpr auto operator<=>(const Date& a, const Date& b) { return a.mDays <=> b.mDays; }
@@ -62,9 +63,14 @@ class Date {
     double mDays = 0.0;
 };
 
-/// Reads a text as a date the way the general conversion does (en-US, month before day; two-digit years 00-29
-/// are 2000s). A date without a year takes `currentYear`; a time alone lies on day 0. Nothing when it is no
-/// date.
+/// Reads a text as a date the way the general conversion does (en-US; two-digit years 00-29 are 2000s). A
+/// date without a year takes `currentYear`; a time alone lies on day 0. Nothing when it is no date.
+///
+/// Two or three numbers, one of which may be a month's name, with "/", "-", blanks or commas between them,
+/// make a date: month day year; else year month day; else year day month or day month year. Two numbers are
+/// month and day, else day and month, else a year and a month (its first day). Before or behind the date, or
+/// alone, stands a time: two or three numbers with ":" or "." between them, or AM or PM behind one to three.
+/// Names of weekdays are not read.
 ///
 ///     parseDate("2 January, 1970", 2026);   // 1970-01-02
 ///     parseDate("8:30 PM", 2026);           // 1899-12-30 20:30

@@ -37,6 +37,9 @@ class Interaction {
     /// Asks for one line of text; nothing when the user cancelled.
     virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title) = 0;
 
+    /// The answer of somebody who agrees to nothing: No, else Cancel, else Ok where that is the only button.
+    static Answer refusal(int style);
+
     static Interaction& current();
 
     /// Installs another one and returns the one before; null goes back to the default.

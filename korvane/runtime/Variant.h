@@ -83,7 +83,7 @@ class Variant {
     Variant(Date v) : mValue(v) {}
     Variant(std::string v) : mValue(std::move(v)) {}
     Variant(std::string_view v) : mValue(std::string(v)) {}
-    Variant(const char* v) : mValue(std::string(v)) {}
+    Variant(const char* v) : mValue(std::string(v ? v : "")) {} ///< a null pointer is an empty text
     Variant(VariantArray v);
 
     static Variant null() { return Variant(NullValue{}); }
@@ -105,7 +105,12 @@ class Variant {
     const std::string& asText() const;
 
     /// Makes this a text, keeping the storage of a text that is already there.
-    void setText(std::string_view text);
+    void setText(std::string_view text) {
+        if (auto* held = std::get_if<std::string>(&mValue))
+            held->assign(text);
+        else
+            mValue.emplace<std::string>(text);
+    }
 
     /// Numeric conversions: from numbers, booleans (True is -1), dates (the day number), Empty (0) and
     /// numeric text. Fractions round half to even. Overflow when it does not fit, TypeMismatch for other text
@@ -143,9 +148,11 @@ class Variant {
 /// The result of comparing two variants; `Null` when either is Null.
 enum class Comparison { Less, Equal, Greater, Null };
 
-/// Compares as the language's own comparison does: numbers by value, texts by their characters (`a` before
-/// `B` regardless of case only in `compareText`), a number is less than any text, Empty is 0 beside a number
-/// and "" beside a text, a date beside a number is its day number. TypeMismatch for arrays.
+/// Numbers compare by value, texts in the order of `compareTexts`; any number, boolean or date is less than
+/// any text. Empty is 0 beside a number and "" beside a text, True is -1, a date is its day number. A double
+/// or date beside a single counts with a single's precision; a fraction beside a currency with four decimals,
+/// beside a decimal with the 15 (7 for a single) digits it stands for. TypeMismatch for arrays, unless the
+/// other side is Null.
 Comparison compare(const Variant& a, const Variant& b);
 
 } // namespace Korvane

@@ -60,12 +60,6 @@ class RecordingInteraction : public Interaction {
         queue.pop_front();
         return front;
     }
-
-    static Answer refusal(int style) {
-        constexpr int buttons = 7;
-        if ((style & buttons) == MsgBoxStyle::OkOnly) return Answer::Ok;
-        return (style & buttons) == MsgBoxStyle::YesNo ? Answer::No : Answer::Cancel;
-    }
 };
 
 /// Puts a RecordingInteraction in force for as long as it lives.

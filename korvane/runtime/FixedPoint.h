@@ -1,0 +1,40 @@
+#pragma once
+
+#include <korvane/runtime/Variant.h>
+
+#include <compare>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace Korvane {
+
+/// The arithmetic behind Currency and Decimal: texts, conversions and exact comparison.
+
+/// The plain text, without zeros at the end of its decimals: "1.5".
+std::string fixedPointText(Currency value);
+std::string fixedPointText(const Decimal& value);
+
+double fixedPointToDouble(Currency value);
+double fixedPointToDouble(const Decimal& value);
+
+/// The nearest whole number, halves to the even one; nothing when it is beyond 64 bits.
+std::int64_t roundedToWhole(Currency value);
+std::optional<std::int64_t> roundedToWhole(const Decimal& value);
+
+/// Exact; an integer's scale is 0.
+Decimal toDecimal(std::int64_t value);
+Decimal toDecimal(Currency value);
+
+/// With the digits that a double (15) or a float (7) stands for. Nothing when it is beyond 96 bits or no
+/// number; what is smaller than 10^-28 is lost.
+std::optional<Decimal> toDecimal(double value);
+std::optional<Decimal> toDecimal(float value);
+
+/// Rounded to four decimals, halves to even. Nothing when it does not fit.
+std::optional<Currency> toCurrency(double value);
+
+/// By value, whatever the scales are. Negative zero equals zero.
+std::strong_ordering compareDecimals(const Decimal& a, const Decimal& b);
+
+} // namespace Korvane

@@ -1,0 +1,50 @@
+#include <korvane/runtime/Text.h>
+
+#include <algorithm>
+
+namespace Korvane {
+
+namespace {
+
+constexpr char upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+constexpr char lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+} // namespace
+
+std::string upperCase(std::string_view text) {
+    std::string out(text);
+    std::ranges::transform(out, out.begin(), upper);
+    return out;
+}
+
+std::string lowerCase(std::string_view text) {
+    std::string out(text);
+    std::ranges::transform(out, out.begin(), lower);
+    return out;
+}
+
+bool sameName(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && std::ranges::equal(a, b, {}, lower, lower);
+}
+
+std::string_view trim(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string escapeQuotes(std::string_view text) {
+    std::string out;
+    out.reserve(text.size());
+    for (const char c : text) {
+        if (c == '\'') out += c;
+        out += c;
+    }
+    return out;
+}
+
+} // namespace Korvane
