@@ -52,7 +52,11 @@ class SQLData {
 
     /// The field's value in the current row: never Null (a null number, a boolean included, reads as the
     /// 16-bit 0, anything else as ""), Empty at the end of the rows.
-    Variant Data(const ado::FieldKey& key);
+    Variant Data(const ado::FieldKey& key) { return DataView(key); }
+    /// The same without a copy, for reading many cells: stands until the next use of this object.
+    ///
+    ///     kept = query.DataView("Description");      // reuses the storage of the text kept so far
+    const Variant& DataView(const ado::FieldKey& key);
     /// Changes the field in the current row; only in mode 2. A value equal to the current one changes
     /// nothing.
     void Data(const ado::FieldKey& key, const Variant& value);
@@ -60,7 +64,8 @@ class SQLData {
     /// 0 without a result or when it is closed, 1 when open.
     std::int32_t State() const;
     bool Eof();
-    /// Writes pending changes and goes to the next row. A failure of that move itself is raised.
+    /// Writes pending changes and goes to the next row. A failure to write is reported and the changes are
+    /// dropped; a failure of the move itself is raised.
     void NextRow();
     /// Writes pending changes and closes the result; every failure is ignored.
     void CloseRS();
@@ -90,9 +95,17 @@ class SQLData {
     /// Known in modes 1 and 2; otherwise reported as a failure, and 0.
     std::int32_t RecordCount();
 
+    /// The latest failure of this object, also one that was not shown; nothing when none has failed.
+    const std::optional<RuntimeError>& LastError() const { return mLastError; }
+
   private:
-    void ReportError(const RuntimeError& error);
+    void ReportError(RuntimeError error);
     void ReportError(std::string_view description);
+    bool readable(std::string_view withoutRecordset);
+    void openRecordset(const std::shared_ptr<ado::Connection>& connection, std::string_view statement);
+    void readIntoCache(const ado::FieldKey& key, std::string_view name);
+    void writeField(const ado::FieldKey& key, const Variant& value);
+    void emptyCache();
 
     std::shared_ptr<ado::Recordset> mRecordset;
     std::string mStatement;
@@ -102,6 +115,7 @@ class SQLData {
     std::int16_t mFieldCount = 0;
     bool mPendingEdit = false;
     bool mReported = false;
+    std::optional<RuntimeError> mLastError;
     std::string mCachedKey;
     Variant mCachedValue;
     std::string mInsertColumns;

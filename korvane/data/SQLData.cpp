@@ -1,0 +1,248 @@
+#include <korvane/data/SQLData.h>
+
+#include <korvane/data/PrivateFile.h>
+#include <korvane/runtime/App.h>
+#include <korvane/runtime/Clock.h>
+#include <korvane/runtime/Interaction.h>
+
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace Korvane {
+
+namespace {
+
+constexpr std::string_view kNothingToRead =
+    "Attempt to return results from an Execute only SQL cmd or error creating RS object";
+constexpr std::string_view kNothingToWrite =
+    "Attempt to write results to an Execute only SQL cmd or error creating RS object";
+constexpr std::string_view kClosed = "Attempt to read data from a closed Recordset";
+
+constexpr std::int32_t kCountNotSupported = -2;
+constexpr std::int32_t kOpen = 1;
+
+/// The key as text, without allocating: an ordinal is written into `digits`.
+std::string_view keyText(const ado::FieldKey& key, std::array<char, 12>& digits) {
+    if (!key.isOrdinal()) return key.name();
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), key.ordinal()).ptr;
+    return {digits.data(), static_cast<std::size_t>(end - digits.data())};
+}
+
+bool differs(const Variant& a, const Variant& b) {
+    if (a.isNull() || b.isNull()) return a.isNull() != b.isNull();
+    try {
+        return compare(a, b) != Comparison::Equal;
+    } catch (const RuntimeError&) {
+        return true; // values that cannot be compared are not the same
+    }
+}
+
+std::int16_t narrowCount(std::int32_t count) {
+    if (count > std::numeric_limits<std::int16_t>::max()) throw RuntimeError(RuntimeError::Overflow);
+    return static_cast<std::int16_t>(count);
+}
+
+void setAccess(ado::Recordset& recordset, std::int32_t mode) {
+    if (mode == AccessMode::Read || mode == AccessMode::ReadCounted) {
+        recordset.LockType(ado::LockType::ReadOnly);
+        recordset.CursorType(mode == AccessMode::Read ? ado::CursorType::ForwardOnly
+                                                      : ado::CursorType::Static);
+    } else if (mode == AccessMode::Write) {
+        recordset.LockType(ado::LockType::Optimistic);
+        recordset.CursorType(ado::CursorType::Dynamic);
+    }
+}
+
+} // namespace
+
+SQLData::~SQLData() {
+    if (mRecordset && State() == kOpen) CloseRS();
+}
+
+bool SQLData::SQL(const std::shared_ptr<ado::Connection>& connection, std::string_view statement,
+                  bool executeOnly, std::int32_t mode) {
+    mStatement = statement;
+    mFieldCount = -1;
+    mPendingEdit = false; // what was changed and not written is dropped with the old rows
+    mRecordsAffected = -1;
+    mMode = mode;
+    emptyCache();
+    try {
+        if (State() == kOpen) mRecordset->Close();
+        if (!connection || connection->State() != kOpen) {
+            ReportError("Attempt to query while ADO Connection not open");
+            return false;
+        }
+        if (executeOnly)
+            mRecordsAffected = connection->Execute(mStatement);
+        else
+            openRecordset(connection, mStatement);
+        return true;
+    } catch (...) {
+        ReportError(currentError());
+        return false;
+    }
+}
+
+void SQLData::openRecordset(const std::shared_ptr<ado::Connection>& connection, std::string_view statement) {
+    mRecordset = ado::Recordset::create();
+    setAccess(*mRecordset, mMode);
+    mRecordset->Open(statement, connection);
+    mFieldCount = narrowCount(mRecordset->FieldCount());
+    const bool counted = mRecordset->Supports(ado::Recordset::ApproximatePosition) ||
+                         mRecordset->Supports(ado::Recordset::Bookmark);
+    mRecordCount = counted ? mRecordset->RecordCount() : kCountNotSupported;
+}
+
+/// Whether there is an open result; reports which of the two is missing.
+bool SQLData::readable(std::string_view withoutRecordset) {
+    if (!mRecordset) {
+        ReportError(withoutRecordset);
+        return false;
+    }
+    if (mRecordset->State() != kOpen) {
+        ReportError(kClosed);
+        return false;
+    }
+    return true;
+}
+
+const Variant& SQLData::DataView(const ado::FieldKey& key) {
+    static const Variant empty;
+    if (!readable(kNothingToRead)) return empty;
+    std::array<char, 12> digits{};
+    const std::string_view name = keyText(key, digits);
+    if (name == mCachedKey) return mCachedValue;
+    try {
+        readIntoCache(key, name);
+        return mCachedValue;
+    } catch (...) {
+        emptyCache();
+        ReportError(currentError());
+        return empty;
+    }
+}
+
+void SQLData::readIntoCache(const ado::FieldKey& key, std::string_view name) {
+    if (mRecordset->Eof()) {
+        mCachedValue = Variant();
+    } else {
+        mRecordset->Value(key, mCachedValue);
+        if (mCachedValue.isNull()) {
+            if (ado::IsNumericField(mRecordset->FieldType(key)))
+                mCachedValue = std::int16_t{0};
+            else
+                mCachedValue.setText("");
+        }
+    }
+    mCachedKey = name;
+}
+
+void SQLData::Data(const ado::FieldKey& key, const Variant& value) {
+    if (!readable(kNothingToWrite)) return;
+    if (mMode != AccessMode::Write) {
+        ReportError("Attempt to write results to ReadOnly Recordset");
+        return;
+    }
+    try {
+        writeField(key, value);
+    } catch (...) {
+        ReportError(currentError());
+    }
+}
+
+void SQLData::writeField(const ado::FieldKey& key, const Variant& value) {
+    if (differs(mRecordset->Value(key), value)) {
+        mPendingEdit = true;
+        mRecordset->SetValue(key, value);
+        emptyCache();
+    }
+    std::array<char, 12> digits{};
+    // A null that was written over a null keeps the stand-in it is read as.
+    if (keyText(key, digits) == mCachedKey && !value.isNull()) mCachedValue = value;
+}
+
+std::int32_t SQLData::State() const {
+    return mRecordset ? mRecordset->State() : 0;
+}
+
+bool SQLData::Eof() {
+    if (!mRecordset) {
+        ReportError(kNothingToRead);
+        return false;
+    }
+    return mRecordset->State() != kOpen || mRecordset->Eof();
+}
+
+void SQLData::NextRow() {
+    if (!mRecordset) {
+        ReportError(kNothingToRead);
+        return;
+    }
+    if (mPendingEdit) {
+        mPendingEdit = false;
+        try {
+            mRecordset->Update();
+        } catch (...) {
+            ReportError(currentError());
+            // Left pending, the move would try them again and raise what has been told already.
+            if (mRecordset->State() == kOpen) mRecordset->CancelUpdate();
+        }
+    }
+    emptyCache();
+    if (!readable(kNothingToRead)) return;
+    if (mRecordset->Eof()) {
+        ReportError("Attempt to read past end of file");
+        return;
+    }
+    mRecordset->MoveNext();
+}
+
+void SQLData::CloseRS() {
+    try {
+        if (mPendingEdit) mRecordset->Update();
+    } catch (...) {
+    }
+    mPendingEdit = false;
+    emptyCache();
+    try {
+        if (State() != 0) mRecordset->Close();
+    } catch (...) {
+    }
+}
+
+std::optional<ado::Field> SQLData::Fields(const ado::FieldKey& key) const {
+    if (State() != kOpen) return std::nullopt;
+    return mRecordset->Fields(key);
+}
+
+std::int32_t SQLData::RecordCount() {
+    if (mRecordCount != kCountNotSupported) return mRecordCount;
+    ReportError("Attempt to get RecordCount from a query that does not support that property");
+    return 0;
+}
+
+/// Both parts empty, as at the start; the storage of a text is kept for the next one.
+void SQLData::emptyCache() {
+    mCachedKey.clear();
+    mCachedValue.setText("");
+}
+
+void SQLData::ReportError(std::string_view description) {
+    ReportError(RuntimeError(0, std::string(description)));
+}
+
+void SQLData::ReportError(RuntimeError error) {
+    mLastError = std::move(error);
+    if (mReported) return;
+    const std::string failure = std::to_string(mLastError->Number()) + " " + mLastError->Description();
+    Interaction::current().MsgBox(failure + "\r\n\r\nIt is recommended that you restart the " +
+                                      App::FileDescription(),
+                                  MsgBoxStyle::Critical, "");
+    mReported = true;
+    appendToAppFile("err.txt",
+                    Clock::now().text() + "-SQLData Class->" + failure + "\n\t" + mStatement + "\n");
+}
+
+} // namespace Korvane

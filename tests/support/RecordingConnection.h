@@ -1,0 +1,64 @@
+#pragma once
+
+#include <korvane/ado/Connection.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Korvane::Testing {
+
+/// A connection that writes down every statement and hands it on to a real one; it can be told to fail.
+///
+///     auto db = std::make_shared<RecordingConnection>(ado::open("sqlite::memory:"));
+///     ...
+///     EXPECT_EQ(db->statements.back(), "Delete From Encounter Where EncounterID=12");
+class RecordingConnection : public ado::Connection {
+  public:
+    explicit RecordingConnection(std::shared_ptr<ado::Connection> real) : mReal(std::move(real)) {}
+
+    /// Every statement in the order in which it was run, also one that failed.
+    std::vector<std::string> statements;
+    /// Every statement that was announced.
+    std::vector<std::string> announced;
+    /// A statement that contains this text fails with `failure` instead of being run. Empty: none does.
+    std::string failOn;
+    RuntimeError failure{RuntimeError::DatabaseFailure, "disk I/O error", 10};
+
+    /// Runs `statement` past the record, to prepare or look at what is stored.
+    std::int32_t quietly(std::string_view statement) { return mReal->Execute(statement); }
+    const std::shared_ptr<ado::Connection>& real() const { return mReal; }
+
+    std::int32_t State() const override { return mReal->State(); }
+    std::int32_t Execute(std::string_view statement) override {
+        note(statement);
+        return mReal->Execute(statement);
+    }
+    std::int32_t BeginTrans(ado::TransactionFor use) override { return mReal->BeginTrans(use); }
+    void CommitTrans() override { mReal->CommitTrans(); }
+    void RollbackTrans() override { mReal->RollbackTrans(); }
+    std::int32_t transactionLevel() const override { return mReal->transactionLevel(); }
+    void Announce(std::span<const std::string> coming) override {
+        announced.insert(announced.end(), coming.begin(), coming.end());
+        mReal->Announce(coming);
+    }
+    void Close() override { mReal->Close(); }
+    std::unique_ptr<ado::Cursor> openCursor(std::string_view statement, ado::CursorType cursorType,
+                                            ado::LockType lockType) override {
+        note(statement);
+        return mReal->openCursor(statement, cursorType, lockType);
+    }
+
+  private:
+    void note(std::string_view statement) {
+        statements.emplace_back(statement);
+        if (!failOn.empty() && statement.find(failOn) != std::string_view::npos) throw failure;
+    }
+
+    std::shared_ptr<ado::Connection> mReal;
+};
+
+} // namespace Korvane::Testing
