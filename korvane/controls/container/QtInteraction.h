@@ -2,9 +2,6 @@
 
 #include <korvane/runtime/Interaction.h>
 
-#include <QPointer>
-#include <QWidget>
-
 namespace Korvane {
 
 /// Talks to the user with Qt's message and input boxes, above the active window. Installed by the first
