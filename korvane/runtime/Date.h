@@ -1,5 +1,8 @@
 #pragma once
 
+// Qt 6.4's moc cannot read <compare> when it is the first standard header it meets.
+#include <version>
+
 #include <compare>
 #include <cstdint>
 #include <optional>

@@ -4,10 +4,12 @@ namespace Korvane {
 
 QDateTime qt(Date date) {
     const Date::Parts p = date.parts();
-    const QDateTime exact(QDate(p.year, p.month, p.day), QTime(p.hour, p.minute, p.second));
+    const QDate day(p.year, p.month, p.day);
+    const QTime time(p.hour, p.minute, p.second);
+    const QDateTime exact(day, time);
     if (exact.isValid()) return exact;
-    // The hour that the local zone skips in spring: the same moment on the clock an hour on.
-    return QDateTime(exact.date(), QTime(p.hour, p.minute, p.second).addSecs(3600));
+    // Inside the hour that the local zone skips in spring: shown an hour on, as the zone's clock would.
+    return QDateTime(day, time.addSecs(3600));
 }
 
 Date fromQt(const QDateTime& dateTime) {

@@ -18,7 +18,8 @@ inline std::string utf8(const QString& text) {
     return text.toStdString();
 }
 
-/// To the second, local time as it stands (no time zone arithmetic).
+/// To the second, local time as it stands (no time zone arithmetic). A time in the hour that the local zone
+/// skips in spring does not exist as a `QDateTime`: it becomes the one an hour later.
 QDateTime qt(Date date);
 Date fromQt(const QDateTime& dateTime);
 

@@ -1,0 +1,41 @@
+#include <korvane/controls/container/Twips.h>
+
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLineEdit>
+
+#include <gtest/gtest.h>
+
+namespace Korvane {
+
+TEST(Twips, AOneLineControlHoldsItsTextAtAnyFontSize) {
+    for (const int points : {7, 10, 14, 20, 36}) {
+        SCOPED_TRACE(points);
+        QWidget form;
+        QFont font = form.font();
+        font.setPointSize(points);
+        form.setFont(font);
+        QLineEdit text(&form);
+        QComboBox list(&form);
+        QDateTimeEdit date(&form);
+        const int height = Twips(form).px(285);
+        EXPECT_GE(height, text.sizeHint().height());
+        EXPECT_GE(height, list.sizeHint().height());
+        EXPECT_GE(height, date.sizeHint().height());
+        EXPECT_LE(height, text.sizeHint().height() * 5 / 4) << "no taller than it has to be";
+        EXPECT_EQ(Twips(font).px(285), height);
+    }
+}
+
+TEST(Twips, ScaleWithTheFontAndComeBackFromPixels) {
+    QFont font;
+    font.setPointSize(10);
+    const Twips small(font);
+    font.setPointSize(20);
+    const Twips large(font);
+    EXPECT_GT(large.px(1140), small.px(1140) * 3 / 2);
+    EXPECT_NEAR(small.px(1140), 4 * small.px(285), 2);
+    EXPECT_NEAR(large.fromPx(large.px(5000)), 5000, 10);
+}
+
+} // namespace Korvane
