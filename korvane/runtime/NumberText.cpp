@@ -1,5 +1,6 @@
 #include <korvane/runtime/Text.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -14,20 +15,38 @@ struct Digits {
     int exponent = 0;
 };
 
+/// Halves go up, which to_chars would round to even: so it gives some digits more, and these are cut here.
+void roundTo(Digits& number, std::size_t count) {
+    std::string& digits = number.digits;
+    const bool up = digits[count] >= '5';
+    digits.resize(count);
+    if (!up) return;
+    const auto last = digits.find_last_not_of('9');
+    if (last == std::string::npos) {
+        digits.assign(1, '1');
+        ++number.exponent;
+        return;
+    }
+    ++digits[last];
+    digits.resize(last + 1);
+}
+
 template <typename Float>
-Digits significantDigits(Float magnitude, int precision) {
+Digits significantDigits(Float magnitude, std::size_t precision) {
+    constexpr int spareDigits = 8;
     std::array<char, 40> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
-                                   std::chars_format::scientific, precision - 1)
-                         .ptr;
-    const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-    const auto mark = text.find('e');
+    char* const begin = buffer.data();
+    const char* const end =
+        std::to_chars(begin, begin + buffer.size(), magnitude, std::chars_format::scientific,
+                      static_cast<int>(precision) - 1 + spareDigits)
+            .ptr;
+    const char* const mark = std::find(static_cast<const char*>(begin), end, 'e');
     Digits out;
-    out.digits = text.substr(0, mark);
-    if (out.digits.size() > 1) out.digits.erase(1, 1);
+    out.digits.assign(static_cast<const char*>(begin), mark);
+    out.digits.erase(1, 1);
+    std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, end, out.exponent); // which takes no plus
+    roundTo(out, precision);
     out.digits.erase(out.digits.find_last_not_of('0') + 1);
-    const std::size_t sign = text[mark + 1] == '+' ? 1 : 0; // from_chars takes no plus
-    std::from_chars(text.data() + mark + 1 + sign, end, out.exponent);
     return out;
 }
 
@@ -57,7 +76,7 @@ std::string text(Float value, int precision) {
     const std::string sign = std::signbit(value) ? "-" : "";
     if (std::isnan(value)) return "nan";
     if (std::isinf(value)) return sign + "inf";
-    const Digits number = significantDigits(std::abs(value), precision);
+    const Digits number = significantDigits(std::abs(value), static_cast<std::size_t>(precision));
     const int decimals = static_cast<int>(number.digits.size()) - 1 - number.exponent;
     const bool plain = number.exponent < precision && decimals <= precision;
     return sign + (plain ? plainForm(number) : exponentForm(number));
