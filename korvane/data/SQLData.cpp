@@ -31,6 +31,8 @@ std::string_view keyText(const ado::FieldKey& key, std::array<char, 12>& digits)
 
 bool differs(const Variant& a, const Variant& b) {
     if (a.isNull() || b.isNull()) return a.isNull() != b.isNull();
+    // Texts that only sort alike are still two texts: a control character must not get lost.
+    if (a.isText() && b.isText()) return a != b;
     try {
         return compare(a, b) != Comparison::Equal;
     } catch (const RuntimeError&) {

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <korvane/ado/Connection.h>
+#include <korvane/records/RecordColumn.h>
 #include <korvane/runtime/Variant.h>
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace Korvane {
 
@@ -27,7 +30,9 @@ class Attachment {
     /// Empty until stored; text after a load, a number after an insert.
     const Variant& AttachmentID() const { return mAttachmentID; }
     /// Stores the identifier and loads its row; without a row every field is empty. An identifier that is not
-    /// a whole number finds nothing.
+    /// a whole number finds nothing. A column whose value does not fit its property is written to the error
+    /// log and reads as if empty. When the row could not be read at all, `Save` refuses until a load
+    /// succeeds.
     void AttachmentID(const Variant& id);
 
     const std::string& Archived() const { return mArchived; }
@@ -38,7 +43,7 @@ class Attachment {
     const std::string& Category() const;
     const std::string& CategoryID() const { return mCategoryID; }
     void CategoryID(std::string_view value);
-    void Connection(std::shared_ptr<ado::Connection> connection);
+    void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
     bool Deleted() const { return mDeleted; }
     /// Marks as deleted, whatever value is given: an attachment is never undeleted this way.
     void Deleted(bool value);
@@ -68,14 +73,24 @@ class Attachment {
     Variant ListCategories() const;
 
     /// Inserts with the next free identifier, or updates. False, with a line in the error log, when
-    /// `EncounterID` is below 0. The outcome of the statement itself is not told.
+    /// `EncounterID` is below 0, when no next identifier could be found, or when the row it would overwrite
+    /// could not be read before. The outcome of the statement itself is not told: see `Stored`.
     bool Save();
+
+    /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
+    /// an update of a row that is gone, and before any `Save`. For use within the library.
+    bool Stored() const { return mStored; }
 
     /// False, with a message of level 2 in the message log, when there is no such row. The file itself stays.
     bool Delete();
 
   private:
+    static std::span<const RecordColumn<Attachment>> columns();
+    void change(std::string& property, std::string_view value);
+    void changeDate(std::string& property, std::string_view value);
     bool SaveObjectToDatabase();
+    bool insertRow();
+    void updateRow();
     bool DeleteObjectFromDatabase(std::string_view id);
     void LoadObjectFromDatabase(std::string_view id);
 
@@ -86,6 +101,8 @@ class Attachment {
     bool mDeleted = false;
     bool mLocked = false;
     bool mChanged = false;
+    bool mStored = false;
+    bool mUnread = false;
     std::shared_ptr<ado::Connection> mConnection;
 };
 

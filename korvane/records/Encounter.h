@@ -2,11 +2,13 @@
 
 #include <korvane/ado/Connection.h>
 #include <korvane/records/Attachment.h>
+#include <korvane/records/RecordColumn.h>
 #include <korvane/runtime/Clock.h>
 #include <korvane/runtime/Event.h>
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,10 +35,14 @@ class Encounter {
 
     std::int32_t EncounterID() const { return mEncounterID; }
     /// Stores the identifier and loads its row; without a row numbers are 0, texts empty and the date the
-    /// zero date.
+    /// zero date. A column whose value does not fit its property is written to the error log and reads as
+    /// if empty; the other columns are loaded all the same. When the row could not be read at all, `Save`
+    /// refuses until a load succeeds.
     void EncounterID(std::int32_t id);
+    /// Overflow above 32767.
     std::int16_t AttachmentCount() const;
-    /// Adds it under the text of its identifier. DuplicateKey when there is one with that identifier.
+    /// Adds it under the text of its identifier. DuplicateKey when there is one with that identifier,
+    /// InvalidArgument for nothing.
     void AttachmentLet(std::shared_ptr<Attachment> attachment);
     const std::string& Description() const { return mDescription; }
     void Description(std::string_view value) { mDescription = value; }
@@ -52,15 +58,26 @@ class Encounter {
     void Transport(std::int32_t value) { mTransport = value; }
     void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
 
+    /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
+    /// an update of a row that is gone, and before any `Save`. For use within the library.
+    bool Stored() const { return mStored; }
+
+    /// Makes the object unsaved again (`EncounterID` -1, everything else stands): for a holder whose
+    /// transaction took the insert back, or whose insert failed, so that the next `Save` inserts. For use
+    /// within the library.
+    void NotStored();
+
     /// Deletes the row, or writes a line to the error log when there is none. Always false. Attachments stay.
     bool Delete();
 
     /// Inserts with the next free identifier, or updates. False, with a line in the error log, when the
-    /// method, patient, provider or location is invalid (in this order). The outcome of the statement itself
-    /// is not told.
+    /// method, patient, provider or location is invalid (in this order), when no next identifier could be
+    /// found, or when the row it would overwrite could not be read before. The outcome of the statement
+    /// itself is not told: see `Stored`.
     bool Save();
 
-    /// Replaces the collection by the attachments stored for this encounter.
+    /// Replaces the collection by the attachments stored for this encounter; by an empty one when they cannot
+    /// be read.
     void LoadAttachments();
 
     /// The attachment at an index counted from 1. True, and nothing in `attachment`, when the index is above
@@ -68,9 +85,18 @@ class Encounter {
     bool AttachmentGet(std::int16_t index, std::shared_ptr<Attachment>& attachment) const;
 
   private:
+    static std::span<const RecordColumn<Encounter>> columns();
+    std::string_view invalidity() const;
     bool SaveObjectToDatabase();
+    bool insertRow();
     bool DeleteObjectFromDatabase(std::string_view id);
     void LoadObjectFromDatabase();
+
+    /// The key stays what it was when the attachment was added.
+    struct KeyedAttachment {
+        std::string key;
+        std::shared_ptr<Attachment> attachment;
+    };
 
     std::int32_t mEncounterID = -1;
     std::int32_t mMethodID = 1;
@@ -83,7 +109,9 @@ class Encounter {
     std::string mDescription;
     std::int32_t mTransport = 0;
     std::shared_ptr<ado::Connection> mConnection;
-    std::vector<std::shared_ptr<Attachment>> mAttachments;
+    std::vector<KeyedAttachment> mAttachments;
+    bool mStored = false;
+    bool mUnread = false;
 };
 
 } // namespace Korvane

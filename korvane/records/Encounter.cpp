@@ -1,0 +1,160 @@
+#include <korvane/records/Encounter.h>
+
+#include <korvane/data/ErrLog.h>
+#include <korvane/data/SQLData.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace Korvane {
+
+namespace {
+
+constexpr std::string_view kSaving = "Error in Encounter.SaveObjectToDatabase: ";
+constexpr std::string_view kLoading = "Error in Encounter.LoadObjectFromDatabase: ";
+
+} // namespace
+
+std::span<const RecordColumn<Encounter>> Encounter::columns() {
+    static constexpr RecordColumn<Encounter> table[] = {
+        recordColumn<&Encounter::mEncounterID>("EncounterID", Quoting::Bare),
+        recordColumn<&Encounter::mMethodID>("EncounterMethodID", Quoting::Bare),
+        recordColumn<&Encounter::mPatientID>("PatientID", Quoting::Quoted),
+        recordColumn<&Encounter::mProviderID>("ProviderID", Quoting::Bare),
+        recordColumn<&Encounter::mForeignProviderID>("ForeignProviderID", Quoting::Bare),
+        recordColumn<&Encounter::mLocationID>("LocationID", Quoting::Bare),
+        recordColumn<&Encounter::mEncounterDate>("EncounterDate", Quoting::Quoted),
+        recordColumn<&Encounter::mOutgoing>("Outgoing", Quoting::Bare),
+        recordColumn<&Encounter::mDescription>("Description", Quoting::Quoted),
+        recordColumn<&Encounter::mTransport>("Transport", Quoting::Bare),
+    };
+    return table;
+}
+
+void Encounter::EncounterID(std::int32_t id) {
+    mEncounterID = id;
+    LoadObjectFromDatabase();
+}
+
+void Encounter::LoadObjectFromDatabase() {
+    SQLData query;
+    mUnread =
+        !query.SQL(mConnection, "select * from Encounter Where EncounterID=" + std::to_string(mEncounterID),
+                   false, AccessMode::Read);
+    loadColumns(mUnread ? nullptr : &query, *this, columns(), kLoading);
+}
+
+bool Encounter::Save() {
+    const bool isNew = mEncounterID == -1;
+    mStored = false;
+    if (!guarded(kSaving, false, [this] { return SaveObjectToDatabase(); })) {
+        if (isNew) mEncounterID = -1;
+        return false;
+    }
+    if (isNew) SavedNewEncounter.raise();
+    return true;
+}
+
+void Encounter::NotStored() {
+    mEncounterID = -1;
+    mStored = false;
+    mUnread = false;
+}
+
+/// What keeps it from being saved; empty when nothing does.
+std::string_view Encounter::invalidity() const {
+    if (mMethodID < 0) return "Invalid EncounterMethodID, aborting!";
+    if (mPatientID.empty()) return "Invalid PatientID, aborting!";
+    if (mProviderID < 0) return "Invalid ProviderID, aborting!";
+    if (mLocationID < 0) return "Invalid LocationID, aborting!";
+    if (mUnread && mEncounterID != -1) return "The stored row could not be read, aborting!";
+    return {};
+}
+
+bool Encounter::SaveObjectToDatabase() {
+    if (const std::string_view reason = invalidity(); !reason.empty()) {
+        ErrLog(std::string(kSaving).append(reason));
+        return false;
+    }
+    if (mEncounterID == -1) return insertRow();
+    SQLData query;
+    fillUpdateList(query, *this, columns());
+    query.SQL(mConnection,
+              "Update Encounter Set " + query.UpdateListGet() +
+                  " Where EncounterID=" + std::to_string(mEncounterID),
+              true, AccessMode::Read);
+    mStored = query.RecordsAffected() == 1;
+    return true;
+}
+
+bool Encounter::insertRow() {
+    const auto id = nextIdentifier(mConnection, "Select Max(EncounterID) as MaxID From Encounter", kSaving);
+    if (!id) return false;
+    mEncounterID = *id;
+    SQLData query;
+    fillInsertList(query, *this, columns());
+    query.SQL(mConnection, "Insert into Encounter " + query.InsertListGet(), true, AccessMode::Read);
+    mStored = query.RecordsAffected() == 1;
+    return true;
+}
+
+bool Encounter::Delete() {
+    return DeleteObjectFromDatabase(std::to_string(mEncounterID));
+}
+
+bool Encounter::DeleteObjectFromDatabase(std::string_view id) {
+    SQLData query;
+    const std::string key(id);
+    if (!query.SQL(mConnection, "select * from Encounter Where EncounterID=" + key, false, AccessMode::Read))
+        return false;
+    if (query.Eof())
+        ErrLog("Error in Encounter.DeleteObjectFromDatabase: EncounterID doesn't exist, aborting!");
+    else
+        query.SQL(mConnection, "delete From Encounter WHERE EncounterID=" + key, true, AccessMode::Read);
+    return false;
+}
+
+void Encounter::LoadAttachments() {
+    SQLData query;
+    const bool ran = query.SQL(
+        mConnection, "Select AttachmentID From Attachment Where EncounterID=" + std::to_string(mEncounterID),
+        false, AccessMode::Read);
+    mAttachments.clear();
+    if (!ran) return;
+    guarded("Error in Encounter.LoadAttachments: ", false, [&] {
+        for (; !query.Eof(); query.NextRow()) {
+            auto attachment = std::make_shared<Attachment>();
+            attachment->Connection(mConnection);
+            attachment->AttachmentID(query.DataView("AttachmentID"));
+            AttachmentLet(std::move(attachment));
+        }
+        return true;
+    });
+}
+
+void Encounter::AttachmentLet(std::shared_ptr<Attachment> attachment) {
+    if (!attachment) throw RuntimeError(RuntimeError::InvalidArgument);
+    std::string key = attachment->AttachmentID().textOrEmpty();
+    if (std::ranges::find(mAttachments, key, &KeyedAttachment::key) != mAttachments.end())
+        throw RuntimeError(RuntimeError::DuplicateKey);
+    mAttachments.push_back({std::move(key), std::move(attachment)});
+}
+
+std::int16_t Encounter::AttachmentCount() const {
+    if (mAttachments.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
+        throw RuntimeError(RuntimeError::Overflow);
+    return static_cast<std::int16_t>(mAttachments.size());
+}
+
+bool Encounter::AttachmentGet(std::int16_t index, std::shared_ptr<Attachment>& attachment) const {
+    if (index > AttachmentCount()) {
+        attachment.reset();
+        return true;
+    }
+    if (index < 1) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
+    attachment = mAttachments[static_cast<std::size_t>(index) - 1].attachment;
+    return false;
+}
+
+} // namespace Korvane
