@@ -25,7 +25,7 @@ void installTables(Connection& connection) {
     Korvane::installTables(connection);
     connection.Execute(
         "Create Table If Not Exists Patient ([PatientID] VARCHAR(20) NOT NULL PRIMARY KEY,"
-        "[LastName] VARCHAR(100) NOT NULL,[FirstName] VARCHAR(100) NOT NULL,[BirthDate] DATETIME,"
+        "[LastName] VARCHAR(100) NOT NULL,[FirstName] VARCHAR(100) NOT NULL,[BirthDate] TIMESTAMP,"
         "[Sex] VARCHAR(10),[Phone] VARCHAR(30),[Email] VARCHAR(100))");
     work.commit();
 }
