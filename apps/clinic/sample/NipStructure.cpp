@@ -12,7 +12,7 @@ using Korvane::ado::Connection;
 constexpr std::int32_t firstGroupID = 2;
 
 std::string columnType(const FieldDefinition& field) {
-    return field.maxLength > 0 ? "VARCHAR(" + std::to_string(field.maxLength) + ")" : "LONGTEXT";
+    return field.maxLength > 0 ? "VARCHAR(" + std::to_string(field.maxLength) + ")" : "TEXT";
 }
 
 void createDataTable(Connection& connection, const std::string& table, const FormDefinition& form) {
