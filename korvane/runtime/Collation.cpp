@@ -53,7 +53,7 @@ std::strong_ordering compareBy(unsigned char Weights::*kind, std::string_view a,
 
 std::strong_ordering compareTexts(std::string_view a, std::string_view b) {
     const auto first = compareBy(&Weights::primary, a, b);
-    return first != 0 ? first : compareBy(&Weights::detail, a, b);
+    return std::is_neq(first) ? first : compareBy(&Weights::detail, a, b);
 }
 
 } // namespace Korvane

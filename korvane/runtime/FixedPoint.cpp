@@ -51,7 +51,6 @@ std::uint64_t magnitudeOf(std::int64_t value) {
 struct Split {
     Wide whole;
     Wide fraction;
-    auto operator<=>(const Split&) const = default;
 };
 
 Split split(const Decimal& value) {
@@ -148,7 +147,8 @@ std::strong_ordering compareDecimals(const Decimal& a, const Decimal& b) {
     const bool aNegative = a.negative && mantissa(a) != 0;
     const bool bNegative = b.negative && mantissa(b) != 0;
     if (aNegative != bNegative) return aNegative ? std::strong_ordering::less : std::strong_ordering::greater;
-    return aNegative ? split(b) <=> split(a) : split(a) <=> split(b);
+    const Split left = split(aNegative ? b : a), right = split(aNegative ? a : b);
+    return left.whole != right.whole ? left.whole <=> right.whole : left.fraction <=> right.fraction;
 }
 
 } // namespace Korvane

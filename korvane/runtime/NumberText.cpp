@@ -60,13 +60,12 @@ std::string exponentForm(const Digits& number) {
 }
 
 std::string plainForm(const Digits& number) {
-    const auto count = static_cast<int>(number.digits.size());
-    if (number.exponent < 0)
-        return "0." + std::string(static_cast<std::size_t>(-number.exponent - 1), '0') + number.digits;
-    if (count <= number.exponent + 1)
-        return number.digits + std::string(static_cast<std::size_t>(number.exponent + 1 - count), '0');
-    const auto whole = static_cast<std::size_t>(number.exponent + 1);
-    return number.digits.substr(0, whole) + '.' + number.digits.substr(whole);
+    std::string out = number.digits;
+    if (number.exponent < 0) out.insert(0, static_cast<std::size_t>(-number.exponent), '0');
+    const std::size_t whole = number.exponent < 0 ? 1 : static_cast<std::size_t>(number.exponent) + 1;
+    if (out.size() < whole) out.resize(whole, '0');
+    if (out.size() > whole) out.insert(whole, 1, '.');
+    return out;
 }
 
 /// The plain form as long as it has at most `precision` digits on either side of the point.

@@ -1,6 +1,8 @@
 #include <korvane/runtime/RuntimeError.h>
 
+#include <algorithm>
 #include <exception>
+#include <iterator>
 #include <new>
 #include <utility>
 
@@ -8,53 +10,38 @@ namespace Korvane {
 
 namespace {
 
+struct Description {
+    int number;
+    const char* text;
+};
+
+constexpr Description usualDescriptions[] = {
+    {RuntimeError::InvalidProcedureCall, "Invalid procedure call or argument"},
+    {RuntimeError::Overflow, "Overflow"},
+    {RuntimeError::OutOfMemory, "Out of memory"},
+    {RuntimeError::SubscriptOutOfRange, "Subscript out of range"},
+    {RuntimeError::DivisionByZero, "Division by zero"},
+    {RuntimeError::TypeMismatch, "Type mismatch"},
+    {RuntimeError::FileNotFound, "File not found"},
+    {RuntimeError::DeviceIo, "Device I/O error"},
+    {RuntimeError::DiskFull, "Disk full"},
+    {RuntimeError::PermissionDenied, "Permission denied"},
+    {RuntimeError::InvalidUseOfNull, "Invalid use of Null"},
+    {RuntimeError::DuplicateKey, "This key is already in use"},
+    {RuntimeError::InvalidArgument, "An argument is of the wrong type or out of its range"},
+    {RuntimeError::NoCurrentRecord, "There is no current record"},
+    {RuntimeError::ReadOnlyRecordset, "The recordset does not allow changes"},
+    {RuntimeError::TransactionOpen, "Not possible while a transaction is open"},
+    {RuntimeError::ItemNotFound, "There is no item of that name or index"},
+    {RuntimeError::ObjectClosed, "Not possible while the object is closed"},
+    {RuntimeError::ObjectOpen, "Not possible while the object is open"},
+    {RuntimeError::InvalidConnection, "The connection is missing, closed or not valid here"},
+    {RuntimeError::DatabaseFailure, "The database reported a failure"},
+};
+
 const char* usualDescription(int number) {
-    switch (number) {
-    case RuntimeError::InvalidProcedureCall:
-        return "Invalid procedure call or argument";
-    case RuntimeError::Overflow:
-        return "Overflow";
-    case RuntimeError::OutOfMemory:
-        return "Out of memory";
-    case RuntimeError::SubscriptOutOfRange:
-        return "Subscript out of range";
-    case RuntimeError::DivisionByZero:
-        return "Division by zero";
-    case RuntimeError::TypeMismatch:
-        return "Type mismatch";
-    case RuntimeError::FileNotFound:
-        return "File not found";
-    case RuntimeError::DeviceIo:
-        return "Device I/O error";
-    case RuntimeError::DiskFull:
-        return "Disk full";
-    case RuntimeError::PermissionDenied:
-        return "Permission denied";
-    case RuntimeError::InvalidUseOfNull:
-        return "Invalid use of Null";
-    case RuntimeError::DuplicateKey:
-        return "This key is already in use";
-    case RuntimeError::InvalidArgument:
-        return "An argument is of the wrong type or out of its range";
-    case RuntimeError::NoCurrentRecord:
-        return "There is no current record";
-    case RuntimeError::ReadOnlyRecordset:
-        return "The recordset does not allow changes";
-    case RuntimeError::TransactionOpen:
-        return "Not possible while a transaction is open";
-    case RuntimeError::ItemNotFound:
-        return "There is no item of that name or index";
-    case RuntimeError::ObjectClosed:
-        return "Not possible while the object is closed";
-    case RuntimeError::ObjectOpen:
-        return "Not possible while the object is open";
-    case RuntimeError::InvalidConnection:
-        return "The connection is missing, closed or not valid here";
-    case RuntimeError::DatabaseFailure:
-        return "The database reported a failure";
-    default:
-        return "Unknown error";
-    }
+    const auto* const found = std::ranges::find(usualDescriptions, number, &Description::number);
+    return found == std::end(usualDescriptions) ? "Unknown error" : found->text;
 }
 
 } // namespace

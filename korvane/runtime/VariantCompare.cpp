@@ -20,8 +20,8 @@ Comparison order(const T& a, const T& b) {
 }
 
 Comparison toComparison(std::strong_ordering ordering) {
-    if (ordering < 0) return Comparison::Less;
-    return ordering > 0 ? Comparison::Greater : Comparison::Equal;
+    if (std::is_lt(ordering)) return Comparison::Less;
+    return std::is_gt(ordering) ? Comparison::Greater : Comparison::Equal;
 }
 
 bool isFraction(VarType type) {

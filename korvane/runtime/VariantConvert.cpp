@@ -42,11 +42,9 @@ struct AsNumber {
     template <typename T>
     Number operator()(const T& value) const {
         constexpr bool whole = std::is_same_v<Number, std::int64_t>;
-        if constexpr (std::is_integral_v<T>)
-            return value;
-        else if constexpr (std::is_floating_point_v<T> && whole)
+        if constexpr (std::is_floating_point_v<T> && whole)
             return rounded(value);
-        else if constexpr (std::is_floating_point_v<T>)
+        else if constexpr (std::is_arithmetic_v<T>)
             return value;
         else if constexpr (whole)
             return orRaise(std::optional<std::int64_t>(roundedToWhole(value)), RuntimeError::Overflow);
