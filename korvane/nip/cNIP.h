@@ -2,6 +2,7 @@
 
 #include <korvane/ado/Connection.h>
 #include <korvane/nip/FieldRecord.h>
+#include <korvane/nip/GroupRecord.h>
 #include <korvane/runtime/Variant.h>
 
 #include <cstdint>
@@ -11,6 +12,9 @@
 #include <vector>
 
 namespace Korvane {
+
+class FieldIndex;
+class SQLData;
 
 /// The model of a Nip: its groups, the fields of each group, each field's allowed values and its value for
 /// one encounter.
@@ -77,41 +81,57 @@ class cNIP {
     void ValueList(std::int16_t group, std::int16_t field, const Variant& values);
     std::int16_t ValueListCount(std::int16_t group, std::int16_t field) const;
     void ValueListCount(std::int16_t group, std::int16_t field, std::int16_t count);
-    /// The chosen entries of a "LIST-MULTIPLE" or "LIST-EDITCONTENT" field: an array from 0, the first entry at index 0, as
-    /// many as `ChoiceListCount` says. `Save` stores them joined with "|" in place of `value`.
+    /// The chosen entries of a "LIST-MULTIPLE" or "LIST-EDITCONTENT" field: an array from 0, the first entry
+    /// at index 0, as many as `ChoiceListCount` says. `Save` stores them joined with "|" in place of `value`.
     const Variant& ChoiceList(std::int16_t group, std::int16_t field) const;
     void ChoiceList(std::int16_t group, std::int16_t field, const Variant& values);
     std::int16_t ChoiceListCount(std::int16_t group, std::int16_t field) const;
     void ChoiceListCount(std::int16_t group, std::int16_t field, std::int16_t count);
 
-    /// The encounter whose rows `Save` writes: set once a new encounter has been given its identifier.
+    /// The encounter whose rows `Save` writes: set once a new encounter has been given its identifier. -1,
+    /// none yet, in a new model and after a `Load` that failed.
     void EncounterID(std::int32_t id);
 
     /// Loads groups, fields and allowed values; what was held before is lost, values included. False without
-    /// a connection (nothing changes then) or after a database failure, which is written to the error log.
+    /// a connection (nothing changes then) or after a failure, which is written to the error log; what was
+    /// loaded up to it stays. More than 32767 groups, fields of a group or rows are such a failure.
     bool LoadStructure(const std::shared_ptr<ado::Connection>& connection);
 
     /// Fills every field's value for an encounter; for a new one from the defaults or, where the field says
-    /// so, from the patient's latest encounter. False after a database failure.
+    /// so, from the patient's latest other encounter. Values read from the database are text; a group without
+    /// a row gives empty texts. Loads the structure first if that has not been done. False, with a line in
+    /// the error log, after a failure: the model then holds no values and no encounter, so that nothing of
+    /// another encounter is taken for this one's.
     bool Load(std::int32_t encounterID, std::string_view patientID, bool newEncounter);
 
     /// Writes every group's row for the encounter, updating or inserting it, all in one transaction. False,
-    /// with a line in the error log and nothing written, after a failure.
+    /// with a line in the error log and nothing written, after a failure; a model without a structure or
+    /// without an encounter (-1) is such a failure.
     bool Save();
 
   private:
-    struct Group;
-
     const FieldRecord& at(std::int16_t group, std::int16_t field) const;
     FieldRecord& at(std::int16_t group, std::int16_t field);
-    const Group& groupAt(std::int16_t group) const;
+    const GroupRecord& groupAt(std::int16_t group) const;
+
+    void loadGroups();
+    void loadFields(FieldIndex& index);
+    void loadAllowedValues(const FieldIndex& index);
+    FieldRecord& appendField(GroupRecord& group);
+    void placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex& index);
+
+    const FieldList& fieldListOf(GroupRecord& group);
+    void loadValues();
+    void fillGroup(GroupRecord& group, SQLData& current, SQLData& latest);
+    void forgetValues();
+    void saveValues();
 
     std::shared_ptr<ado::Connection> mConnection;
-    std::vector<Group> mGroups;
+    std::vector<GroupRecord> mGroups; ///< group 0 is there, and empty
     std::int16_t mFieldCountMax = 0;
     std::int16_t mRowCountMax = 0;
     bool mStructureLoaded = false;
-    std::int32_t mEncounterID = 0;
+    std::int32_t mEncounterID = -1;
     std::string mPatientID;
     bool mNewEncounter = false;
 };

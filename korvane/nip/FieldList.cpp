@@ -1,0 +1,80 @@
+#include <korvane/nip/FieldList.h>
+
+#include <korvane/data/ErrLog.h>
+#include <korvane/nip/GroupRecord.h>
+#include <korvane/nip/SqlName.h>
+#include <korvane/runtime/Text.h>
+
+#include <algorithm>
+#include <array>
+
+namespace Korvane {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+bool isColumnOfEncounter(std::string_view name) {
+    constexpr std::array columns = {
+        "EncounterID"sv, "EncounterMethodID"sv, "PatientID"sv, "ProviderID"sv,  "ForeignProviderID"sv,
+        "LocationID"sv,  "EncounterDate"sv,     "Outgoing"sv,  "Description"sv, "Transport"sv};
+    return std::ranges::any_of(columns, [&](std::string_view column) { return sameName(column, name); });
+}
+
+void appendColumn(FieldList& list, std::string_view fieldName) {
+    if (!list.columns.empty()) {
+        list.columns += ',';
+        list.joinedColumns += ',';
+    }
+    const std::string column = sqlName(fieldName);
+    list.columns += column;
+    if (isColumnOfEncounter(fieldName)) list.joinedColumns += list.tableName + '.';
+    list.joinedColumns += column;
+    list.hasPatientID = list.hasPatientID || sameName(fieldName, "PatientID");
+    list.hasEncounterDate = list.hasEncounterDate || sameName(fieldName, "EncounterDate");
+}
+
+} // namespace
+
+FieldList GetFieldList(const GroupRecord& group) {
+    FieldList list;
+    list.columnOf.assign(static_cast<std::size_t>(group.fieldCount) + 1, FieldList::noColumn);
+    if (group.fieldCount == 0) return list;
+    list.tableName = sqlName(group.tableName);
+    std::int16_t column = 0;
+    for (std::size_t i = 1; i < list.columnOf.size(); ++i) {
+        const std::string& fieldName = group.fields[i].fieldName;
+        if (trim(fieldName).empty()) {
+            ErrLog("cNip.GetFieldList-Trying to add a blank field to a select list");
+            continue;
+        }
+        appendColumn(list, fieldName);
+        list.columnOf[i] = column++;
+    }
+    return list;
+}
+
+bool hasInitialValueRule(const GroupRecord& group) {
+    return std::any_of(group.fields.begin() + 1, group.fields.begin() + 1 + group.fieldCount,
+                       [](const FieldRecord& field) { return field.initialValueRule != 0; });
+}
+
+std::string encounterStatement(const FieldList& list, std::int32_t encounterID) {
+    return "Select " + list.columns + " From " + list.tableName +
+           " Where EncounterID=" + std::to_string(encounterID);
+}
+
+std::string latestEncounterStatement(const FieldList& list, std::string_view patientID,
+                                     std::int32_t encounterID) {
+    std::string statement = "Select Top 1 " + list.joinedColumns + " From " + list.tableName +
+                            " INNER JOIN Encounter ON Encounter.EncounterID=" + list.tableName +
+                            ".EncounterID Where ";
+    statement += list.hasPatientID ? "Encounter.PatientID" : "PatientID";
+    statement += "='" + escapeQuotes(patientID) + "'";
+    if (encounterID != -1) statement += " And Encounter.EncounterID<>" + std::to_string(encounterID);
+    statement += " Order By ";
+    statement += list.hasEncounterDate ? "Encounter.EncounterDate" : "EncounterDate";
+    return statement + " DESC";
+}
+
+} // namespace Korvane

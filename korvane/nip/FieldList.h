@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvane {
+
+struct GroupRecord;
+
+/// The columns of a group as its statements name them. Made once for a structure and kept with the group.
+struct FieldList {
+    static constexpr std::int16_t noColumn = -1;
+
+    std::string tableName; ///< as it is written into a statement
+    std::string columns;   ///< "Pulse,[Temp-1]", in field order; empty when there is nothing to read or write
+    /// `columns` for a statement that joins the table `Encounter`: a name that both have is qualified.
+    std::string joinedColumns;
+    std::vector<std::int16_t> columnOf; ///< by field index: its place in `columns`, or `noColumn`
+    bool hasPatientID = false;          ///< a field is named like that column of `Encounter`
+    bool hasEncounterDate = false;
+};
+
+/// A field whose name is blank has no column; it is left out, with a line in the error log. Raises
+/// InvalidArgument for a field or table whose name no statement can hold.
+FieldList GetFieldList(const GroupRecord& group);
+
+/// Whether a field of the group has an initial value rule, so that a new encounter needs the latest one.
+bool hasInitialValueRule(const GroupRecord& group);
+
+/// The group's row of an encounter.
+std::string encounterStatement(const FieldList& list, std::int32_t encounterID);
+
+/// The group's row of the patient's latest encounter. An encounter that has an identifier (is not -1) is not
+/// its own predecessor.
+std::string latestEncounterStatement(const FieldList& list, std::string_view patientID,
+                                     std::int32_t encounterID);
+
+} // namespace Korvane

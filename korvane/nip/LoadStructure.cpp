@@ -1,0 +1,189 @@
+#include <korvane/nip/cNIP.h>
+
+#include <korvane/data/ErrLog.h>
+#include <korvane/nip/Choices.h>
+#include <korvane/nip/FieldIndex.h>
+#include <korvane/nip/Query.h>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <unordered_map>
+
+namespace Korvane {
+
+namespace {
+
+const std::array<std::string, 3> structureStatements = {
+    "Select DBFieldGroups.DBFieldGroupID, DBFieldGroups.GroupName, DBFieldGroups.TableName "
+    "From DBFields RIGHT OUTER JOIN DBFieldGroups ON DBFields.DBFieldGroupID=DBFieldGroups.DBFieldGroupID "
+    "Where DBFieldGroups.DBFieldGroupID>1 "
+    "GROUP BY DbFieldGroups.DBFieldGroupID, DBFieldGroups.GroupName , DBFieldGroups.TableName, "
+    "DBFieldGroups.Ordinal Order By DBFieldGroups.Ordinal",
+
+    "Select DBFieldGroups.GroupName, DBFields.ID, DBFieldGroups.TableName, DBFieldGroups.DBFieldGroupID, "
+    "maxlength, fieldName,fieldCaption,displaytype,InitialValueRuleID,DBFields.Ordinal "
+    "From DBFields INNER JOIN DBFieldGroups ON DBFields.DBFieldGroupID=DBFieldGroups.DBFieldGroupID "
+    "Where DBFieldGroups.DBFieldGroupID>1 and DBFields.FieldName<>'EncounterID' "
+    "Order By DBFieldGroups.DBFieldGroupID, DBFieldGroups.Ordinal, DBFields.Ordinal, DBFields.fieldname",
+
+    "Select fieldValue,defaultvalue,FieldName,DBFieldGroupID,Ordinal From DBFieldValues Order By Ordinal"};
+
+// The columns of those three, by their place.
+enum GroupColumn { groupIdentifier, groupName, groupTable };
+enum FieldColumn {
+    fieldGroupName,
+    fieldID,
+    fieldTable,
+    fieldGroupID,
+    fieldMaxLength,
+    fieldFieldName,
+    fieldCaption,
+    fieldDisplayType,
+    fieldInitialValueRule,
+    fieldOrdinal
+};
+enum ValueColumn { allowedValue, isDefault, valueFieldName, valueGroupID };
+
+constexpr std::string_view commentSuffix = "_COMMENTS";
+
+/// The counters of the model are 16-bit.
+std::int16_t raised(std::int16_t count) {
+    if (count == std::numeric_limits<std::int16_t>::max()) throw RuntimeError(RuntimeError::Overflow);
+    return static_cast<std::int16_t>(count + 1);
+}
+
+void setText(std::string& text, const Variant& value) {
+    if (value.isText())
+        text = value.asText();
+    else
+        text = value.textOrEmpty();
+}
+
+void fillField(FieldRecord& field, SQLData& row) {
+    setText(field.fieldName, row.DataView(fieldFieldName));
+    field.id = row.DataView(fieldID).toInt32();
+    setText(field.caption, row.DataView(fieldCaption));
+    setText(field.groupName, row.DataView(fieldGroupName));
+    field.groupID = row.DataView(fieldGroupID).toInt32();
+    setText(field.tableName, row.DataView(fieldTable));
+    setText(field.displayType, row.DataView(fieldDisplayType));
+    field.maxLength = row.DataView(fieldMaxLength).toInt16();
+    field.initialValueRule = row.DataView(fieldInitialValueRule).toInt16();
+    field.ordinal = row.DataView(fieldOrdinal).toSingle();
+    field.valueList = emptyList();
+    field.choiceList = emptyList();
+}
+
+void addAllowedValue(FieldRecord& field, const Variant& value, bool byDefault) {
+    field.valueListCount = raised(field.valueListCount);
+    field.valueList.array().elements.push_back(value);
+    if (byDefault) field.defaultValue = value;
+}
+
+} // namespace
+
+bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
+    if (!connection) return false;
+    return guarded("Error in cNip.LoadStructure: ", false, [&] {
+        mConnection = connection;
+        mStructureLoaded = false;
+        mFieldCountMax = 0;
+        mRowCountMax = 0;
+        mGroups.clear();
+        mGroups.emplace_back();
+
+        Snapshot snapshot(*mConnection);
+        mConnection->Announce(structureStatements);
+        FieldIndex index(mGroups);
+        loadGroups();
+        loadFields(index);
+        loadAllowedValues(index);
+        snapshot.end();
+        mStructureLoaded = true;
+        return true;
+    });
+}
+
+void cNIP::loadGroups() {
+    SQLData row;
+    for (run(row, mConnection, structureStatements[0]); !row.Eof(); row.NextRow()) {
+        raised(GroupCount());
+        GroupRecord& group = mGroups.emplace_back();
+        setText(group.tableName, row.DataView(groupTable));
+        setText(group.groupName, row.DataView(groupName));
+        setText(group.groupID, row.DataView(groupIdentifier));
+        raiseFailure(row);
+    }
+}
+
+void cNIP::loadFields(FieldIndex& index) {
+    // Where a table's group is found by a search from the start.
+    std::unordered_map<std::string_view, std::int16_t> groupOfTable;
+    for (std::int16_t i = 0; i <= GroupCount(); ++i)
+        groupOfTable.try_emplace(groupAt(i).tableName, i);
+
+    std::int16_t place = 0;
+    std::string name;
+    std::string table;
+    SQLData row;
+    for (run(row, mConnection, structureStatements[1]); !row.Eof(); row.NextRow()) {
+        setText(name, row.DataView(fieldFieldName));
+        // The statement leaves out the key column as the engine compares texts, perhaps by their case.
+        if (sameName(name, "EncounterID")) continue;
+        setText(table, row.DataView(fieldTable));
+        if (table != groupAt(place).tableName) {
+            const auto found = groupOfTable.find(table);
+            place = found == groupOfTable.end() ? GroupCount() : found->second;
+        }
+        GroupRecord& group = mGroups[static_cast<std::size_t>(place)];
+        FieldRecord& field = appendField(group);
+        fillField(field, row);
+        raiseFailure(row);
+        placeInGrid(group, field, index);
+        index.add({place, group.fieldCount});
+    }
+}
+
+FieldRecord& cNIP::appendField(GroupRecord& group) {
+    const std::int16_t count = raised(group.fieldCount);
+    group.fields.resize(static_cast<std::size_t>(count) + 1);
+    group.fieldCount = count;
+    mFieldCountMax = std::max(mFieldCountMax, count);
+    return group.fields.back();
+}
+
+/// A comment field stands beside the field that it comments, if that was loaded before; any other begins a
+/// row.
+void cNIP::placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex& index) {
+    const std::string_view name = field.fieldName;
+    if (name.ends_with(commentSuffix)) {
+        const std::string_view base = name.substr(0, name.size() - commentSuffix.size());
+        if (const FieldRecord* commented = index.first(field.groupID, base)) {
+            field.colIndex = 2;
+            field.rowIndex = commented->rowIndex;
+            return;
+        }
+    }
+    group.rowCount = raised(group.rowCount);
+    field.colIndex = 1;
+    field.rowIndex = group.rowCount;
+    mRowCountMax = std::max(mRowCountMax, group.rowCount);
+}
+
+void cNIP::loadAllowedValues(const FieldIndex& index) {
+    std::string name;
+    SQLData row;
+    for (run(row, mConnection, structureStatements[2]); !row.Eof(); row.NextRow()) {
+        setText(name, row.DataView(valueFieldName));
+        const auto fields = index.find(row.DataView(valueGroupID).toInt32(), name);
+        if (fields.empty()) continue;
+        const bool byDefault = row.DataView(isDefault).toBoolean();
+        const Variant& value = row.DataView(allowedValue);
+        for (const FieldPlace& place : fields)
+            addAllowedValue(at(place.group, place.field), value, byDefault);
+        raiseFailure(row);
+    }
+}
+
+} // namespace Korvane

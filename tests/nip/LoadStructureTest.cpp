@@ -1,0 +1,170 @@
+#include <korvane/nip/cNIP.h>
+
+#include "support/NipDatabase.h"
+
+#include <gmock/gmock.h>
+#include <sqlite3.h>
+
+namespace Korvane {
+
+using namespace Testing;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+/// "row/column" of a field.
+std::string place(const cNIP& nip, std::int16_t group, std::int16_t field) {
+    return std::to_string(nip.RowIndex(group, field)) + "/" + std::to_string(nip.ColIndex(group, field));
+}
+
+} // namespace
+
+TEST(LoadStructure, ReadsGroupsInTheirOrderAndLeavesOutWhatIsReserved) {
+    NipDatabase nips;
+    nips.group(5, "History", "NIP_Custom2", 2);
+    nips.group(3, "Vitals", "NIP_Custom1", 1);
+    nips.group(9, "Empty", "NIP_Custom3", 3);
+    nips.group(0, "Reserved", "NIP_Custom4", 4);
+    nips.define(0, "Hidden");
+    nips.define(3, "EncounterID");
+    nips.define(3, "encounterid");
+    nips.field(3, "NIP_Custom1", "Pulse", {"COMBOBOX", 1, 7.5F, 12});
+    nips.field(3, "NIP_Custom1", "Weight", {"TEXT", 0, 2.F});
+    nips.field(5, "NIP_Custom2", "Smoker");
+
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    EXPECT_EQ(nip.GroupCount(), 3);
+    EXPECT_EQ(nip.GroupName(1), "Vitals");
+    EXPECT_EQ(nip.GroupName(2), "History");
+    EXPECT_EQ(nip.GroupName(3), "Empty");
+    EXPECT_EQ(nip.FieldCount(1), 2);
+    EXPECT_EQ(nip.FieldCount(2), 1);
+    EXPECT_EQ(nip.FieldCount(3), 0);
+    EXPECT_EQ(nip.RowCount(3), 0);
+    EXPECT_EQ(nip.RowCountMax(), 2);
+    EXPECT_EQ(nip.fieldName(1, 1), "Weight");
+    EXPECT_EQ(nip.fieldName(1, 2), "Pulse");
+    EXPECT_EQ(nip.Caption(1, 2), "The Pulse");
+    EXPECT_EQ(nip.displayType(1, 2), "COMBOBOX");
+    EXPECT_EQ(nip.maxLength(1, 2), 12);
+    EXPECT_EQ(nip.InitialValueRule(1, 2), 1);
+    EXPECT_EQ(nip.Ordinal(1, 2), 7.5F);
+    EXPECT_EQ(nip.TableName(1, 2), "NIP_Custom1");
+    EXPECT_EQ(nip.GroupName(2, 1), "History");
+    EXPECT_EQ(nip.GroupID(2, 1), 5);
+    EXPECT_EQ(nip.dataType(1, 2), "");
+
+    EXPECT_FALSE(nip.LoadStructure(nullptr));
+    EXPECT_EQ(nip.fieldName(1, 2), "Pulse");
+    EXPECT_EQ(nips.errorLog(), "");
+}
+
+TEST(LoadStructure, RunsExactlyItsThreeStatements) {
+    NipDatabase nips;
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    EXPECT_EQ(nip.FieldCount(1), 0);
+    EXPECT_THAT(
+        nips.db->statements,
+        ElementsAre(
+            "Select DBFieldGroups.DBFieldGroupID, DBFieldGroups.GroupName, DBFieldGroups.TableName From "
+            "DBFields RIGHT OUTER JOIN DBFieldGroups ON DBFields.DBFieldGroupID=DBFieldGroups.DBFieldGroupID "
+            "Where DBFieldGroups.DBFieldGroupID>1 GROUP BY DbFieldGroups.DBFieldGroupID, "
+            "DBFieldGroups.GroupName , DBFieldGroups.TableName, DBFieldGroups.Ordinal Order By "
+            "DBFieldGroups.Ordinal",
+            "Select DBFieldGroups.GroupName, DBFields.ID, DBFieldGroups.TableName, "
+            "DBFieldGroups.DBFieldGroupID, maxlength, "
+            "fieldName,fieldCaption,displaytype,InitialValueRuleID,DBFields.Ordinal From DBFields INNER JOIN "
+            "DBFieldGroups ON DBFields.DBFieldGroupID=DBFieldGroups.DBFieldGroupID Where "
+            "DBFieldGroups.DBFieldGroupID>1 and DBFields.FieldName<>'EncounterID' Order By "
+            "DBFieldGroups.DBFieldGroupID, DBFieldGroups.Ordinal, DBFields.Ordinal, DBFields.fieldname",
+            "Select fieldValue,defaultvalue,FieldName,DBFieldGroupID,Ordinal From DBFieldValues Order By "
+            "Ordinal"));
+    EXPECT_EQ(nips.db->announced, nips.db->statements);
+    EXPECT_EQ(nips.db->transactionLevel(), 0);
+}
+
+TEST(LoadStructure, PutsACommentBesideItsField) {
+    NipDatabase nips;
+    nips.group(2, "Vitals", "NIP_Custom1");
+    nips.group(3, "Late", "NIP_Custom2");
+    for (const char* name :
+         {"A", "B", "A_COMMENTS", "b_COMMENTS", "B_Comments", "C_COMMENTS", "C", "B_COMMENTS"})
+        nips.define(2, name);
+    nips.define(3, "A_COMMENTS");
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    std::vector<std::string> places;
+    for (std::int16_t field = 1; field <= nip.FieldCount(1); ++field)
+        places.push_back(place(nip, 1, field));
+    EXPECT_THAT(places, ElementsAre("1/1", "2/1", "1/2", "3/1", "4/1", "5/1", "6/1", "2/2"));
+    EXPECT_EQ(nip.RowCount(1), 6);
+    EXPECT_EQ(place(nip, 2, 1), "1/1") << "the field of another group is none of its own";
+    EXPECT_EQ(nip.RowCountMax(), 6);
+}
+
+TEST(LoadStructure, GivesEveryFieldItsOwnAllowedValues) {
+    NipDatabase nips;
+    nips.group(2, "Vitals", "NIP_Custom1");
+    nips.group(3, "Other", "NIP_Custom2");
+    nips.define(2, "Smoker's");
+    nips.define(2, "Plain");
+    nips.define(3, "Smoker's");
+    nips.allowed(2, "Smoker's", "never", 3, true);
+    nips.allowed(2, "SMOKER'S", "daily", 1, true);
+    nips.allowed(2, "Smoker's", "it's | \n", 2);
+    nips.allowed(3, "Smoker's", "other", 1);
+    nips.allowed(4, "Smoker's", "nobody's", 1, true);
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    EXPECT_THAT(nip.ValueList(1, 1).array().elements,
+                ElementsAre(Variant(), Variant("daily"), Variant("it's | \n"), Variant("never")));
+    EXPECT_EQ(nip.ValueListCount(1, 1), 3);
+    EXPECT_EQ(nip.DefaultValue(1, 1), Variant("never")) << "of two defaults the later one counts";
+    EXPECT_THAT(nip.ValueList(2, 1).array().elements, ElementsAre(Variant(), Variant("other")));
+    EXPECT_THAT(nip.ValueList(1, 2).array().elements, ElementsAre(Variant()));
+    EXPECT_EQ(nip.ValueListCount(1, 2), 0);
+    EXPECT_TRUE(nip.DefaultValue(2, 1).isEmpty());
+}
+
+TEST(LoadStructure, EndsWithFalseAndALineWhenAStatementFails) {
+    NipDatabase nips;
+    nips.group(2, "Vitals", "NIP_Custom1");
+    nips.define(2, "Pulse");
+    cNIP nip;
+    for (const char* failing : {"GROUP BY", "INNER JOIN", "DBFieldValues"}) {
+        nips.db->failOn = failing;
+        EXPECT_FALSE(nip.LoadStructure(nips.db)) << failing;
+        EXPECT_FALSE(nip.Save()) << "with half a structure";
+    }
+    EXPECT_EQ(nip.fieldName(1, 1), "Pulse") << "what was loaded up to the failure stays";
+    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.LoadStructure: disk I/O error"));
+    EXPECT_EQ(nips.user->boxes.size(), 3u);
+    EXPECT_EQ(nips.db->transactionLevel(), 0);
+}
+
+TEST(LoadStructure, CountsNoFurtherThan16Bits) {
+    NipDatabase nips;
+    nips.group(2, "Huge", "NIP_Custom1");
+    nips.db->Close();
+    sqlite3* file = nullptr;
+    ASSERT_EQ(sqlite3_open(nips.dir.file("clinic.db").c_str(), &file), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(file,
+                           "with recursive n(i) as (select 1 union all select i + 1 from n where i < 32768) "
+                           "insert into DBFields(ID, FieldName, DBFieldGroupID, Ordinal) "
+                           "select i, 'F' || i, 2, i from n",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    cNIP nip;
+    EXPECT_FALSE(nip.LoadStructure(ado::open(nips.address())));
+    EXPECT_EQ(nip.FieldCount(1), 32767);
+    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.LoadStructure: "));
+    ASSERT_EQ(sqlite3_exec(file, "delete from DBFields where ID=1", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_TRUE(nip.LoadStructure(ado::open(nips.address())));
+    EXPECT_EQ(nip.fieldName(1, 32767), "F32768");
+    sqlite3_close(file);
+}
+
+} // namespace Korvane

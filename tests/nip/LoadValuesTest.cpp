@@ -1,0 +1,153 @@
+#include <korvane/nip/cNIP.h>
+
+#include "support/NipDatabase.h"
+
+#include <gmock/gmock.h>
+
+namespace Korvane {
+
+using namespace Testing;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+constexpr const char* vitals = "NIP_Custom1";
+
+/// A group of one field for each way in which a new encounter gets its value, one of them a list.
+struct LoadValues : testing::Test {
+    LoadValues() {
+        nips.group(2, "Vitals", vitals);
+        nips.group(3, "Empty", "NIP_Custom2");
+        nips.field(2, vitals, "Temp-1", {.rule = 1});
+        nips.field(2, vitals, "Description");
+        nips.field(2, vitals, "Chosen", {"List-Multiple", 1});
+        nips.field(2, vitals, "Rank", {.columnType = "INTEGER"});
+        nips.allowed(2, "Description", "as usual", 1, true);
+        nips.encounter(1, "P1", "9/30/2025 8:00:00 AM");
+        nips.encounter(2, "P1", "10/1/2025 9:00:00 PM");
+        nips.encounter(3, "P1", "10/1/2025 10:00:00 AM");
+        nips.encounter(4, "O'Neil", "11/1/2025");
+        row(1, "36.1", "one", "a", 1);
+        row(2, "37.2", "two", "a|b|", 2);
+        row(3, "38.3", "three", "  ", Variant::null());
+    }
+
+    void row(std::int32_t id, const char* temp, const char* description, const char* chosen,
+             const Variant& rank) {
+        nips.insert(vitals, {{"EncounterID", id},
+                             {"Temp-1", temp},
+                             {"Description", description},
+                             {"Chosen", chosen},
+                             {"Rank", rank}});
+    }
+
+    std::vector<std::string> values() const {
+        std::vector<std::string> texts;
+        for (std::int16_t field = 1; field <= nip.FieldCount(1); ++field)
+            texts.push_back(nip.value(1, field).textOrEmpty());
+        return texts;
+    }
+
+    NipDatabase nips;
+    cNIP nip;
+};
+
+} // namespace
+
+TEST_F(LoadValues, ReadsEveryGroupsRowOfAnEncounter) {
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    nips.db->statements.clear();
+    nips.db->announced.clear();
+    ASSERT_TRUE(nip.Load(2, "P1", false));
+    EXPECT_THAT(values(), ElementsAre("37.2", "two", "a|b|", "2"));
+    EXPECT_TRUE(nip.value(1, 4).isText());
+    EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant("a"), Variant("b"), Variant("")));
+    EXPECT_EQ(nip.ChoiceListCount(1, 3), 3);
+    EXPECT_THAT(nips.db->statements,
+                ElementsAre("Select [Temp-1],Description,Chosen,Rank From NIP_Custom1 Where EncounterID=2"));
+    EXPECT_EQ(nips.db->announced, nips.db->statements);
+
+    ASSERT_TRUE(nip.Load(3, "P1", false));
+    EXPECT_THAT(values(), ElementsAre("38.3", "three", "  ", "0"));
+    EXPECT_EQ(nip.ChoiceListCount(1, 3), 0);
+    EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant()));
+
+    ASSERT_TRUE(nip.Load(99, "P1", false));
+    EXPECT_THAT(values(), ElementsAre("", "", "", "")) << "an encounter without a row";
+    EXPECT_EQ(nips.db->transactionLevel(), 0);
+    EXPECT_TRUE(nips.user->boxes.empty());
+}
+
+TEST_F(LoadValues, FillsANewEncounterFromDefaultsAndThePatientsLatestOne) {
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    nips.db->statements.clear();
+    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    EXPECT_THAT(values(), ElementsAre("37.2", "as usual", "a|b|", ""));
+    EXPECT_EQ(nip.ChoiceListCount(1, 3), 3);
+    EXPECT_THAT(nips.db->statements,
+                ElementsAre("Select [Temp-1],Description,Chosen,Rank From NIP_Custom1 Where EncounterID=-1",
+                            "Select Top 1 [Temp-1],NIP_Custom1.Description,Chosen,Rank From NIP_Custom1 "
+                            "INNER JOIN Encounter ON Encounter.EncounterID=NIP_Custom1.EncounterID Where "
+                            "PatientID='P1' Order By EncounterDate DESC"));
+
+    ASSERT_TRUE(nip.Load(2, "P1", true));
+    EXPECT_THAT(values(), ElementsAre("38.3", "as usual", "  ", "")) << "it is not its own predecessor";
+    EXPECT_EQ(nip.ChoiceListCount(1, 3), 0);
+
+    for (const char* patient : {"P9", "O'Neil", "' Or ''='", "P1' --", ""}) {
+        ASSERT_TRUE(nip.Load(-1, patient, true)) << patient;
+        EXPECT_THAT(values(), ElementsAre("", "as usual", "", "")) << patient;
+    }
+    nip.InitialValueRule(1, 1, 0);
+    nip.InitialValueRule(1, 3, -1);
+    nip.DefaultValue(1, 3, "x|y");
+    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    EXPECT_THAT(values(), ElementsAre("", "as usual", "x|y", "")) << "a negative rule means the default";
+    EXPECT_EQ(nip.ChoiceListCount(1, 3), 2);
+    EXPECT_TRUE(nips.user->boxes.empty());
+}
+
+TEST_F(LoadValues, HoldsNothingOfAnEncounterAfterAFailure) {
+    nips.group(4, "Later", "NIP_Custom3");
+    nips.field(4, "NIP_Custom3", "Note");
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    ASSERT_TRUE(nip.Load(2, "P1", false));
+    nips.db->failOn = "NIP_Custom3";
+    EXPECT_FALSE(nip.Load(1, "P1", false));
+    EXPECT_THAT(values(), ElementsAre("", "", "", ""));
+    EXPECT_EQ(nip.ChoiceListCount(1, 3), 0);
+    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.Load: disk I/O error"));
+    EXPECT_EQ(nips.user->boxes.size(), 1u);
+    nips.db->failOn.clear();
+    EXPECT_FALSE(nip.Save()) << "empty values must not replace those that could not be read";
+    EXPECT_EQ(nips.rows("Select Description From NIP_Custom1 Where EncounterID=1"), "one");
+}
+
+TEST_F(LoadValues, LoadsTheStructureItselfWhenItIsNotThere) {
+    EXPECT_FALSE(nip.Load(2, "P1", false)) << "without a connection";
+    EXPECT_EQ(nips.errorLog(), "");
+    nips.db->failOn = "DBFields";
+    EXPECT_FALSE(nip.LoadStructure(nips.db));
+    nips.db->failOn.clear();
+    EXPECT_TRUE(nip.Load(2, "P1", false));
+    EXPECT_THAT(values(), ElementsAre("37.2", "two", "a|b|", "2"));
+
+    nips.db->Close();
+    nips.user->boxes.clear();
+    EXPECT_FALSE(nip.Load(2, "P1", false));
+    ASSERT_EQ(nips.user->boxes.size(), 1u);
+    EXPECT_THAT(nips.user->boxes[0].text, HasSubstr("Attempt to query while ADO Connection not open"));
+}
+
+TEST_F(LoadValues, RefusesAFieldThatNoStatementCanName) {
+    nips.define(2, "a] From Encounter --");
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    EXPECT_FALSE(nip.Load(2, "P1", false));
+    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.Load: \"a] From Encounter --\" cannot be"));
+    nip.EncounterID(2);
+    EXPECT_FALSE(nip.Save());
+    EXPECT_EQ(nips.rows("Select Description From NIP_Custom1 Where EncounterID=2"), "two");
+}
+
+} // namespace Korvane

@@ -1,0 +1,47 @@
+#include <korvane/nip/SqlName.h>
+
+#include <korvane/ado/Connection.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+namespace Korvane {
+
+using namespace std::string_literals;
+
+TEST(SqlName, BracketsOnlyWhatIsNoPlainName) {
+    const std::pair<const char*, const char*> names[] = {
+        {"Pulse", "Pulse"},       {"_a1", "_a1"},           {"Temp", "Temp"},     {"Temp-1", "[Temp-1]"},
+        {"Dose.mg", "[Dose.mg]"}, {"Dose mg", "[Dose mg]"}, {"1st", "[1st]"},     {"Größe", "[Größe]"},
+        {"a'b", "[a'b]"},         {"a[b", "[a[b]"},         {"Order", "[Order]"}, {"gRoUp", "[gRoUp]"},
+        {"USER", "[USER]"},       {"Orders", "Orders"}};
+    for (const auto& [name, written] : names)
+        EXPECT_EQ(sqlName(name), written);
+    for (const auto& impossible : {""s, "a]b"s, "a],(Select 1) As [b"s, "a\0b"s})
+        EXPECT_THROW(sqlName(impossible), RuntimeError) << impossible;
+}
+
+TEST(SqlName, WritesEveryKeywordOfTheEngineSoThatItIsAName) {
+    const auto db = ado::open("sqlite::memory:");
+    for (int i = 0; i < sqlite3_keyword_count(); ++i) {
+        const char* text = nullptr;
+        int length = 0;
+        ASSERT_EQ(sqlite3_keyword_name(i, &text, &length), SQLITE_OK);
+        const std::string word(text, static_cast<std::size_t>(length));
+        const std::string name = sqlName(word);
+        SCOPED_TRACE(name);
+        EXPECT_NO_THROW({
+            db->Execute("Create Table " + name + " ([EncounterID] INTEGER PRIMARY KEY, [" + word + "] TEXT)");
+            db->Execute("Insert Into " + name + " ([EncounterID],[" + word + "])  values (1,'x')");
+            const auto rows = db->openCursor("Select " + name + " From " + name + " Where EncounterID=1",
+                                             ado::CursorType::ForwardOnly, ado::LockType::ReadOnly);
+            Variant value;
+            rows->value(0, value);
+            EXPECT_EQ(value, Variant("x"));
+            EXPECT_EQ(rows->columns()[0].name, word);
+        });
+    }
+}
+
+} // namespace Korvane

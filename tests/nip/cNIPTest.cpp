@@ -1,0 +1,95 @@
+#include <korvane/nip/cNIP.h>
+
+#include "support/NipDatabase.h"
+
+#include <korvane/runtime/RuntimeError.h>
+
+#include <gtest/gtest.h>
+
+namespace Korvane {
+
+using namespace Testing;
+
+namespace {
+
+template <typename Call>
+void expectOutOfRange(Call&& call, const char* what) {
+    try {
+        call();
+        ADD_FAILURE() << what << " raised nothing";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), RuntimeError::SubscriptOutOfRange) << what;
+    }
+}
+
+} // namespace
+
+TEST(cNIP, KeepsToTheBoundsOfItsTable) {
+    NipDatabase nips;
+    nips.group(2, "One", "NIP_Custom1");
+    nips.group(3, "Two", "NIP_Custom2");
+    nips.define(2, "A");
+    nips.define(2, "B");
+    nips.define(3, "C");
+    cNIP nip;
+    expectOutOfRange([&] { nip.FieldCount(1); }, "a count before anything is loaded");
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+
+    EXPECT_EQ(nip.Caption(-1, 9), "");
+    EXPECT_EQ(nip.RowIndex(9, -1), 0);
+    EXPECT_TRUE(nip.value(-1, -1).isEmpty());
+    EXPECT_EQ(nip.FieldCount(-1), 0);
+    EXPECT_EQ(nip.fieldName(0, 0), "");
+    EXPECT_EQ(nip.fieldName(2, 2), "") << "behind the last field of a shorter group";
+    expectOutOfRange([&] { nip.fieldName(3, 1); }, "a group too many");
+    expectOutOfRange([&] { nip.fieldName(1, 3); }, "a field too many");
+    expectOutOfRange([&] { nip.RowCount(3); }, "a count of a group too many");
+    expectOutOfRange([&] { nip.value(-1, 1, "x"); }, "a let with a negative group");
+    expectOutOfRange([&] { nip.value(1, -1, "x"); }, "a let with a negative field");
+    expectOutOfRange([&] { nip.value(2, 3, "x"); }, "a let of a field too many");
+    nip.value(2, 2, "x");
+    nip.value(0, 0, "y");
+    EXPECT_EQ(nip.value(2, 2), Variant("x"));
+    EXPECT_EQ(nip.value(0, 0), Variant("y"));
+    EXPECT_EQ(nip.FieldCount(2), 1);
+}
+
+TEST(cNIP, GivesBackWhatEachPropertyWasGiven) {
+    NipDatabase nips;
+    nips.group(2, "One", "NIP_Custom1");
+    nips.define(2, "A");
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    const Variant list = VariantArray{0, {Variant("x"), Variant(2)}};
+    nip.Caption(1, 1, "caption");
+    nip.displayType(1, 1, "LIST");
+    nip.maxLength(1, 1, 1);
+    nip.ControlIndex(1, 1, 2);
+    nip.ControlIndexLabel(1, 1, 3);
+    nip.InitialValueRule(1, 1, 4);
+    nip.RowIndex(1, 1, 5);
+    nip.ColIndex(1, 1, 6);
+    nip.ValueListCount(1, 1, 7);
+    nip.ChoiceListCount(1, 1, 8);
+    nip.Ordinal(1, 1, 9.5F);
+    nip.DefaultValue(1, 1, 10);
+    nip.value(1, 1, 11.25);
+    nip.ValueList(1, 1, list);
+    nip.ChoiceList(1, 1, Variant("not checked"));
+    EXPECT_EQ(nip.Caption(1, 1), "caption");
+    EXPECT_EQ(nip.displayType(1, 1), "LIST");
+    const std::int16_t numbers[] = {
+        nip.maxLength(1, 1), nip.ControlIndex(1, 1), nip.ControlIndexLabel(1, 1), nip.InitialValueRule(1, 1),
+        nip.RowIndex(1, 1),  nip.ColIndex(1, 1),     nip.ValueListCount(1, 1),    nip.ChoiceListCount(1, 1)};
+    for (std::int16_t i = 0; i < 8; ++i)
+        EXPECT_EQ(numbers[i], i + 1);
+    EXPECT_EQ(nip.Ordinal(1, 1), 9.5F);
+    EXPECT_EQ(nip.DefaultValue(1, 1), Variant(10));
+    EXPECT_EQ(nip.value(1, 1), Variant(11.25));
+    EXPECT_EQ(nip.ValueList(1, 1), list);
+    EXPECT_EQ(nip.ChoiceList(1, 1), Variant("not checked"));
+    nip.fieldName(1, 1, "Renamed");
+    EXPECT_EQ(nip.fieldName(1, 1), "A") << "until it is saved";
+}
+
+} // namespace Korvane
