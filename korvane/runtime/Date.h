@@ -59,6 +59,7 @@ class Date {
     /// range.
     std::int64_t seconds() const;
 
+    /// By day number: within a day before day 0 the later hour is the lesser one. `seconds` orders by time.
     friend constexpr auto operator<=>(const Date& a, const Date& b) { return a.mDays <=> b.mDays; }
     friend constexpr bool operator==(const Date& a, const Date& b) { return a.mDays == b.mDays; }
 
