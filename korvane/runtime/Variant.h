@@ -124,8 +124,8 @@ class Variant {
     /// Errors as above.
     bool toBoolean() const;
 
-    /// From a date, a number (a day number), or text that reads as a date, else as a number. Empty is the zero
-    /// date. Errors as above.
+    /// From a date, a number (a day number), or text that reads as a date, else as a number. Empty is the
+    /// zero date. Errors as above.
     Date toDate() const;
 
     /// The array held. TypeMismatch when this is not one.
