@@ -34,6 +34,9 @@ class Cursor {
   public:
     virtual ~Cursor() = default;
 
+    /// False once its connection was closed; nothing but this may be asked then.
+    virtual bool isOpen() const = 0;
+
     virtual std::span<const ColumnInfo> columns() const = 0;
     /// The ordinal of the column of that name (case does not count); -1 when there is none.
     virtual int columnIndex(std::string_view name) const = 0;

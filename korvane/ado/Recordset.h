@@ -107,6 +107,10 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     Recordset();
     friend class Field;
     struct Opened;
+    Opened& opened() const;  ///< raises ObjectClosed
+    Opened& current() const; ///< raises NoCurrentRecord as well
+    int ordinalOf(const FieldKey& key) const;
+    const ColumnInfo& columnInfo(const FieldKey& key) const;
     ado::CursorType mCursorType = ado::CursorType::ForwardOnly;
     ado::LockType mLockType = ado::LockType::ReadOnly;
     std::unique_ptr<Opened> mOpened;

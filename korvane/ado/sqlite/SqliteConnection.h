@@ -3,6 +3,7 @@
 #include <korvane/ado/Connection.h>
 
 #include <chrono>
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -22,5 +23,9 @@ std::shared_ptr<Connection> adopt(sqlite3* handle);
 /// How long a statement waits for another writer before it fails. 5 seconds unless set; only connections of
 /// this provider.
 void setBusyTimeout(Connection& connection, std::chrono::milliseconds timeout);
+
+/// How many statements that differ in more than their values are kept compiled; 512 unless set. About 3 for each group of
+/// a Nip and 32 more are used. With fewer, nothing changes but the time it takes.
+void setShapeLimit(Connection& connection, std::size_t most);
 
 } // namespace Korvane::ado::sqlite

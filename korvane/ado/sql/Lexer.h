@@ -1,0 +1,123 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvane::ado::sql {
+
+enum class TokenKind : std::uint8_t {
+    End,
+    Word,      ///< a keyword or a plain name
+    Name,      ///< [bracketed], "quoted" or `quoted`, with its marks
+    Text,      ///< 'text', with its quotes
+    Integer,   ///< decimal digits alone
+    Number,    ///< any other number: 2.5, 1e3, 0x1F
+    Blob,      ///< x'00ff'
+    Date,      ///< #11/15/2026#, with its marks
+    Parameter, ///< ?, ?1, :name, @name, $name
+    Symbol,    ///< an operator or a mark of punctuation
+    Broken,    ///< something that has no end (the rest of the text), or a character that means nothing
+};
+
+struct Token {
+    TokenKind kind = TokenKind::End;
+    std::string_view text;
+
+    bool isSymbol(std::string_view symbol) const { return kind == TokenKind::Symbol && text == symbol; }
+    bool isSymbol(char symbol) const {
+        return kind == TokenKind::Symbol && text.size() == 1 && text.front() == symbol;
+    }
+    /// `lowerCaseWord` in any case.
+    bool isWord(std::string_view lowerCaseWord) const {
+        return kind == TokenKind::Word && sameWord(text, lowerCaseWord);
+    }
+    bool isName() const { return kind == TokenKind::Word || kind == TokenKind::Name; }
+
+    static bool sameWord(std::string_view text, std::string_view lowerCaseWord) {
+        if (text.size() != lowerCaseWord.size()) return false;
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            if ((text[i] | 0x20) != lowerCaseWord[i]) return false;
+        }
+        return true;
+    }
+};
+
+/// Splits a statement into tokens; blanks and comments are passed over. Tokens are views into the statement.
+class Lexer {
+  public:
+    explicit Lexer(std::string_view statement)
+        : mNext(statement.data()), mEnd(statement.data() + statement.size()) {}
+
+    /// The next token; End, again and again, behind the last.
+    Token next() {
+        skipBlanks();
+        const char* begin = mNext;
+        if (mNext == mEnd) return {TokenKind::End, {mEnd, 0}};
+        TokenKind kind = TokenKind::Symbol;
+        if (is(*mNext, LetterClass)) {
+            while (++mNext != mEnd && is(*mNext, WordClass)) {
+            }
+            kind = TokenKind::Word;
+            if (mNext != mEnd && *mNext == '\'' && mNext - begin == 1 && (*begin | 0x20) == 'x') {
+                kind = quoted('\'', TokenKind::Blob);
+            }
+        } else {
+            kind = other();
+        }
+        return {kind, {begin, static_cast<std::size_t>(mNext - begin)}};
+    }
+
+    /// Where the next token would be looked for.
+    const char* position() const { return mNext; }
+
+  private:
+    enum Class : std::uint8_t { BlankClass = 1, LetterClass = 2, WordClass = 4, DigitClass = 8 };
+    static constexpr std::array<std::uint8_t, 256> classes() {
+        std::array<std::uint8_t, 256> table{};
+        for (const unsigned char blank : {' ', '\t', '\n', '\f', '\r'}) table[blank] = BlankClass;
+        for (std::size_t c = 'a'; c <= 'z'; ++c) table[c] = table[c - 0x20] = LetterClass | WordClass;
+        for (std::size_t c = 0x80; c < 256; ++c) table[c] = LetterClass | WordClass;
+        for (std::size_t c = '0'; c <= '9'; ++c) table[c] = WordClass | DigitClass;
+        table['_'] = LetterClass | WordClass;
+        table['$'] = WordClass;
+        return table;
+    }
+    static constexpr bool is(char c, Class wanted) {
+        constexpr auto table = classes();
+        return (table[static_cast<unsigned char>(c)] & wanted) != 0;
+    }
+
+    void skipBlanks() {
+        while (mNext != mEnd) {
+            if (is(*mNext, BlankClass)) {
+                ++mNext;
+            } else if ((*mNext != '-' && *mNext != '/') || !skipComment()) {
+                return;
+            }
+        }
+    }
+
+    bool skipComment();
+    TokenKind other();
+    TokenKind quoted(char mark, TokenKind kind);
+    TokenKind bracketed();
+    TokenKind number();
+    TokenKind date();
+    TokenKind parameter();
+    TokenKind symbol();
+
+    const char* mNext;
+    const char* mEnd;
+};
+
+/// All tokens of a statement, with one End behind them.
+std::vector<Token> tokens(std::string_view statement);
+
+/// A name without its marks: [Problem List] is Problem List.
+std::string plainName(const Token& name);
+
+} // namespace Korvane::ado::sql

@@ -1,0 +1,14 @@
+#include <korvane/ado/sqlite/Names.h>
+
+namespace Korvane::ado::sqlite {
+
+std::string quotedName(std::string_view name) {
+    std::string quoted = "\"";
+    for (const char c : name) {
+        quoted += c;
+        if (c == '"') quoted += c;
+    }
+    return quoted + '"';
+}
+
+} // namespace Korvane::ado::sqlite

@@ -1,0 +1,295 @@
+#include <korvane/ado/sqlite/Session.h>
+
+#include <korvane/ado/sql/Lexer.h>
+#include <korvane/ado/sqlite/Error.h>
+#include <korvane/ado/sqlite/Names.h>
+#include <korvane/ado/sqlite/ResultCursor.h>
+#include <korvane/ado/sqlite/Types.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace Korvane::ado::sqlite {
+
+namespace {
+
+// Undoes what a statement that failed left behind, and keeps the compiled form.
+class Returned {
+  public:
+    Returned(Shapes& shapes, Lease& lease) : mShapes(shapes), mLease(lease) {}
+    ~Returned() { mShapes.giveBack(std::move(mLease)); }
+    Returned(const Returned&) = delete;
+    Returned& operator=(const Returned&) = delete;
+
+  private:
+    Shapes& mShapes;
+    Lease& mLease;
+};
+
+} // namespace
+
+Session::Session(sqlite3* handle, Handle ownership)
+    : mHandle(handle), mOwned(ownership == Handle::Owned), mSchema(handle), mTransactions(handle) {}
+
+Session::~Session() { letGo(); }
+
+sqlite3* Session::handle() const {
+    if (!mHandle) throw RuntimeError(RuntimeError::ObjectClosed);
+    return mHandle;
+}
+
+void Session::Close() {
+    handle();
+    if (transactionLevel() > 0) throw RuntimeError(RuntimeError::TransactionOpen);
+    letGo();
+}
+
+void Session::letGo() noexcept {
+    if (!mHandle) return;
+    while (!mCursors.empty()) mCursors.back()->close();
+    mShapes.forget();
+    mVersionQuery = {};
+    while (transactionLevel() > 0) {
+        try {
+            mTransactions.rollback();
+        } catch (const RuntimeError&) {
+            break; // closing the handle undoes it as well; a lent one is its owner's to mend
+        }
+    }
+    if (mOwned) sqlite3_close_v2(mHandle);
+    mHandle = nullptr;
+}
+
+std::int32_t Session::Execute(std::string_view statement) {
+    requireReady(statement);
+    Lease lease = prepare(statement);
+    const Returned returned(mShapes, lease);
+    bindLiterals(lease, TextLives::UntilTheStatementIsDone);
+    return run(lease);
+}
+
+// Runs a bound statement to its end; how many rows it touched.
+std::int32_t Session::run(Lease& lease) {
+    const bool reads = sqlite3_stmt_readonly(lease.statement.get()) != 0;
+    if (!reads) settleCursors();
+    while (lease.statement.step()) {
+    }
+    if (lease.shape->changesSchema) forgetSchema();
+    if (reads || !lease.shape->countsRows) return 0;
+    return sqlite3_changes(mHandle);
+}
+
+std::int32_t Session::BeginTrans(TransactionFor use) {
+    handle();
+    if (use == TransactionFor::Writing && transactionLevel() == 0) settleCursors();
+    const std::int32_t level = mTransactions.begin(use);
+    if (level == 1 && mOwned) {
+        // From the first look at it the schema stays as it is until the end of the transaction.
+        try {
+            refreshSchema();
+        } catch (const RuntimeError&) {
+            mTransactions.rollback();
+            throw;
+        }
+        mSchemaPinned = mTransactions.ownsOutermost();
+    }
+    return level;
+}
+
+void Session::CommitTrans() {
+    handle();
+    mTransactions.commit();
+    if (transactionLevel() == 0) mSchemaPinned = false;
+}
+
+void Session::RollbackTrans() {
+    handle();
+    if (!mTransactions.lost()) settleCursors();
+    mTransactions.rollback();
+    forgetSchema(); // the schema may have been changed in it
+    if (transactionLevel() == 0) mSchemaPinned = false;
+}
+
+void Session::requireReady(std::string_view statement) const {
+    handle();
+    mTransactions.requireNotLost();
+    if (statement.find('\0') != std::string_view::npos) {
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           "The statement holds a NUL character, which no text column can keep.");
+    }
+}
+
+void Session::liftFrom(std::string_view statement) {
+    mLifter.lift(statement);
+    const int most = sqlite3_limit(mHandle, SQLITE_LIMIT_VARIABLE_NUMBER, -1);
+    if (mLifter.literals().size() > static_cast<std::size_t>(most)) mLifter.leave(statement);
+}
+
+// Finds or makes the compiled form of a statement; its values are in mLifter.
+Lease Session::prepare(std::string_view statement) {
+    liftFrom(statement);
+    std::shared_ptr<Shape> shape = mShapes.find(mLifter.shape());
+    // What the values become rests on the types of the columns: these must be those of now.
+    if (!shape || shape->converts) {
+        refreshSchema();
+        if (shape && shape->forgotten) shape = nullptr;
+    }
+    if (!shape) {
+        shape = makeShape(mLifter.shape(), {});
+        if (shape->idle) mShapes.keep(shape);
+    }
+    Lease lease{shape, std::move(shape->idle)};
+    if (!lease.statement) lease.statement = CompiledStatement(mHandle, shape->translation.text, true);
+    return lease;
+}
+
+Lease Session::prepareOnce(std::string_view statement, std::string_view addedColumns) {
+    liftFrom(statement);
+    refreshSchema();
+    auto shape = makeShape(mLifter.shape(), addedColumns);
+    shape->forgotten = true;
+    CompiledStatement compiled = std::move(shape->idle);
+    return {std::move(shape), std::move(compiled)};
+}
+
+std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_view addedColumns) {
+    auto shape = std::make_shared<Shape>();
+    shape->text = text;
+    shape->translation = translate(text, mSchema, addedColumns);
+    shape->idle = CompiledStatement(mHandle, shape->translation.text, true);
+    if (!shape->idle) throw RuntimeError(RuntimeError::InvalidArgument, "There is no statement to run.");
+    for (ParameterRule& rule : shape->translation.parameters) {
+        if (rule.column && sql::isTextType(rule.column->type)) rule.column.reset();
+        shape->converts = shape->converts || rule.column.has_value();
+    }
+    const sql::Token first = sql::Lexer(text).next();
+    const auto isOne = [&](auto... words) { return (first.isWord(words) || ...); };
+    shape->countsRows = isOne("insert", "update", "delete", "replace", "with");
+    shape->changesSchema = !shape->countsRows && !isOne("select", "values", "explain");
+    return shape;
+}
+
+void Session::bindLiterals(const Lease& lease, TextLives lives) {
+    sqlite3_stmt* statement = lease.statement.get();
+    const auto& literals = mLifter.literals();
+    if (sqlite3_bind_parameter_count(statement) != static_cast<int>(literals.size())) {
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           "The statement holds a parameter mark; values are written into the statement itself.");
+    }
+    for (std::size_t i = 0; i < literals.size(); ++i) {
+        const sql::Literal& literal = literals[i];
+        const ParameterRule& rule = lease.shape->translation.parameters[i];
+        const sql::ColumnValue value = rule.column ? sql::toColumn(literal, *rule.column, rule.use, mScratch)
+                                                   : sql::asItStands(literal, mScratch);
+        const TextLives textLives = literal.doubledQuotes ? TextLives::OnlyNow : lives;
+        check(mHandle, bind(statement, static_cast<int>(i) + 1, value, textLives));
+    }
+}
+
+std::int64_t Session::schemaVersion() {
+    if (!mVersionQuery) mVersionQuery = CompiledStatement(mHandle, "Pragma schema_version", true);
+    mVersionQuery.step();
+    const std::int64_t version = sqlite3_column_int64(mVersionQuery.get(), 0);
+    mVersionQuery.reset();
+    return version;
+}
+
+void Session::refreshSchema() {
+    if (mSchemaPinned && mSchemaVersion) return;
+    const std::int64_t version = schemaVersion();
+    if (mSchemaVersion && *mSchemaVersion != version) forgetSchema();
+    mSchemaVersion = version;
+}
+
+void Session::forgetSchema() {
+    mShapes.forget();
+    mSchema.forget();
+    mSchemaVersion.reset();
+}
+
+void Session::settleCursors() {
+    const std::vector<ResultCursor*> cursors = mCursors;
+    for (ResultCursor* cursor : cursors) cursor->spool();
+}
+
+std::unique_ptr<Cursor> Session::openCursor(std::string_view statement, CursorType cursorType, LockType lockType) {
+    requireReady(statement);
+    if (lockType != LockType::ReadOnly || cursorType == CursorType::Keyset || cursorType == CursorType::Dynamic) {
+        return openKeyset(statement, lockType);
+    }
+    Lease lease = prepare(statement);
+    bindLiterals(lease, TextLives::OnlyNow);
+    auto cursor = open(std::move(lease));
+    if (cursor && cursorType == CursorType::Static) cursor->become(CursorType::Static, LockType::ReadOnly);
+    return cursor;
+}
+
+// Runs a bound statement and gives the cursor on its result; null when it returns no rows.
+std::unique_ptr<ResultCursor> Session::open(Lease lease) {
+    sqlite3_stmt* statement = lease.statement.get();
+    if (sqlite3_column_count(statement) == 0) {
+        run(lease);
+        mShapes.giveBack(std::move(lease));
+        return nullptr;
+    }
+    const bool writes = sqlite3_stmt_readonly(statement) == 0;
+    if (writes) settleCursors();
+    const bool atEnd = !lease.statement.step();
+    describeResult(lease);
+    auto cursor = std::make_unique<ResultCursor>(*this, std::move(lease), atEnd);
+    mCursors.push_back(cursor.get());
+    // What writes has written only when it is done.
+    if (writes) cursor->spool();
+    return cursor;
+}
+
+std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType lockType) {
+    Writeback writeback;
+    std::string keyColumns;
+    if (const auto rows = lockType == LockType::ReadOnly ? std::nullopt : rowSource(statement)) {
+        refreshSchema();
+        writeback = {rows->table, mSchema.keyOf(rows->table)};
+        for (const std::string& column : writeback.key) {
+            keyColumns += ", " + quotedName(rows->calledAs) + "." + quotedName(column);
+        }
+    }
+    Lease lease = prepareOnce(statement, keyColumns);
+    bindLiterals(lease, TextLives::OnlyNow);
+    auto cursor = open(std::move(lease));
+    if (cursor) cursor->become(CursorType::Keyset, lockType, std::move(writeback));
+    return cursor;
+}
+
+// Reads names and types of a result's columns once for its shape; again when the engine compiled it anew for a new schema.
+void Session::describeResult(const Lease& lease) {
+    sqlite3_stmt* statement = lease.statement.get();
+    const bool recompiled = sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_REPREPARE, 1) > 0;
+    if (recompiled) refreshSchema();
+    if (lease.shape->columns && !lease.shape->forgotten) return;
+    std::vector<ColumnInfo> columns;
+    const auto& computed = lease.shape->translation.resultTypes;
+    const auto count = static_cast<std::size_t>(sqlite3_column_count(statement));
+    for (std::size_t i = 0; i < count; ++i) {
+        const char* declaration = sqlite3_column_decltype(statement, static_cast<int>(i));
+        DeclaredType declared = declaration ? declaredType(declaration) : DeclaredType{};
+        if (!declaration && computed.size() == count && computed[i]) declared.type = *computed[i];
+        columns.push_back({sqlite3_column_name(statement, static_cast<int>(i)), declared.type, declared.size});
+    }
+    lease.shape->columns = std::make_shared<ResultColumns>(std::move(columns));
+}
+
+CompiledStatement Session::compileForWriting(std::string_view statement) {
+    requireReady(statement);
+    settleCursors();
+    return CompiledStatement(handle(), statement);
+}
+
+void Session::giveBack(Lease lease) { mShapes.giveBack(std::move(lease)); }
+
+void Session::forget(const ResultCursor& cursor) { std::erase(mCursors, &cursor); }
+
+} // namespace Korvane::ado::sqlite
