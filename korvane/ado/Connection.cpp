@@ -8,7 +8,9 @@ namespace Korvane::ado {
 
 namespace {
 
-[[noreturn]] void refuse(const std::string& reason) { throw RuntimeError(RuntimeError::InvalidArgument, reason); }
+[[noreturn]] void refuse(const std::string& reason) {
+    throw RuntimeError(RuntimeError::InvalidArgument, reason);
+}
 
 std::shared_ptr<Connection> openSqlite(std::string_view rest) {
     bool readOnly = false;
@@ -36,7 +38,8 @@ std::shared_ptr<Connection> open(std::string_view address) {
         if (scheme == "postgresql" || scheme == "postgres") refuse("This build has no PostgreSQL provider.");
     }
     refuse("The database address \"" + std::string(address) +
-           "\" does not begin with a kind of database that is known: sqlite:file, sqlite::memory: or postgresql://host/database.");
+           "\" does not begin with a kind of database that is known: sqlite:file, sqlite::memory: or "
+           "postgresql://host/database.");
 }
 
 } // namespace Korvane::ado

@@ -10,8 +10,10 @@ bool IsNumericField(DataType type) {
     case DataType::Double:
     case DataType::Currency:
     case DataType::Boolean:
-    case DataType::Numeric: return true;
-    default: return false;
+    case DataType::Numeric:
+        return true;
+    default:
+        return false;
     }
 }
 

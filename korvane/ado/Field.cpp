@@ -21,15 +21,21 @@ std::string Field::Name() const {
     return from->columnInfo(mOrdinal).name;
 }
 
-DataType Field::Type() const { return owner()->FieldType(mOrdinal); }
+DataType Field::Type() const {
+    return owner()->FieldType(mOrdinal);
+}
 
 std::int32_t Field::DefinedSize() const {
     const auto from = owner();
     return from->columnInfo(mOrdinal).definedSize;
 }
 
-Variant Field::Value() const { return owner()->Value(mOrdinal); }
+Variant Field::Value() const {
+    return owner()->Value(mOrdinal);
+}
 
-void Field::Value(const Variant& value) const { owner()->SetValue(mOrdinal, value); }
+void Field::Value(const Variant& value) const {
+    owner()->SetValue(mOrdinal, value);
+}
 
 } // namespace Korvane::ado

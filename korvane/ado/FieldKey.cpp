@@ -13,6 +13,8 @@ FieldKey::FieldKey(const Variant& key) {
     mOrdinal = key.toInt32();
 }
 
-std::string FieldKey::text() const { return isOrdinal() ? std::to_string(mOrdinal) : std::string(mName); }
+std::string FieldKey::text() const {
+    return isOrdinal() ? std::to_string(mOrdinal) : std::string(mName);
+}
 
 } // namespace Korvane::ado

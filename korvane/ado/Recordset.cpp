@@ -24,9 +24,13 @@ struct Recordset::Opened {
 Recordset::Recordset() = default;
 Recordset::~Recordset() = default;
 
-std::shared_ptr<Recordset> Recordset::create() { return std::shared_ptr<Recordset>(new Recordset); }
+std::shared_ptr<Recordset> Recordset::create() {
+    return std::shared_ptr<Recordset>(new Recordset);
+}
 
-std::int32_t Recordset::State() const { return mOpened && mOpened->cursor->isOpen() ? 1 : 0; }
+std::int32_t Recordset::State() const {
+    return mOpened && mOpened->cursor->isOpen() ? 1 : 0;
+}
 
 Recordset::Opened& Recordset::opened() const {
     if (State() == 0) throw RuntimeError(RuntimeError::ObjectClosed);
@@ -53,14 +57,18 @@ const ColumnInfo& Recordset::columnInfo(const FieldKey& key) const {
     return opened().cursor->columns()[static_cast<std::size_t>(ordinal)];
 }
 
-CursorType Recordset::CursorType() const { return State() == 1 ? mOpened->cursor->cursorType() : mCursorType; }
+CursorType Recordset::CursorType() const {
+    return State() == 1 ? mOpened->cursor->cursorType() : mCursorType;
+}
 
 void Recordset::CursorType(ado::CursorType type) {
     if (State() == 1) throw RuntimeError(RuntimeError::ObjectOpen);
     mCursorType = type;
 }
 
-LockType Recordset::LockType() const { return State() == 1 ? mOpened->cursor->lockType() : mLockType; }
+LockType Recordset::LockType() const {
+    return State() == 1 ? mOpened->cursor->lockType() : mLockType;
+}
 
 void Recordset::LockType(ado::LockType type) {
     if (State() == 1) throw RuntimeError(RuntimeError::ObjectOpen);
@@ -84,15 +92,20 @@ void Recordset::Close() {
 
 bool Recordset::Supports(std::int32_t capabilities) const {
     const Opened& open = opened();
-    const bool counted = open.cursor->cursorType() == CursorType::Static || open.cursor->cursorType() == CursorType::Keyset;
+    const bool counted =
+        open.cursor->cursorType() == CursorType::Static || open.cursor->cursorType() == CursorType::Keyset;
     std::int32_t there = counted ? Bookmark + ApproximatePosition : 0;
     if (open.cursor->lockType() != LockType::ReadOnly) there += Update_;
     return (capabilities & ~there) == 0;
 }
 
-std::int32_t Recordset::RecordCount() const { return opened().cursor->rowCount(); }
+std::int32_t Recordset::RecordCount() const {
+    return opened().cursor->rowCount();
+}
 
-bool Recordset::Eof() const { return opened().cursor->atEnd(); }
+bool Recordset::Eof() const {
+    return opened().cursor->atEnd();
+}
 
 void Recordset::MoveNext() {
     Opened& open = current();
@@ -100,14 +113,18 @@ void Recordset::MoveNext() {
     open.cursor->moveNext();
 }
 
-std::int32_t Recordset::FieldCount() const { return static_cast<std::int32_t>(opened().cursor->columns().size()); }
+std::int32_t Recordset::FieldCount() const {
+    return static_cast<std::int32_t>(opened().cursor->columns().size());
+}
 
 Field Recordset::Fields(const FieldKey& key) const {
     const int ordinal = ordinalOf(key);
     return {std::const_pointer_cast<Recordset>(shared_from_this()), ordinal, mOpening};
 }
 
-DataType Recordset::FieldType(const FieldKey& key) const { return columnInfo(key).type; }
+DataType Recordset::FieldType(const FieldKey& key) const {
+    return columnInfo(key).type;
+}
 
 Variant Recordset::Value(const FieldKey& key) const {
     Variant value;
@@ -142,6 +159,8 @@ void Recordset::Update() {
     open.pending.clear();
 }
 
-void Recordset::CancelUpdate() { opened().pending.clear(); }
+void Recordset::CancelUpdate() {
+    opened().pending.clear();
+}
 
 } // namespace Korvane::ado

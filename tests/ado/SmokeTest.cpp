@@ -7,10 +7,14 @@ namespace Korvane::ado {
 
 TEST(Smoke, Runs) {
     auto db = open("sqlite::memory:");
-    db->Execute("Create Table Encounter (EncounterID Integer Primary Key, PatientID VarChar(50), EncounterDate DateTime, Outgoing Boolean, Kind SmallInt)");
-    EXPECT_EQ(1, db->Execute("Insert into Encounter ([EncounterID],[PatientID],[EncounterDate],[Outgoing],[Kind])  values (12,'P-0042''s','11/15/2026 5:21:51 PM',True,'7')"));
+    db->Execute("Create Table Encounter (EncounterID Integer Primary Key, PatientID VarChar(50), "
+                "EncounterDate DateTime, Outgoing Boolean, Kind SmallInt)");
+    EXPECT_EQ(
+        1, db->Execute("Insert into Encounter ([EncounterID],[PatientID],[EncounterDate],[Outgoing],[Kind])  "
+                       "values (12,'P-0042''s','11/15/2026 5:21:51 PM',True,'7')"));
     auto rs = Recordset::create();
-    rs->Open("Select Top 1 * From Encounter Where EncounterDate >= '11/15/2026' Order By EncounterDate DESC", db);
+    rs->Open("Select Top 1 * From Encounter Where EncounterDate >= '11/15/2026' Order By EncounterDate DESC",
+             db);
     EXPECT_EQ("12", rs->Value("encounterid").text());
     EXPECT_EQ("P-0042's", rs->Value(1).text());
     EXPECT_EQ("11/15/2026 5:21:51 PM", rs->Value(2).text());
@@ -20,7 +24,10 @@ TEST(Smoke, Runs) {
     rs->MoveNext();
     EXPECT_TRUE(rs->Eof());
     rs->Close();
-    { Transaction t(*db); db->Execute("Delete From Encounter"); }
+    {
+        Transaction t(*db);
+        db->Execute("Delete From Encounter");
+    }
     rs->CursorType(CursorType::Dynamic);
     rs->LockType(LockType::Optimistic);
     rs->Open("Select PatientID From Encounter", db);
@@ -31,8 +38,10 @@ TEST(Smoke, Runs) {
     rs->Close();
     rs->CursorType(CursorType::ForwardOnly);
     rs->LockType(LockType::ReadOnly);
-    rs->Open("Select Max(Encounter.[EncounterDate]) as M, Max(PatientID) From Encounter Where EncounterID > 100", db);
+    rs->Open(
+        "Select Max(Encounter.[EncounterDate]) as M, Max(PatientID) From Encounter Where EncounterID > 100",
+        db);
     EXPECT_EQ(DataType::Date, rs->FieldType(0));
     EXPECT_TRUE(rs->Value("m").isNull());
 }
-}
+} // namespace Korvane::ado

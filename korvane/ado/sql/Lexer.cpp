@@ -20,16 +20,23 @@ bool Lexer::skipComment() {
 
 TokenKind Lexer::other() {
     switch (*mNext) {
-    case '\'': return quoted('\'', TokenKind::Text);
-    case '"': return quoted('"', TokenKind::Name);
-    case '`': return quoted('`', TokenKind::Name);
-    case '[': return bracketed();
-    case '#': return date();
+    case '\'':
+        return quoted('\'', TokenKind::Text);
+    case '"':
+        return quoted('"', TokenKind::Name);
+    case '`':
+        return quoted('`', TokenKind::Name);
+    case '[':
+        return bracketed();
+    case '#':
+        return date();
     case '?':
     case ':':
     case '@':
-    case '$': return parameter();
-    default: break;
+    case '$':
+        return parameter();
+    default:
+        break;
     }
     if (is(*mNext, DigitClass)) return number();
     if (*mNext == '.' && mEnd - mNext > 1 && is(mNext[1], DigitClass)) return number();
@@ -83,7 +90,8 @@ TokenKind Lexer::date() {
 
 TokenKind Lexer::parameter() {
     const char* begin = mNext++;
-    while (mNext != mEnd && is(*mNext, WordClass)) ++mNext;
+    while (mNext != mEnd && is(*mNext, WordClass))
+        ++mNext;
     return *begin == '?' || mNext - begin > 1 ? TokenKind::Parameter : TokenKind::Broken;
 }
 

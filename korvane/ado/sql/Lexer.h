@@ -78,10 +78,14 @@ class Lexer {
     enum Class : std::uint8_t { BlankClass = 1, LetterClass = 2, WordClass = 4, DigitClass = 8 };
     static constexpr std::array<std::uint8_t, 256> classes() {
         std::array<std::uint8_t, 256> table{};
-        for (const unsigned char blank : {' ', '\t', '\n', '\f', '\r'}) table[blank] = BlankClass;
-        for (std::size_t c = 'a'; c <= 'z'; ++c) table[c] = table[c - 0x20] = LetterClass | WordClass;
-        for (std::size_t c = 0x80; c < 256; ++c) table[c] = LetterClass | WordClass;
-        for (std::size_t c = '0'; c <= '9'; ++c) table[c] = WordClass | DigitClass;
+        for (const unsigned char blank : {' ', '\t', '\n', '\f', '\r'})
+            table[blank] = BlankClass;
+        for (std::size_t c = 'a'; c <= 'z'; ++c)
+            table[c] = table[c - 0x20] = LetterClass | WordClass;
+        for (std::size_t c = 0x80; c < 256; ++c)
+            table[c] = LetterClass | WordClass;
+        for (std::size_t c = '0'; c <= '9'; ++c)
+            table[c] = WordClass | DigitClass;
         table['_'] = LetterClass | WordClass;
         table['$'] = WordClass;
         return table;

@@ -21,9 +21,9 @@ enum class Place : std::uint8_t {
 // What stood before the token, as far as it decides whether a value may stand here.
 enum class Before : std::uint8_t {
     Other,
-    Operand,  ///< an operator, "(" or a word such as And: a value follows
+    Operand, ///< an operator, "(" or a word such as And: a value follows
     Comma,
-    Minus,    ///< a sign, not a subtraction
+    Minus, ///< a sign, not a subtraction
 };
 
 template <std::size_t N>
@@ -35,15 +35,16 @@ bool isOneOf(std::string_view word, const std::array<std::string_view, N>& words
 }
 
 bool takesValue(std::string_view word) {
-    constexpr std::array<std::string_view, 15> words{"and",  "or",   "not",  "like", "between", "is",   "where", "then",
-                                                     "when", "else", "case", "glob", "escape",  "regexp", "match"};
+    constexpr std::array<std::string_view, 15> words{"and",  "or",    "not",    "like",   "between",
+                                                     "is",   "where", "then",   "when",   "else",
+                                                     "case", "glob",  "escape", "regexp", "match"};
     return word.size() < 8 && isOneOf(word, words);
 }
 
 bool endsPlace(std::string_view word) {
-    constexpr std::array<std::string_view, 17> words{"from",  "on",    "as",        "select", "order",     "group",
-                                                     "limit", "union", "returning", "having", "intersect", "except",
-                                                     "using", "join",  "window",    "offset", "collate"};
+    constexpr std::array<std::string_view, 17> words{
+        "from",   "on",        "as",     "select", "order", "group",  "limit",  "union",  "returning",
+        "having", "intersect", "except", "using",  "join",  "window", "offset", "collate"};
     return word.size() < 10 && isOneOf(word, words);
 }
 
@@ -66,19 +67,28 @@ class Scan {
 
   private:
     static bool startsLiftable(const Token& first) {
-        return first.isWord("select") || first.isWord("update") || first.isWord("insert") || first.isWord("delete") ||
-               first.isWord("replace");
+        return first.isWord("select") || first.isWord("update") || first.isWord("insert") ||
+               first.isWord("delete") || first.isWord("replace");
     }
 
     bool take(const Token& token) {
         switch (token.kind) {
-        case TokenKind::Word: takeWord(token.text); return true;
-        case TokenKind::Symbol: return takeSymbol(token.text);
-        case TokenKind::Text: return takeText(token);
-        case TokenKind::Integer: takeInteger(token); return true;
+        case TokenKind::Word:
+            takeWord(token.text);
+            return true;
+        case TokenKind::Symbol:
+            return takeSymbol(token.text);
+        case TokenKind::Text:
+            return takeText(token);
+        case TokenKind::Integer:
+            takeInteger(token);
+            return true;
         case TokenKind::Parameter:
-        case TokenKind::Broken: return false;
-        default: mBefore = Before::Other; return true;
+        case TokenKind::Broken:
+            return false;
+        default:
+            mBefore = Before::Other;
+            return true;
         }
     }
 
@@ -94,7 +104,8 @@ class Scan {
         case 'w':
             if (Token::sameWord(word, "where")) mPlace = Place::Expression;
             break;
-        default: break;
+        default:
+            break;
         }
         if (mPlace == Place::Elsewhere) return;
         if (endsPlace(word)) {
@@ -118,9 +129,13 @@ class Scan {
             mPlace = mPlaces[--mDepth];
             mBefore = Before::Other;
             break;
-        case ',': mBefore = Before::Comma; break;
+        case ',':
+            mBefore = Before::Comma;
+            break;
         case '.':
-        case ';': mBefore = Before::Other; break;
+        case ';':
+            mBefore = Before::Other;
+            break;
         case '-':
             if (symbol.size() > 1) break; // -> and ->>
             if (before == Before::Operand || (before == Before::Comma && mPlace == Place::Expression)) {
@@ -128,16 +143,20 @@ class Scan {
                 mMinus = symbol.data();
             }
             break;
-        default: break;
+        default:
+            break;
         }
         return true;
     }
 
     bool valueMayStandHere() const {
         switch (mPlace) {
-        case Place::Expression: return mBefore != Before::Other;
-        case Place::SetList: return mBefore == Before::Operand || mBefore == Before::Minus;
-        default: return false;
+        case Place::Expression:
+            return mBefore != Before::Other;
+        case Place::SetList:
+            return mBefore == Before::Operand || mBefore == Before::Minus;
+        default:
+            return false;
         }
     }
 

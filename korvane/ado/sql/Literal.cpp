@@ -16,12 +16,14 @@ std::string shortened(std::string_view text) {
     constexpr std::size_t longest = 40;
     if (text.size() <= longest) return std::string(text);
     std::size_t end = longest;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+        --end;
     return std::string(text.substr(0, end)) + "...";
 }
 
 [[noreturn]] void refuse(int number, std::string_view text, const ColumnInfo& column, const char* reason) {
-    throw RuntimeError(number, "The value \"" + shortened(text) + "\" " + reason + " (column " + column.name + ").");
+    throw RuntimeError(number,
+                       "The value \"" + shortened(text) + "\" " + reason + " (column " + column.name + ").");
 }
 
 std::string_view plainText(const Literal& literal, std::string& scratch) {
@@ -37,12 +39,18 @@ std::string_view plainText(const Literal& literal, std::string& scratch) {
 std::string describe(const Literal& literal) {
     std::string scratch;
     switch (literal.kind) {
-    case Literal::Text: return std::string(plainText(literal, scratch));
-    case Literal::Integer: return std::to_string(literal.integer);
-    case Literal::Number: return numberText(literal.number);
-    case Literal::Boolean: return literal.truth ? "True" : "False";
-    case Literal::Day: return literal.date.text();
-    case Literal::Null: break;
+    case Literal::Text:
+        return std::string(plainText(literal, scratch));
+    case Literal::Integer:
+        return std::to_string(literal.integer);
+    case Literal::Number:
+        return numberText(literal.number);
+    case Literal::Boolean:
+        return literal.truth ? "True" : "False";
+    case Literal::Day:
+        return literal.date.text();
+    case Literal::Null:
+        break;
     }
     return "Null";
 }
@@ -78,11 +86,16 @@ ColumnValue asNumber(const Literal& literal, const ColumnInfo& column, std::stri
         if (sameName(trim(text), "False")) return std::int64_t{0};
         return readNumber(text, column);
     }
-    case Literal::Integer: return literal.integer;
-    case Literal::Boolean: return std::int64_t{literal.truth ? 1 : 0};
-    case Literal::Number: return literal.number;
-    case Literal::Day: return literal.date.dayNumber();
-    case Literal::Null: break;
+    case Literal::Integer:
+        return literal.integer;
+    case Literal::Boolean:
+        return std::int64_t{literal.truth ? 1 : 0};
+    case Literal::Number:
+        return literal.number;
+    case Literal::Day:
+        return literal.date.dayNumber();
+    case Literal::Null:
+        break;
     }
     return {};
 }
@@ -90,12 +103,16 @@ ColumnValue asNumber(const Literal& literal, const ColumnInfo& column, std::stri
 bool fits(std::int64_t value, const Literal& literal, DataType type) {
     switch (type) {
     case DataType::SmallInt:
-        return value >= std::numeric_limits<std::int16_t>::min() && value <= std::numeric_limits<std::int16_t>::max();
+        return value >= std::numeric_limits<std::int16_t>::min() &&
+               value <= std::numeric_limits<std::int16_t>::max();
     case DataType::Integer:
-        // Written as a plain integer it may be as wide as the engine's own: a row number, a time in milliseconds.
+        // Written as a plain integer it may be as wide as the engine's own: a row number, a time in
+        // milliseconds.
         if (literal.kind == Literal::Integer) return true;
-        return value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max();
-    default: return true;
+        return value >= std::numeric_limits<std::int32_t>::min() &&
+               value <= std::numeric_limits<std::int32_t>::max();
+    default:
+        return true;
     }
 }
 
@@ -107,7 +124,8 @@ ColumnValue asInteger(const Literal& literal, const ColumnInfo& column, Use use,
             refuse(RuntimeError::TypeMismatch, describe(literal), column, "is not a whole number");
         }
         const auto whole = wholeNumber(*number);
-        if (!whole) refuse(RuntimeError::Overflow, describe(literal), column, "is outside the range of the column");
+        if (!whole)
+            refuse(RuntimeError::Overflow, describe(literal), column, "is outside the range of the column");
         value = *whole;
     }
     if (!fits(std::get<std::int64_t>(value), literal, column.type)) {
@@ -142,8 +160,10 @@ ColumnValue asBoolean(const Literal& literal, const ColumnInfo& column, Use use,
 
 ColumnValue asDate(const Literal& literal, const ColumnInfo& column, std::string& scratch) {
     switch (literal.kind) {
-    case Literal::Null: return {};
-    case Literal::Day: return literal.date;
+    case Literal::Null:
+        return {};
+    case Literal::Day:
+        return literal.date;
     case Literal::Text: {
         const auto text = plainText(literal, scratch);
         if (trim(text).empty()) return {};
@@ -151,9 +171,11 @@ ColumnValue asDate(const Literal& literal, const ColumnInfo& column, std::string
         if (const auto date = parseDate(text)) return *date;
         refuse(RuntimeError::TypeMismatch, text, column, "is not a date");
     }
-    case Literal::Boolean: refuse(RuntimeError::TypeMismatch, describe(literal), column, "is not a date");
+    case Literal::Boolean:
+        refuse(RuntimeError::TypeMismatch, describe(literal), column, "is not a date");
     case Literal::Integer:
-    case Literal::Number: break;
+    case Literal::Number:
+        break;
     }
     const Date date(literal.kind == Literal::Integer ? static_cast<double>(literal.integer) : literal.number);
     date.parts(); // raises Overflow when there is no such day
@@ -162,12 +184,18 @@ ColumnValue asDate(const Literal& literal, const ColumnInfo& column, std::string
 
 ColumnValue asText(const Literal& literal, std::string& scratch) {
     switch (literal.kind) {
-    case Literal::Text: return plainText(literal, scratch);
-    case Literal::Null: return {};
-    case Literal::Integer: return literal.integer;
-    case Literal::Number: return literal.number;
+    case Literal::Text:
+        return plainText(literal, scratch);
+    case Literal::Null:
+        return {};
+    case Literal::Integer:
+        return literal.integer;
+    case Literal::Number:
+        return literal.number;
     case Literal::Boolean:
-    case Literal::Day: scratch = describe(literal); return std::string_view(scratch);
+    case Literal::Day:
+        scratch = describe(literal);
+        return std::string_view(scratch);
     }
     return {};
 }
@@ -181,9 +209,12 @@ bool isTextType(DataType type) {
 
 ColumnValue asItStands(const Literal& literal, std::string& scratch) {
     switch (literal.kind) {
-    case Literal::Boolean: return literal.truth;
-    case Literal::Day: return literal.date;
-    default: return asText(literal, scratch);
+    case Literal::Boolean:
+        return literal.truth;
+    case Literal::Day:
+        return literal.date;
+    default:
+        return asText(literal, scratch);
     }
 }
 
@@ -191,17 +222,22 @@ ColumnValue toColumn(const Literal& literal, const ColumnInfo& column, Use use, 
     switch (column.type) {
     case DataType::SmallInt:
     case DataType::Integer:
-    case DataType::BigInt: return asInteger(literal, column, use, scratch);
+    case DataType::BigInt:
+        return asInteger(literal, column, use, scratch);
     case DataType::Single:
     case DataType::Double:
     case DataType::Currency:
-    case DataType::Numeric: return asReal(literal, column, scratch);
-    case DataType::Date: return asDate(literal, column, scratch);
-    case DataType::Boolean: return asBoolean(literal, column, use, scratch);
+    case DataType::Numeric:
+        return asReal(literal, column, scratch);
+    case DataType::Date:
+        return asDate(literal, column, scratch);
+    case DataType::Boolean:
+        return asBoolean(literal, column, use, scratch);
     case DataType::Empty:
     case DataType::VarWChar:
     case DataType::LongVarWChar:
-    case DataType::LongVarBinary: break;
+    case DataType::LongVarBinary:
+        break;
     }
     return asText(literal, scratch);
 }
@@ -210,7 +246,8 @@ Literal fromVariant(const Variant& value, std::string& scratch) {
     Literal literal;
     switch (value.type()) {
     case VarType::Empty:
-    case VarType::Null: break;
+    case VarType::Null:
+        break;
     case VarType::Int16:
     case VarType::Int32:
     case VarType::Byte:

@@ -23,8 +23,8 @@ struct Literal {
     Date date{};
 };
 
-/// A value in the form in which a column of some type keeps it; the monostate is Null. A text is a view into the
-/// literal it came from, or into the scratch text given with it.
+/// A value in the form in which a column of some type keeps it; the monostate is Null. A text is a view into
+/// the literal it came from, or into the scratch text given with it.
 using ColumnValue = std::variant<std::monostate, bool, std::int64_t, double, Date, std::string_view>;
 
 /// What happens to a value where it meets a column.
@@ -33,10 +33,11 @@ enum class Use : std::uint8_t {
     Compare, ///< it is compared with the column's value
 };
 
-/// A literal in the form of the column it meets: text that reads as a date becomes a date in a date column, and so on;
-/// empty text is Null in every column that is not a text column. Text columns take any text as it stands.
-/// TypeMismatch, naming the column and the value, for a text that cannot be what the column keeps; Overflow for a stored
-/// number outside the column's range (a bare integer in an `Integer` column may be as wide as the engine's).
+/// A literal in the form of the column it meets: text that reads as a date becomes a date in a date column,
+/// and so on; empty text is Null in every column that is not a text column. Text columns take any text as it
+/// stands. TypeMismatch, naming the column and the value, for a text that cannot be what the column keeps;
+/// Overflow for a stored number outside the column's range (a bare integer in an `Integer` column may be as
+/// wide as the engine's).
 ColumnValue toColumn(const Literal& literal, const ColumnInfo& column, Use use, std::string& scratch);
 
 /// The literal as it stands, for a place where no column is known.

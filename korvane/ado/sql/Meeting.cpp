@@ -9,7 +9,8 @@ namespace {
 
 bool isComparison(const Token& token) {
     constexpr std::array<std::string_view, 8> operators{"=", "<>", "<", ">", "<=", ">=", "!=", "=="};
-    return token.kind == TokenKind::Symbol && std::find(operators.begin(), operators.end(), token.text) != operators.end();
+    return token.kind == TokenKind::Symbol &&
+           std::find(operators.begin(), operators.end(), token.text) != operators.end();
 }
 
 // Whether nothing binds a term that begins here to what stands before it.
@@ -26,9 +27,11 @@ bool beginsTerm(const Statement& statement, std::size_t token) {
 // Whether nothing binds a term that ends before here to what follows.
 bool endsTerm(const Statement& statement, std::size_t token) {
     const Token& after = statement.tokens[token];
-    if (after.kind == TokenKind::End || after.isSymbol(')') || after.isSymbol(',') || after.isSymbol(';')) return true;
+    if (after.kind == TokenKind::End || after.isSymbol(')') || after.isSymbol(',') || after.isSymbol(';'))
+        return true;
     if (after.kind != TokenKind::Word) return false;
-    for (const char* word : {"collate", "like", "in", "is", "between", "not", "glob", "isnull", "notnull", "regexp"}) {
+    for (const char* word :
+         {"collate", "like", "in", "is", "between", "not", "glob", "isnull", "notnull", "regexp"}) {
         if (after.isWord(word)) return false;
     }
     return true;
@@ -37,14 +40,16 @@ bool endsTerm(const Statement& statement, std::size_t token) {
 class Search {
   public:
     Search(const Statement& statement, std::size_t first, std::size_t last, const Tables& tables)
-        : mStatement(statement), mTables(tables), mFirst(first), mLast(last), mPlace(statement.places[first]) {}
+        : mStatement(statement), mTables(tables), mFirst(first), mLast(last),
+          mPlace(statement.places[first]) {}
 
     std::optional<Meeting> run() const {
         if (mPlace.scope < 0) return std::nullopt;
         if (auto met = inValues()) return met;
         if (mFirst == 0) return std::nullopt;
         if (isComparison(before(0)) && endsTerm(mStatement, mLast + 1)) return comparedBehind();
-        if (isComparison(mStatement.tokens[mLast + 1]) && beginsTerm(mStatement, mFirst)) return comparedBefore();
+        if (isComparison(mStatement.tokens[mLast + 1]) && beginsTerm(mStatement, mFirst))
+            return comparedBefore();
         if (auto met = inList()) return met;
         return between();
     }
@@ -70,7 +75,8 @@ class Search {
         const auto ordinal = static_cast<std::size_t>(mPlace.ordinal);
         const auto& named = scope().insertColumns;
         if (named.empty()) {
-            return ordinal < columns.size() ? std::optional(Meeting{&columns[ordinal], Use::Store}) : std::nullopt;
+            return ordinal < columns.size() ? std::optional(Meeting{&columns[ordinal], Use::Store})
+                                            : std::nullopt;
         }
         if (ordinal >= named.size()) return std::nullopt;
         return found(ColumnRef{"", plainName(named[ordinal]), 0, 0}, Use::Store);
@@ -78,7 +84,8 @@ class Search {
 
     bool endsValue() const {
         const Token& after = mStatement.tokens[mLast + 1];
-        return (before(0).isSymbol('(') || before(0).isSymbol(',')) && (after.isSymbol(',') || after.isSymbol(')'));
+        return (before(0).isSymbol('(') || before(0).isSymbol(',')) &&
+               (after.isSymbol(',') || after.isSymbol(')'));
     }
 
     std::optional<Meeting> comparedBehind() const {
@@ -131,7 +138,8 @@ class Search {
 
 } // namespace
 
-std::optional<Meeting> meeting(const Statement& statement, std::size_t first, std::size_t last, const Tables& tables) {
+std::optional<Meeting> meeting(const Statement& statement, std::size_t first, std::size_t last,
+                               const Tables& tables) {
     return Search(statement, first, last, tables).run();
 }
 

@@ -10,14 +10,16 @@ bool isFloating(DataType type) {
 }
 
 // An item of a select list that is one call of a function and nothing else.
-std::optional<DataType> typeOfItem(const Statement& statement, std::size_t begin, std::size_t end, const Tables& tables) {
+std::optional<DataType> typeOfItem(const Statement& statement, std::size_t begin, std::size_t end,
+                                   const Tables& tables) {
     const auto& tokens = statement.tokens;
     if (tokens[begin].kind == TokenKind::Integer && (begin + 1 == end || tokens[begin + 1].isName())) {
         return DataType::Integer;
     }
     if (end - begin < 4 || !tokens[begin + 1].isSymbol('(')) return std::nullopt;
     std::size_t close = begin + 2;
-    while (close < end && !tokens[close].isSymbol(')')) ++close;
+    while (close < end && !tokens[close].isSymbol(')'))
+        ++close;
     // Behind the call only a name may stand: Max(A) As B.
     if (close == end || (close + 1 != end && !tokens[close + 1].isName())) return std::nullopt;
     if (tokens[begin].isWord("count")) return DataType::Integer;

@@ -14,10 +14,12 @@ bool isAnyWord(const Token& token, std::initializer_list<std::string_view> words
 }
 
 bool isReserved(const Token& token) {
-    return isAnyWord(token, {"select", "from",  "where", "set",     "values", "on",    "using", "join",  "inner",
-                             "left",   "right", "full",  "outer",   "cross",  "order", "group", "having", "limit",
-                             "union",  "except", "intersect", "as",  "and",   "or",    "not",   "natural",
-                             "returning", "default", "indexed", "window", "case", "when", "then", "else", "end"});
+    return isAnyWord(token,
+                     {"select", "from",    "where",     "set",     "values",    "on",    "using",  "join",
+                      "inner",  "left",    "right",     "full",    "outer",     "cross", "order",  "group",
+                      "having", "limit",   "union",     "except",  "intersect", "as",    "and",    "or",
+                      "not",    "natural", "returning", "default", "indexed",   "into",  "insert", "update",
+                      "delete", "or",      "window",    "case",    "when",      "then",  "else",   "end"});
 }
 
 class Analysis {
@@ -37,7 +39,8 @@ class Analysis {
             if (token().isSymbol(',')) comma();
             if (token().isName() && !isReserved(token())) name();
         }
-        while (!mFrames.empty()) endFrame(mResult.tokens.size() - 1);
+        while (!mFrames.empty())
+            endFrame(mResult.tokens.size() - 1);
         return std::move(mResult);
     }
 
@@ -57,7 +60,9 @@ class Analysis {
         return mResult.tokens[std::min(mAt + by, mResult.tokens.size() - 1)];
     }
     Frame& frame() { return mFrames.back(); }
-    Scope* scope() { return frame().scope < 0 ? nullptr : &mResult.scopes[static_cast<std::size_t>(frame().scope)]; }
+    Scope* scope() {
+        return frame().scope < 0 ? nullptr : &mResult.scopes[static_cast<std::size_t>(frame().scope)];
+    }
     int depth() const { return static_cast<int>(mFrames.size()) - 1; }
 
     void enter(Clause clause) {
@@ -68,9 +73,10 @@ class Analysis {
     }
 
     void beginScope(bool isSelect) {
-        const int outer = frame().ownsScope && mResult.scopes[static_cast<std::size_t>(frame().scope)].isSelect
-                              ? mResult.scopes[static_cast<std::size_t>(frame().scope)].parent
-                              : frame().scope;
+        const int outer =
+            frame().ownsScope && mResult.scopes[static_cast<std::size_t>(frame().scope)].isSelect
+                ? mResult.scopes[static_cast<std::size_t>(frame().scope)].parent
+                : frame().scope;
         if (frame().ownsScope) endScope(mAt);
         Scope begun;
         begun.parent = outer;
@@ -198,16 +204,21 @@ class Analysis {
     bool mCompound = false;
 };
 
-bool isColumnName(const Token& token) { return token.isName() && !isReserved(token); }
+bool isColumnName(const Token& token) {
+    return token.isName() && !isReserved(token);
+}
 
 const ColumnInfo* find(std::span<const ColumnInfo> columns, std::string_view name) {
-    const auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& c) { return sameName(c.name, name); });
+    const auto found =
+        std::find_if(columns.begin(), columns.end(), [&](const auto& c) { return sameName(c.name, name); });
     return found == columns.end() ? nullptr : &*found;
 }
 
 } // namespace
 
-Statement analyse(std::string_view text) { return Analysis(text).run(); }
+Statement analyse(std::string_view text) {
+    return Analysis(text).run();
+}
 
 std::optional<ColumnRef> refBefore(const Statement& statement, std::size_t token) {
     const auto& all = statement.tokens;
@@ -224,7 +235,8 @@ std::optional<ColumnRef> refAt(const Statement& statement, std::size_t token) {
     const auto& all = statement.tokens;
     std::size_t end = token;
     if (!isColumnName(all[end])) return std::nullopt;
-    while (all[end + 1].isSymbol('.') && all[end + 2].isName()) end += 2;
+    while (all[end + 1].isSymbol('.') && all[end + 2].isName())
+        end += 2;
     auto ref = refBefore(statement, end + 1);
     if (ref && ref->begin != token) return std::nullopt;
     return ref;

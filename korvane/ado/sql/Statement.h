@@ -38,10 +38,10 @@ struct Statement {
     struct Place {
         int scope = -1;
         Clause clause = Clause::Other;
-        int depth = 0;          ///< of parentheses around it
-        int clauseDepth = 0;    ///< the depth at which its clause stands
-        std::size_t open = 0;   ///< the innermost parenthesis around it; 0 when there is none
-        int ordinal = 0;        ///< in Values: commas of its tuple before it
+        int depth = 0;        ///< of parentheses around it
+        int clauseDepth = 0;  ///< the depth at which its clause stands
+        std::size_t open = 0; ///< the innermost parenthesis around it; 0 when there is none
+        int ordinal = 0;      ///< in Values: commas of its tuple before it
     };
 
     std::vector<Token> tokens;

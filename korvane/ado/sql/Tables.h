@@ -12,7 +12,8 @@ class Tables {
   public:
     virtual ~Tables() = default;
 
-    /// The columns of a table, in its order; empty for a table that is not known. The names are compared without regard to case.
+    /// The columns of a table, in its order; empty for a table that is not known. The names are compared
+    /// without regard to case.
     virtual std::span<const ColumnInfo> columnsOf(std::string_view table) const = 0;
 };
 

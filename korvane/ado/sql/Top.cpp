@@ -16,7 +16,8 @@ std::optional<TopClause> topAt(const Statement& statement, std::size_t at) {
     if (inParentheses && !tokens[number + 1].isSymbol(')')) return std::nullopt;
     const std::size_t last = number + (inParentheses ? 1 : 0);
     const Token& after = tokens[last + 1];
-    if (after.kind == TokenKind::End || after.isWord("percent") || after.isWord("from") || after.isSymbol(',')) {
+    if (after.kind == TokenKind::End || after.isWord("percent") || after.isWord("from") ||
+        after.isSymbol(',')) {
         return std::nullopt;
     }
     return TopClause{at, last, tokens[number].text, 0};

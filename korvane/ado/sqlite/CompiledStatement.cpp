@@ -18,15 +18,19 @@ CompiledStatement::CompiledStatement(sqlite3* handle, std::string_view text, boo
     const std::string_view rest = text.substr(static_cast<std::size_t>(tail - text.data()));
     sql::Lexer lexer(rest);
     sql::Token token = lexer.next();
-    while (token.isSymbol(';')) token = lexer.next();
+    while (token.isSymbol(';'))
+        token = lexer.next();
     if (token.kind == sql::TokenKind::End) return;
     sqlite3_finalize(mStatement);
     throw RuntimeError(RuntimeError::InvalidArgument, "Only one statement can be run at a time.");
 }
 
-CompiledStatement::~CompiledStatement() { sqlite3_finalize(mStatement); }
+CompiledStatement::~CompiledStatement() {
+    sqlite3_finalize(mStatement);
+}
 
-CompiledStatement::CompiledStatement(CompiledStatement&& other) noexcept : mStatement(std::exchange(other.mStatement, nullptr)) {}
+CompiledStatement::CompiledStatement(CompiledStatement&& other) noexcept
+    : mStatement(std::exchange(other.mStatement, nullptr)) {}
 
 CompiledStatement& CompiledStatement::operator=(CompiledStatement&& other) noexcept {
     std::swap(mStatement, other.mStatement);
@@ -46,7 +50,9 @@ bool CompiledStatement::step() {
     return false;
 }
 
-void CompiledStatement::reset() { sqlite3_reset(mStatement); }
+void CompiledStatement::reset() {
+    sqlite3_reset(mStatement);
+}
 
 std::string_view CompiledStatement::text(int column) const {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(mStatement, column));

@@ -6,8 +6,8 @@ struct sqlite3;
 
 namespace Korvane::ado::sqlite {
 
-/// The failure that the engine reported last on a handle: its message, and what a person can do about it where that is
-/// known. `code` is the (extended) result code.
+/// The failure that the engine reported last on a handle: its message, and what a person can do about it
+/// where that is known. `code` is the (extended) result code.
 RuntimeError engineError(sqlite3* handle, int code);
 
 /// Raises it unless the code is one of success.

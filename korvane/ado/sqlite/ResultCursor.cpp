@@ -14,9 +14,12 @@
 namespace Korvane::ado::sqlite {
 
 ResultCursor::ResultCursor(Session& session, Lease lease, bool atEnd)
-    : mSession(&session), mLease(std::move(lease)), mColumns(mLease.shape->columns), mLive(!atEnd), mAtEnd(atEnd) {}
+    : mSession(&session), mLease(std::move(lease)), mColumns(mLease.shape->columns), mLive(!atEnd),
+      mAtEnd(atEnd) {}
 
-ResultCursor::~ResultCursor() { close(); }
+ResultCursor::~ResultCursor() {
+    close();
+}
 
 void ResultCursor::close() noexcept {
     if (!mSession) return;
@@ -113,7 +116,8 @@ std::string ResultCursor::updateStatement(std::span<const FieldChange> changes) 
         where += (where.empty() ? "" : " And ") + quotedName(key) + " Is ?";
         stored += quotedName(key) + (&key == &mWriteback.key.back() ? "" : ", ");
     }
-    return "Update " + quotedName(mWriteback.table) + " Set " + set + " Where " + where + " Returning " + stored;
+    return "Update " + quotedName(mWriteback.table) + " Set " + set + " Where " + where + " Returning " +
+           stored;
 }
 
 void ResultCursor::update(std::span<const FieldChange> changes) {
@@ -127,15 +131,17 @@ void ResultCursor::update(std::span<const FieldChange> changes) {
     };
     for (const FieldChange& change : changes) {
         const ColumnInfo& column = mColumns->all()[static_cast<std::size_t>(change.ordinal)];
-        bindNext(sql::toColumn(sql::fromVariant(change.value, variantText), column, sql::Use::Store, scratch));
+        bindNext(
+            sql::toColumn(sql::fromVariant(change.value, variantText), column, sql::Use::Store, scratch));
     }
     for (std::size_t i = 0; i < mWriteback.key.size(); ++i) {
         bindNext(sql::asItStands(sql::fromVariant(cell(ownColumns() + i), variantText), scratch));
     }
     if (!statement.step()) {
-        throw RuntimeError(RuntimeError::DatabaseFailure,
-                           "The row could not be found to be updated: it has been deleted, or its key has been changed, "
-                           "since it was read.");
+        throw RuntimeError(
+            RuntimeError::DatabaseFailure,
+            "The row could not be found to be updated: it has been deleted, or its key has been changed, "
+            "since it was read.");
     }
     std::vector<Variant> stored(changes.size() + mWriteback.key.size());
     for (std::size_t i = 0; i < stored.size(); ++i) {
@@ -147,8 +153,8 @@ void ResultCursor::update(std::span<const FieldChange> changes) {
     while (statement.step()) {
     }
     for (std::size_t i = 0; i < stored.size(); ++i) {
-        const std::size_t place =
-            i < changes.size() ? static_cast<std::size_t>(changes[i].ordinal) : ownColumns() + i - changes.size();
+        const std::size_t place = i < changes.size() ? static_cast<std::size_t>(changes[i].ordinal)
+                                                     : ownColumns() + i - changes.size();
         cell(place) = std::move(stored[i]);
     }
 }

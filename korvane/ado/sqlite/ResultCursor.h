@@ -12,15 +12,16 @@ namespace Korvane::ado::sqlite {
 
 class Session;
 
-/// Where a result's rows can be written back: one table and the columns of its key, which stand behind the result's own.
+/// Where a result's rows can be written back: one table and the columns of its key, which stand behind the
+/// result's own.
 struct Writeback {
     std::string table;
     std::vector<std::string> key;
 };
 
-/// A result, stepped through as it is walked, or read into memory: as a whole when its rows are to be counted or
-/// written, and the rest of it when something is written through the same connection, so that what was asked for is what is
-/// seen, and no lock outlives its use.
+/// A result, stepped through as it is walked, or read into memory: as a whole when its rows are to be counted
+/// or written, and the rest of it when something is written through the same connection, so that what was
+/// asked for is what is seen, and no lock outlives its use.
 class ResultCursor final : public Cursor {
   public:
     /// Takes over a statement that stands on its first row, or (`atEnd`) behind its last.
@@ -65,7 +66,8 @@ class ResultCursor final : public Cursor {
     ado::CursorType mCursorType = ado::CursorType::ForwardOnly;
     ado::LockType mLockType = ado::LockType::ReadOnly;
     Writeback mWriteback;
-    std::vector<std::string> mOrigins; ///< the table's column behind each column; empty for one that cannot be written
+    std::vector<std::string>
+        mOrigins; ///< the table's column behind each column; empty for one that cannot be written
 };
 
 } // namespace Korvane::ado::sqlite

@@ -17,8 +17,8 @@ class Schema : public sql::Tables {
 
     std::span<const ColumnInfo> columnsOf(std::string_view table) const override;
 
-    /// The names of the columns that find a row of a table: its primary key, else the row number ("rowid"). Empty for a view
-    /// and for a table that is not there.
+    /// The names of the columns that find a row of a table: its primary key, else the row number ("rowid").
+    /// Empty for a view and for a table that is not there.
     std::vector<std::string> keyOf(std::string_view table) const;
 
     void forget() { mTables.clear(); }

@@ -35,7 +35,9 @@ class Returned {
 Session::Session(sqlite3* handle, Handle ownership)
     : mHandle(handle), mOwned(ownership == Handle::Owned), mSchema(handle), mTransactions(handle) {}
 
-Session::~Session() { letGo(); }
+Session::~Session() {
+    letGo();
+}
 
 sqlite3* Session::handle() const {
     if (!mHandle) throw RuntimeError(RuntimeError::ObjectClosed);
@@ -50,7 +52,8 @@ void Session::Close() {
 
 void Session::letGo() noexcept {
     if (!mHandle) return;
-    while (!mCursors.empty()) mCursors.back()->close();
+    while (!mCursors.empty())
+        mCursors.back()->close();
     mShapes.forget();
     mVersionQuery = {};
     while (transactionLevel() > 0) {
@@ -177,8 +180,9 @@ void Session::bindLiterals(const Lease& lease, TextLives lives) {
     sqlite3_stmt* statement = lease.statement.get();
     const auto& literals = mLifter.literals();
     if (sqlite3_bind_parameter_count(statement) != static_cast<int>(literals.size())) {
-        throw RuntimeError(RuntimeError::InvalidArgument,
-                           "The statement holds a parameter mark; values are written into the statement itself.");
+        throw RuntimeError(
+            RuntimeError::InvalidArgument,
+            "The statement holds a parameter mark; values are written into the statement itself.");
     }
     for (std::size_t i = 0; i < literals.size(); ++i) {
         const sql::Literal& literal = literals[i];
@@ -213,12 +217,15 @@ void Session::forgetSchema() {
 
 void Session::settleCursors() {
     const std::vector<ResultCursor*> cursors = mCursors;
-    for (ResultCursor* cursor : cursors) cursor->spool();
+    for (ResultCursor* cursor : cursors)
+        cursor->spool();
 }
 
-std::unique_ptr<Cursor> Session::openCursor(std::string_view statement, CursorType cursorType, LockType lockType) {
+std::unique_ptr<Cursor> Session::openCursor(std::string_view statement, CursorType cursorType,
+                                            LockType lockType) {
     requireReady(statement);
-    if (lockType != LockType::ReadOnly || cursorType == CursorType::Keyset || cursorType == CursorType::Dynamic) {
+    if (lockType != LockType::ReadOnly || cursorType == CursorType::Keyset ||
+        cursorType == CursorType::Dynamic) {
         return openKeyset(statement, lockType);
     }
     Lease lease = prepare(statement);
@@ -264,7 +271,8 @@ std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType
     return cursor;
 }
 
-// Reads names and types of a result's columns once for its shape; again when the engine compiled it anew for a new schema.
+// Reads names and types of a result's columns once for its shape; again when the engine compiled it anew for
+// a new schema.
 void Session::describeResult(const Lease& lease) {
     sqlite3_stmt* statement = lease.statement.get();
     const bool recompiled = sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_REPREPARE, 1) > 0;
@@ -277,7 +285,8 @@ void Session::describeResult(const Lease& lease) {
         const char* declaration = sqlite3_column_decltype(statement, static_cast<int>(i));
         DeclaredType declared = declaration ? declaredType(declaration) : DeclaredType{};
         if (!declaration && computed.size() == count && computed[i]) declared.type = *computed[i];
-        columns.push_back({sqlite3_column_name(statement, static_cast<int>(i)), declared.type, declared.size});
+        columns.push_back(
+            {sqlite3_column_name(statement, static_cast<int>(i)), declared.type, declared.size});
     }
     lease.shape->columns = std::make_shared<ResultColumns>(std::move(columns));
 }
@@ -288,8 +297,12 @@ CompiledStatement Session::compileForWriting(std::string_view statement) {
     return CompiledStatement(handle(), statement);
 }
 
-void Session::giveBack(Lease lease) { mShapes.giveBack(std::move(lease)); }
+void Session::giveBack(Lease lease) {
+    mShapes.giveBack(std::move(lease));
+}
 
-void Session::forget(const ResultCursor& cursor) { std::erase(mCursors, &cursor); }
+void Session::forget(const ResultCursor& cursor) {
+    std::erase(mCursors, &cursor);
+}
 
 } // namespace Korvane::ado::sqlite

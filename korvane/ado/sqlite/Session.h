@@ -33,14 +33,16 @@ class Session final : public Connection {
     void RollbackTrans() override;
     std::int32_t transactionLevel() const override { return mTransactions.level(); }
     void Close() override;
-    std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType, LockType lockType) override;
+    std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
+                                       LockType lockType) override;
 
     /// The handle, for as long as the connection is open. ObjectClosed behind that.
     sqlite3* handle() const;
     /// How many shapes of statements are kept compiled.
     void keepShapes(std::size_t most) { mShapes.limit(most); }
 
-    /// For cursors: compiles a statement that runs once; takes back what `openCursor` gave; knows a cursor no longer.
+    /// For cursors: compiles a statement that runs once; takes back what `openCursor` gave; knows a cursor no
+    /// longer.
     CompiledStatement compileForWriting(std::string_view statement);
     void giveBack(Lease lease);
     void forget(const ResultCursor& cursor);

@@ -19,7 +19,8 @@ ResultColumns::ResultColumns(std::vector<ColumnInfo> columns)
 // The slot that holds the name, or the free one where it would be.
 std::size_t ResultColumns::slotOf(std::string_view name) const {
     std::uint64_t hash = 14695981039346656037U;
-    for (const char c : name) hash = (hash ^ static_cast<std::uint64_t>(c | 0x20)) * 1099511628211U;
+    for (const char c : name)
+        hash = (hash ^ static_cast<std::uint64_t>(c | 0x20)) * 1099511628211U;
     const std::size_t mask = mSlots.size() - 1;
     std::size_t slot = static_cast<std::size_t>(hash ^ (hash >> 32)) & mask;
     while (mSlots[slot] >= 0 && !sameName(mColumns[static_cast<std::size_t>(mSlots[slot])].name, name)) {
@@ -28,7 +29,9 @@ std::size_t ResultColumns::slotOf(std::string_view name) const {
     return slot;
 }
 
-int ResultColumns::indexOf(std::string_view name) const { return mSlots[slotOf(name)]; }
+int ResultColumns::indexOf(std::string_view name) const {
+    return mSlots[slotOf(name)];
+}
 
 std::shared_ptr<Shape> Shapes::find(std::string_view text) {
     const auto found = mByText.find(text);

@@ -31,12 +31,12 @@ class ResultColumns {
 struct Shape {
     std::string text;
     Translation translation;
-    bool converts = false;      ///< some value meets a column that is not a text column
-    bool countsRows = false;    ///< Insert, Update or Delete
-    bool changesSchema = false; ///< anything but these and queries
+    bool converts = false;                        ///< some value meets a column that is not a text column
+    bool countsRows = false;                      ///< Insert, Update or Delete
+    bool changesSchema = false;                   ///< anything but these and queries
     std::shared_ptr<const ResultColumns> columns; ///< set when it first returned rows
-    CompiledStatement idle;     ///< a compiled form that nobody uses at the moment
-    bool forgotten = false;     ///< no longer kept; the schema has changed, or there was no room
+    CompiledStatement idle;                       ///< a compiled form that nobody uses at the moment
+    bool forgotten = false; ///< no longer kept; the schema has changed, or there was no room
 };
 
 /// A compiled statement in use. It goes back with `Shapes::giveBack`, or ends with the lease.

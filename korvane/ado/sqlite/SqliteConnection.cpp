@@ -40,7 +40,8 @@ void requireDatabase(sqlite3* handle, std::string_view path) {
     try {
         run(handle, "Pragma schema_version");
     } catch (const RuntimeError& error) {
-        throw RuntimeError(error.Number(), std::string(path) + ": " + error.Description(), error.NativeCode());
+        throw RuntimeError(error.Number(), std::string(path) + ": " + error.Description(),
+                           error.NativeCode());
     }
 }
 
@@ -58,12 +59,14 @@ std::shared_ptr<Connection> open(std::string_view path, bool readOnly) {
     OwnedHandle handle(opened);
     if (code != SQLITE_OK) {
         const RuntimeError error = engineError(opened, code);
-        throw RuntimeError(error.Number(), std::string(path) + ": " + error.Description(), error.NativeCode());
+        throw RuntimeError(error.Number(), std::string(path) + ": " + error.Description(),
+                           error.NativeCode());
     }
     setUp(opened);
     requireDatabase(opened, path);
     if (!readOnly) {
-        // Where it cannot be had (a database in memory, one that others hold open in another mode) the engine keeps the mode there is.
+        // Where it cannot be had (a database in memory, one that others hold open in another mode) the engine
+        // keeps the mode there is.
         sqlite3_exec(opened, "Pragma journal_mode=WAL", nullptr, nullptr, nullptr);
         run(opened, "Pragma synchronous=Full");
     }
@@ -81,7 +84,8 @@ namespace {
 
 Session& sessionOf(Connection& connection) {
     auto* session = dynamic_cast<Session*>(&connection);
-    if (!session) throw RuntimeError(RuntimeError::InvalidArgument, "The connection is not one to a SQLite database.");
+    if (!session)
+        throw RuntimeError(RuntimeError::InvalidArgument, "The connection is not one to a SQLite database.");
     return *session;
 }
 
@@ -91,6 +95,8 @@ void setBusyTimeout(Connection& connection, std::chrono::milliseconds timeout) {
     sqlite3_busy_timeout(sessionOf(connection).handle(), static_cast<int>(timeout.count()));
 }
 
-void setShapeLimit(Connection& connection, std::size_t most) { sessionOf(connection).keepShapes(most); }
+void setShapeLimit(Connection& connection, std::size_t most) {
+    sessionOf(connection).keepShapes(most);
+}
 
 } // namespace Korvane::ado::sqlite

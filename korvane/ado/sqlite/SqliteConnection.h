@@ -24,8 +24,8 @@ std::shared_ptr<Connection> adopt(sqlite3* handle);
 /// this provider.
 void setBusyTimeout(Connection& connection, std::chrono::milliseconds timeout);
 
-/// How many statements that differ in more than their values are kept compiled; 512 unless set. About 3 for each group of
-/// a Nip and 32 more are used. With fewer, nothing changes but the time it takes.
+/// How many statements that differ in more than their values are kept compiled; 512 unless set. About 3 for
+/// each group of a Nip and 32 more are used. With fewer, nothing changes but the time it takes.
 void setShapeLimit(Connection& connection, std::size_t most);
 
 } // namespace Korvane::ado::sqlite

@@ -59,12 +59,15 @@ void Transactions::rollback() {
     mSavepoints.pop_back();
 }
 
-bool Transactions::lost() const { return !mSavepoints.empty() && sqlite3_get_autocommit(mHandle) != 0; }
+bool Transactions::lost() const {
+    return !mSavepoints.empty() && sqlite3_get_autocommit(mHandle) != 0;
+}
 
 void Transactions::requireNotLost() const {
     if (!lost()) return;
-    throw RuntimeError(RuntimeError::DatabaseFailure,
-                       "The database has rolled the transaction back after a failure; nothing of it was saved.");
+    throw RuntimeError(
+        RuntimeError::DatabaseFailure,
+        "The database has rolled the transaction back after a failure; nothing of it was saved.");
 }
 
 } // namespace Korvane::ado::sqlite

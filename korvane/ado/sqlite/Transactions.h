@@ -9,7 +9,8 @@ struct sqlite3;
 
 namespace Korvane::ado::sqlite {
 
-/// The nested transactions of a handle. A transaction that the handle's owner has open is joined by a savepoint.
+/// The nested transactions of a handle. A transaction that the handle's owner has open is joined by a
+/// savepoint.
 class Transactions {
   public:
     explicit Transactions(sqlite3* handle) : mHandle(handle) {}
@@ -19,8 +20,9 @@ class Transactions {
     void rollback();
     std::int32_t level() const { return static_cast<std::int32_t>(mSavepoints.size()); }
 
-    /// Whether the engine rolled everything back by itself (a full disk, an interrupt) while transactions were open here.
-    /// Until they have been rolled back here too, nothing may run: it would be written outside of them.
+    /// Whether the engine rolled everything back by itself (a full disk, an interrupt) while transactions
+    /// were open here. Until they have been rolled back here too, nothing may run: it would be written
+    /// outside of them.
     bool lost() const;
     /// Raises when lost.
     void requireNotLost() const;

@@ -25,7 +25,8 @@ class Translator {
         : mText(text), mTables(tables), mStatement(sql::analyse(text)) {}
 
     Translation run(std::string_view addedColumns) {
-        for (std::size_t at = 0; at + 1 < mStatement.tokens.size(); ++at) value(at);
+        for (std::size_t at = 0; at + 1 < mStatement.tokens.size(); ++at)
+            value(at);
         for (const sql::TopClause& top : sql::topClauses(mStatement)) {
             cut(top.first, top.last);
             insertBefore(top.limitAt, " Limit " + std::string(top.count));
@@ -47,28 +48,35 @@ class Translator {
 
     std::size_t offset(const char* place) const { return static_cast<std::size_t>(place - mText.data()); }
     std::size_t beginOf(std::size_t token) const { return offset(mStatement.tokens[token].text.data()); }
-    std::size_t endOf(std::size_t token) const { return beginOf(token) + mStatement.tokens[token].text.size(); }
+    std::size_t endOf(std::size_t token) const {
+        return beginOf(token) + mStatement.tokens[token].text.size();
+    }
 
     void value(std::size_t at) {
         const Token& token = mStatement.tokens[at];
         switch (token.kind) {
-        case TokenKind::Parameter: parameter(at); break;
+        case TokenKind::Parameter:
+            parameter(at);
+            break;
         case TokenKind::Text:
         case TokenKind::Integer:
         case TokenKind::Number:
-        case TokenKind::Date: inText(at); break;
+        case TokenKind::Date:
+            inText(at);
+            break;
         case TokenKind::Word:
             if (isTruth(at)) inText(at);
             break;
-        default: break;
+        default:
+            break;
         }
     }
 
     bool isTruth(std::size_t at) const {
         const Token& token = mStatement.tokens[at];
         if (!token.isWord("true") && !token.isWord("false")) return false;
-        const bool qualified = mStatement.tokens[at + 1].isSymbol('.') ||
-                               (at > 0 && mStatement.tokens[at - 1].isSymbol('.'));
+        const bool qualified =
+            mStatement.tokens[at + 1].isSymbol('.') || (at > 0 && mStatement.tokens[at - 1].isSymbol('.'));
         return !qualified;
     }
 
@@ -83,8 +91,8 @@ class Translator {
 
     void inText(std::size_t at) {
         std::size_t first = at;
-        const bool isNumber =
-            mStatement.tokens[at].kind == TokenKind::Number || mStatement.tokens[at].kind == TokenKind::Integer;
+        const bool isNumber = mStatement.tokens[at].kind == TokenKind::Number ||
+                              mStatement.tokens[at].kind == TokenKind::Integer;
         if (isNumber && at > 0 && mStatement.tokens[at - 1].isSymbol('-') &&
             sql::valueMayBegin(mStatement, at - 1)) {
             first = at - 1;
@@ -93,7 +101,8 @@ class Translator {
         const auto literal = read(at, first != at);
         if (!literal) return;
         if (!met) {
-            if (literal->kind == Literal::Day) replace(first, at, literalText(sql::asItStands(*literal, mScratch)));
+            if (literal->kind == Literal::Day)
+                replace(first, at, literalText(sql::asItStands(*literal, mScratch)));
             return;
         }
         // A number, or a text in a text column, is left as it was written.
@@ -122,7 +131,8 @@ class Translator {
             literal.date = *date;
             return literal;
         }
-        default: return readNumber(token.text, negative);
+        default:
+            return readNumber(token.text, negative);
         }
     }
 
@@ -191,7 +201,8 @@ std::optional<RowSource> rowSource(std::string_view text) {
     const Statement statement = sql::analyse(text);
     if (statement.scopes.empty()) return std::nullopt;
     const sql::Scope& outermost = statement.scopes.front();
-    if (outermost.begin != 0 || !outermost.isSelect || outermost.isCompound || outermost.isGrouped) return std::nullopt;
+    if (outermost.begin != 0 || !outermost.isSelect || outermost.isCompound || outermost.isGrouped)
+        return std::nullopt;
     if (outermost.sources.size() != 1 || outermost.sources.front().table.empty()) return std::nullopt;
     const sql::Source& source = outermost.sources.front();
     return RowSource{source.table, source.alias.empty() ? source.table : source.alias};

@@ -17,24 +17,24 @@ struct Meaning {
 
 // Whole names first, then what a name begins with or holds.
 constexpr std::array exactNames{
-    Meaning{"SMALLINT", DataType::SmallInt},      Meaning{"INT2", DataType::SmallInt},
-    Meaning{"BIGINT", DataType::BigInt},          Meaning{"INT8", DataType::BigInt},
-    Meaning{"LONG", DataType::Integer},           Meaning{"COUNTER", DataType::Integer},
-    Meaning{"SINGLE", DataType::Single},          Meaning{"FLOAT4", DataType::Single},
-    Meaning{"MONEY", DataType::Currency},         Meaning{"CURRENCY", DataType::Currency},
-    Meaning{"NUMERIC", DataType::Numeric},        Meaning{"DECIMAL", DataType::Numeric},
-    Meaning{"NUMBER", DataType::Numeric},         Meaning{"DATE", DataType::Date},
-    Meaning{"BIT", DataType::Boolean},            Meaning{"YESNO", DataType::Boolean},
-    Meaning{"LOGICAL", DataType::Boolean},        Meaning{"MEMO", DataType::LongVarWChar},
-    Meaning{"NOTE", DataType::LongVarWChar},      Meaning{"IMAGE", DataType::LongVarBinary},
+    Meaning{"SMALLINT", DataType::SmallInt}, Meaning{"INT2", DataType::SmallInt},
+    Meaning{"BIGINT", DataType::BigInt},     Meaning{"INT8", DataType::BigInt},
+    Meaning{"LONG", DataType::Integer},      Meaning{"COUNTER", DataType::Integer},
+    Meaning{"SINGLE", DataType::Single},     Meaning{"FLOAT4", DataType::Single},
+    Meaning{"MONEY", DataType::Currency},    Meaning{"CURRENCY", DataType::Currency},
+    Meaning{"NUMERIC", DataType::Numeric},   Meaning{"DECIMAL", DataType::Numeric},
+    Meaning{"NUMBER", DataType::Numeric},    Meaning{"DATE", DataType::Date},
+    Meaning{"BIT", DataType::Boolean},       Meaning{"YESNO", DataType::Boolean},
+    Meaning{"LOGICAL", DataType::Boolean},   Meaning{"MEMO", DataType::LongVarWChar},
+    Meaning{"NOTE", DataType::LongVarWChar}, Meaning{"IMAGE", DataType::LongVarBinary},
 };
 constexpr std::array parts{
-    Meaning{"DATETIME", DataType::Date},      Meaning{"TIMESTAMP", DataType::Date},
-    Meaning{"BOOL", DataType::Boolean},       Meaning{"INT", DataType::Integer},
-    Meaning{"CHAR", DataType::VarWChar},      Meaning{"CLOB", DataType::LongVarWChar},
-    Meaning{"TEXT", DataType::LongVarWChar},  Meaning{"BLOB", DataType::LongVarBinary},
+    Meaning{"DATETIME", DataType::Date},        Meaning{"TIMESTAMP", DataType::Date},
+    Meaning{"BOOL", DataType::Boolean},         Meaning{"INT", DataType::Integer},
+    Meaning{"CHAR", DataType::VarWChar},        Meaning{"CLOB", DataType::LongVarWChar},
+    Meaning{"TEXT", DataType::LongVarWChar},    Meaning{"BLOB", DataType::LongVarBinary},
     Meaning{"BINARY", DataType::LongVarBinary}, Meaning{"REAL", DataType::Double},
-    Meaning{"FLOA", DataType::Double},        Meaning{"DOUB", DataType::Double},
+    Meaning{"FLOA", DataType::Double},          Meaning{"DOUB", DataType::Double},
 };
 
 DataType typeNamed(std::string_view name) {

@@ -12,8 +12,8 @@ struct DeclaredType {
     std::int32_t size = 0; ///< characters; 0 when the type has no length
 };
 
-/// What a column's declared type means: "VARCHAR(50)", "datetime", "Boolean". A type of no known name goes by the
-/// letters in it, as the engine's own affinity does; no type at all is text without a length.
+/// What a column's declared type means: "VARCHAR(50)", "datetime", "Boolean". A type of no known name goes by
+/// the letters in it, as the engine's own affinity does; no type at all is text without a length.
 DeclaredType declaredType(std::string_view declaration);
 
 } // namespace Korvane::ado::sqlite

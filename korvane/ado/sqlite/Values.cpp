@@ -59,7 +59,8 @@ Variant decimalNumber(double number) {
     if (error != std::errc() || at != end || again != number) return number;
     Decimal decimal = decimalOf(mantissa);
     decimal.negative = number < 0;
-    decimal.scale = point == std::string::npos ? std::uint8_t{0} : static_cast<std::uint8_t>(text.size() - point - 1);
+    decimal.scale =
+        point == std::string::npos ? std::uint8_t{0} : static_cast<std::uint8_t>(text.size() - point - 1);
     return decimal;
 }
 
@@ -90,21 +91,38 @@ void readInteger(std::int64_t number, DataType type, Variant& value) {
             return;
         }
         break;
-    case DataType::Single: value = singleNumber(static_cast<double>(number)); return;
-    case DataType::Double: value = static_cast<double>(number); return;
-    case DataType::Currency: value = currencyNumber(static_cast<double>(number)); return;
-    case DataType::Numeric: value = decimalOf(number); return;
-    default: break;
+    case DataType::Single:
+        value = singleNumber(static_cast<double>(number));
+        return;
+    case DataType::Double:
+        value = static_cast<double>(number);
+        return;
+    case DataType::Currency:
+        value = currencyNumber(static_cast<double>(number));
+        return;
+    case DataType::Numeric:
+        value = decimalOf(number);
+        return;
+    default:
+        break;
     }
     value = wholeNumber(number);
 }
 
 void readReal(double number, DataType type, Variant& value) {
     switch (type) {
-    case DataType::Single: value = singleNumber(number); return;
-    case DataType::Currency: value = currencyNumber(number); return;
-    case DataType::Numeric: value = decimalNumber(number); return;
-    default: value = number; return;
+    case DataType::Single:
+        value = singleNumber(number);
+        return;
+    case DataType::Currency:
+        value = currencyNumber(number);
+        return;
+    case DataType::Numeric:
+        value = decimalNumber(number);
+        return;
+    default:
+        value = number;
+        return;
     }
 }
 
@@ -117,33 +135,40 @@ std::string_view textOf(sqlite3_stmt* statement, int column) {
 } // namespace
 
 std::string literalText(const sql::ColumnValue& value) {
-    return std::visit(
-        Overloaded{[](std::monostate) { return std::string("Null"); },
-                   [](bool truth) { return std::string(truth ? "1" : "0"); },
-                   [](std::int64_t number) { return std::to_string(number); },
-                   [](double number) { return exactText(number); },
-                   [](Date date) { return "'" + date.isoText() + "'"; },
-                   [](std::string_view text) { return "'" + escapeQuotes(text) + "'"; }},
-        value);
+    return std::visit(Overloaded{[](std::monostate) { return std::string("Null"); },
+                                 [](bool truth) { return std::string(truth ? "1" : "0"); },
+                                 [](std::int64_t number) { return std::to_string(number); },
+                                 [](double number) { return exactText(number); },
+                                 [](Date date) { return "'" + date.isoText() + "'"; },
+                                 [](std::string_view text) { return "'" + escapeQuotes(text) + "'"; }},
+                      value);
 }
 
 int bind(sqlite3_stmt* statement, int parameter, const sql::ColumnValue& value, TextLives lives) {
     return std::visit(
-        Overloaded{[&](std::monostate) { return sqlite3_bind_null(statement, parameter); },
-                   [&](bool truth) { return sqlite3_bind_int(statement, parameter, truth ? 1 : 0); },
-                   [&](std::int64_t number) { return sqlite3_bind_int64(statement, parameter, number); },
-                   [&](double number) { return sqlite3_bind_double(statement, parameter, number); },
-                   [&](Date date) { return bindText(statement, parameter, date.isoText(), TextLives::OnlyNow); },
-                   [&](std::string_view text) { return bindText(statement, parameter, text, lives); }},
+        Overloaded{
+            [&](std::monostate) { return sqlite3_bind_null(statement, parameter); },
+            [&](bool truth) { return sqlite3_bind_int(statement, parameter, truth ? 1 : 0); },
+            [&](std::int64_t number) { return sqlite3_bind_int64(statement, parameter, number); },
+            [&](double number) { return sqlite3_bind_double(statement, parameter, number); },
+            [&](Date date) { return bindText(statement, parameter, date.isoText(), TextLives::OnlyNow); },
+            [&](std::string_view text) { return bindText(statement, parameter, text, lives); }},
         value);
 }
 
 void read(sqlite3_stmt* statement, int column, DataType type, Variant& value) {
     switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_NULL: value = Variant::null(); return;
-    case SQLITE_INTEGER: readInteger(sqlite3_column_int64(statement, column), type, value); return;
-    case SQLITE_FLOAT: readReal(sqlite3_column_double(statement, column), type, value); return;
-    default: break;
+    case SQLITE_NULL:
+        value = Variant::null();
+        return;
+    case SQLITE_INTEGER:
+        readInteger(sqlite3_column_int64(statement, column), type, value);
+        return;
+    case SQLITE_FLOAT:
+        readReal(sqlite3_column_double(statement, column), type, value);
+        return;
+    default:
+        break;
     }
     const std::string_view text = textOf(statement, column);
     if (type == DataType::Date) {
