@@ -1,0 +1,230 @@
+#include <korvane/records/Encounter.h>
+
+#include "support/ScratchClinic.h"
+
+#include <korvane/runtime/RuntimeError.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace Korvane;
+using namespace Korvane::Testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class EncounterTest : public ::testing::Test, protected ScratchClinic {
+  protected:
+    EncounterTest() {
+        encounter.Connection(db);
+        encounter.PatientID("P-0042");
+        encounter.ProviderID(3);
+        encounter.Description("it's");
+    }
+
+    /// The lines of the error log without their date and time.
+    std::string errors() const {
+        std::string lines = dir.read("ERR.txt");
+        const std::string stamp = "11/15/2026 5:21:51 PM ";
+        for (std::size_t at; (at = lines.find(stamp)) != std::string::npos;)
+            lines.erase(at, stamp.size());
+        return lines;
+    }
+
+    Encounter encounter;
+    int raised = 0;
+    EventHandle listener = encounter.SavedNewEncounter.connect([this] { ++raised; });
+};
+
+TEST_F(EncounterTest, InsertsOnceAndUpdatesFromThenOn) {
+    db->quietly("Insert Into Encounter (EncounterID) Values (11)");
+    std::int32_t announced = 0;
+    const auto hearing = encounter.SavedNewEncounter.connect([&] { announced = encounter.EncounterID(); });
+    EXPECT_FALSE(encounter.Stored());
+    ASSERT_TRUE(encounter.Save());
+    EXPECT_TRUE(encounter.Stored());
+    EXPECT_EQ(announced, 12);
+
+    encounter.Description("");
+    encounter.EncounterDate(Date::of(2026, 1, 2));
+    encounter.Outgoing(false);
+    encounter.LocationID(4);
+    encounter.Transport(5);
+    encounter.MethodID(2);
+    ASSERT_TRUE(encounter.Save());
+    EXPECT_EQ(raised, 1);
+    EXPECT_THAT(
+        db->statements,
+        ElementsAre("Select Max(EncounterID) as MaxID From Encounter",
+                    "Insert into Encounter ([EncounterID],[EncounterMethodID],[PatientID],[ProviderID],"
+                    "[ForeignProviderID],[LocationID],[EncounterDate],[Outgoing],[Description],[Transport])  "
+                    "values (12,1,'P-0042',3,0,0,'11/15/2026 5:21:51 PM',True,'it''s',0)",
+                    "Update Encounter Set [EncounterMethodID]=2,[PatientID]='P-0042',[ProviderID]=3,"
+                    "[ForeignProviderID]=0,[LocationID]=4,[EncounterDate]='1/2/2026',[Outgoing]=False,"
+                    "[Description]='',[Transport]=5 Where EncounterID=12"));
+    EXPECT_EQ(rows("Select * From Encounter Where EncounterID=12"), "12|2|P-0042|3|0|4|1/2/2026|False||5");
+}
+
+TEST_F(EncounterTest, LoadsWhatWasSavedByteForByte) {
+    const std::string hostile = "'); Drop Table Encounter; --\n\t\"[x]\" \xC3\xA9 % _ ?";
+    encounter.PatientID(hostile);
+    encounter.Description(hostile + "'");
+    ASSERT_TRUE(encounter.Save());
+    EXPECT_EQ(encounter.EncounterID(), 1);
+    db->quietly("Update Encounter Set ForeignProviderID=77 Where EncounterID=1");
+
+    Encounter again;
+    again.Connection(db);
+    again.EncounterID(1);
+    EXPECT_EQ(db->statements.back(), "select * from Encounter Where EncounterID=1");
+    EXPECT_EQ(again.PatientID(), hostile);
+    EXPECT_EQ(again.Description(), hostile + "'");
+    EXPECT_EQ(again.ProviderID(), 3);
+    EXPECT_EQ(again.EncounterDate().text(), "11/15/2026 5:21:51 PM");
+    ASSERT_TRUE(again.Save());
+    EXPECT_EQ(rows("Select ForeignProviderID, Outgoing From Encounter"), "77|True");
+}
+
+TEST_F(EncounterTest, RefusesWhatIsInvalidInItsOrder) {
+    Encounter bare;
+    bare.Connection(db);
+    bare.MethodID(-1);
+    bare.LocationID(-1);
+    const std::pair<std::string, std::function<void()>> cures[] = {
+        {"EncounterMethodID", [&] { bare.MethodID(0); }},
+        {"PatientID", [&] { bare.PatientID("P"); }},
+        {"ProviderID", [&] { bare.ProviderID(0); }},
+        {"LocationID", [&] { bare.LocationID(0); }},
+    };
+    std::string expected;
+    for (const auto& [column, cure] : cures) {
+        EXPECT_FALSE(bare.Save());
+        expected += "Error in Encounter.SaveObjectToDatabase: Invalid " + column + ", aborting!\n";
+        EXPECT_EQ(errors(), expected);
+        cure();
+    }
+    EXPECT_THAT(db->statements, IsEmpty());
+    EXPECT_TRUE(bare.Save());
+    EXPECT_THAT(user->boxes, IsEmpty());
+}
+
+TEST_F(EncounterTest, NeverTakesAnIdentifierThatItCouldNotFind) {
+    db->failOn = "Max(";
+    EXPECT_FALSE(encounter.Save());
+    EXPECT_THAT(errors(), HasSubstr("Error in Encounter.SaveObjectToDatabase: 3604 disk I/O error\n"));
+    db->failOn.clear();
+    db->quietly("Insert Into Encounter (EncounterID) Values (2147483647)");
+    EXPECT_FALSE(encounter.Save());
+    EXPECT_THAT(errors(), HasSubstr("Error in Encounter.SaveObjectToDatabase: 6 "));
+    EXPECT_EQ(encounter.EncounterID(), -1);
+    EXPECT_EQ(raised, 0);
+    EXPECT_EQ(rows("Select EncounterID From Encounter"), "2147483647");
+}
+
+TEST_F(EncounterTest, TellsApartWhatIsStoredAndWhatIsNot) {
+    db->failOn = "Insert";
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_FALSE(encounter.Stored());
+    EXPECT_EQ(raised, 1);
+    EXPECT_THAT(user->boxes, SizeIs(1));
+
+    db->failOn.clear();
+    encounter.NotStored();
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_TRUE(encounter.Stored());
+    EXPECT_EQ(rows("Select EncounterID, PatientID From Encounter"), "1|P-0042");
+
+    db->quietly("Delete From Encounter");
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_FALSE(encounter.Stored());
+    EXPECT_EQ(rows("Select * From Encounter"), "");
+}
+
+TEST_F(EncounterTest, IsEmptyWithoutARowAndTakesNullsForNothing) {
+    encounter.EncounterID(5);
+    EXPECT_EQ(encounter.PatientID(), "");
+    EXPECT_EQ(encounter.ProviderID(), 0);
+    EXPECT_EQ(encounter.EncounterDate(), Date());
+
+    db->quietly("Insert Into Encounter (EncounterID, Description) Values (6, 'nulls')");
+    encounter.EncounterID(6);
+    EXPECT_EQ(encounter.Description(), "nulls");
+    EXPECT_EQ(encounter.EncounterDate(), Date());
+    EXPECT_EQ(errors(), "");
+    EXPECT_THAT(user->boxes, IsEmpty());
+}
+
+TEST_F(EncounterTest, ReadsAForeignRowAsFarAsItFits) {
+    db->quietly("Drop Table Encounter");
+    db->quietly(
+        "Create Table Encounter (EncounterID INTEGER PRIMARY KEY, EncounterMethodID TEXT, PatientID TEXT, "
+        "ProviderID DOUBLE, ForeignProviderID INTEGER, LocationID INTEGER, EncounterDate TEXT, "
+        "Outgoing INTEGER, Description TEXT, Transport INTEGER)");
+    db->quietly(
+        "Insert Into Encounter (EncounterID, EncounterMethodID, PatientID, ProviderID, EncounterDate, "
+        "Description) Values (7, 'odd', 'P', 9000000000.0, 'never', 'last')");
+    encounter.EncounterID(7);
+    EXPECT_EQ(encounter.PatientID(), "P");
+    EXPECT_EQ(encounter.ProviderID(), 0);
+    EXPECT_EQ(encounter.EncounterDate(), Date());
+    EXPECT_EQ(encounter.Description(), "last");
+    std::string line = "Error in Encounter.LoadObjectFromDatabase: [^\n]+\n";
+    EXPECT_THAT(errors(), ::testing::MatchesRegex(line + line + line));
+}
+
+TEST_F(EncounterTest, DoesNotOverwriteARowThatItCouldNotRead) {
+    db->quietly("Insert Into Encounter (EncounterID, Description) Values (1, 'precious')");
+    db->failOn = "select *";
+    encounter.EncounterID(1);
+    db->failOn.clear();
+    encounter.PatientID("P");
+    EXPECT_FALSE(encounter.Save());
+    EXPECT_EQ(errors(),
+              "Error in Encounter.SaveObjectToDatabase: The stored row could not be read, aborting!\n");
+    EXPECT_EQ(rows("Select Description From Encounter"), "precious");
+}
+
+TEST_F(EncounterTest, DeletesItsRowAndIsNeverTrue) {
+    encounter.Save();
+    db->quietly("Insert Into Encounter (EncounterID) Values (2)");
+    db->statements.clear();
+    EXPECT_FALSE(encounter.Delete());
+    EXPECT_THAT(db->statements, ElementsAre("select * from Encounter Where EncounterID=1",
+                                            "delete From Encounter WHERE EncounterID=1"));
+    EXPECT_EQ(rows("Select EncounterID From Encounter"), "2");
+    EXPECT_EQ(errors(), "");
+    EXPECT_FALSE(encounter.Delete());
+    EXPECT_EQ(errors(),
+              "Error in Encounter.DeleteObjectFromDatabase: EncounterID doesn't exist, aborting!\n");
+}
+
+TEST_F(EncounterTest, HoldsItsAttachmentsByTheirIdentifiers) {
+    db->quietly("Insert Into Attachment (AttachmentID, EncounterID, Description) Values (4, 1, 'four')");
+    db->quietly("Insert Into Attachment (AttachmentID, EncounterID, Description) Values (9, 1, 'nine')");
+    db->quietly("Insert Into Attachment (AttachmentID, EncounterID) Values (5, 2)");
+    ASSERT_TRUE(encounter.Save());
+    encounter.LoadAttachments();
+    ASSERT_EQ(encounter.AttachmentCount(), 2);
+
+    std::shared_ptr<Attachment> attachment;
+    EXPECT_FALSE(encounter.AttachmentGet(2, attachment));
+    EXPECT_EQ(attachment->Description(), "nine");
+    try {
+        encounter.AttachmentLet(attachment);
+        FAIL() << "took the same attachment twice";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), RuntimeError::DuplicateKey);
+    }
+    encounter.AttachmentLet(std::make_shared<Attachment>());
+    EXPECT_EQ(encounter.AttachmentCount(), 3);
+    EXPECT_TRUE(encounter.AttachmentGet(4, attachment));
+    EXPECT_EQ(attachment, nullptr);
+    EXPECT_THROW(encounter.AttachmentGet(0, attachment), RuntimeError);
+
+    db->failOn = "Select AttachmentID";
+    encounter.LoadAttachments();
+    EXPECT_EQ(encounter.AttachmentCount(), 0);
+}
