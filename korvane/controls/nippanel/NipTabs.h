@@ -4,7 +4,7 @@
 
 #include <QTabWidget>
 
-#include <memory>
+#include <string>
 #include <vector>
 
 namespace Korvane {
@@ -42,7 +42,11 @@ class NipTabs : public QTabWidget {
     void edited();
 
   private:
-    cNIP* mNip = nullptr;
+    std::string rebuild(cNIP& nip);
+    void resizeTo(int count);
+    int indexOfTitle(const QString& title, int otherwise) const;
+    void makeCurrent(int index);
+
     std::vector<GroupPage*> mPages;
 };
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <korvane/controls/nippanel/EntryControl.h>
+
+class QComboBox;
+
+namespace Korvane {
+
+class ValueListModel;
+
+/// "COMBOBOX" and "COMBOBOX-RESTRICTED": a combo box with the field's values; a stored value that is no longer
+/// among them stands at the end. The former takes any text, as it is typed; the latter only its items, of
+/// which the first is empty, so that an answer can be taken back.
+class ComboEntry : public EntryControl {
+  public:
+    enum Accepts { AnyText, ItemsOnly };
+
+    ComboEntry(EntrySite entrySite, Accepts accepts);
+
+    QWidget* widget() const override;
+    void fill() override;
+    void collect() override;
+
+  private:
+    QComboBox* mCombo;
+    ValueListModel* mItems;
+    Accepts mAccepts;
+    QString mShown;
+};
+
+} // namespace Korvane

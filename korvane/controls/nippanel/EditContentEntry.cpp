@@ -1,0 +1,105 @@
+#include <korvane/controls/nippanel/EditContentEntry.h>
+
+#include <korvane/controls/container/Text.h>
+#include <korvane/controls/container/Twips.h>
+#include <korvane/controls/nippanel/ListEntryText.h>
+#include <korvane/runtime/Interaction.h>
+
+#include <QListView>
+#include <QPushButton>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace Korvane {
+
+namespace {
+
+constexpr int buttonWidth = 855;
+constexpr int buttonHeight = 285;
+constexpr int buttonGap = 60;
+
+} // namespace
+
+EditContentEntry::EditContentEntry(EntrySite entrySite)
+    : GridEntry(std::move(entrySite), ChoiceModel::None), mAdd(makeButton(QStringLiteral("Add"), 0)),
+      mRemove(makeButton(QStringLiteral("Remove"), 1)) {
+    QObject::connect(mAdd, &QPushButton::clicked, mAdd, [this] { add(); });
+    QObject::connect(mRemove, &QPushButton::clicked, mRemove, [this] { remove(); });
+    auto* deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), &grid());
+    deleteKey->setContext(Qt::WidgetShortcut);
+    QObject::connect(deleteKey, &QShortcut::activated, mRemove, &QPushButton::click);
+    QObject::connect(grid().selectionModel(), &QItemSelectionModel::currentChanged, mRemove,
+                     [this] { updateRemove(); });
+}
+
+QPushButton* EditContentEntry::makeButton(const QString& text, int offset) {
+    auto* button = new QPushButton(text, site().parent);
+    button->setObjectName(EntrySite::elementName("cmdNip", site().button + offset));
+    button->setProperty("Tag", site().tag() + QLatin1String("::") + QString::number(offset + 1));
+    button->setAccessibleName(text + QLatin1String(": ") + site().caption());
+    button->setAutoDefault(false);
+    return button;
+}
+
+QList<QWidget*> EditContentEntry::tabOrder() const {
+    return {&grid(), mAdd, mRemove};
+}
+
+void EditContentEntry::fill() {
+    mShown = choices();
+    std::vector<ChoiceRow> entries;
+    for (const QString& entry : mShown)
+        entries.push_back({false, entry, static_cast<int>(entries.size()) + 1});
+    rows().show(std::move(entries));
+    grid().setCurrentIndex(rows().index(0));
+    updateRemove();
+}
+
+void EditContentEntry::collect() {
+    const QStringList entries = rows().contents();
+    if (entries == mShown) return;
+    choices(entries);
+    mShown = entries;
+}
+
+int EditContentEntry::height(const Twips& twips, int tabHeight) const {
+    const int buttons = twips.px(buttonGap) + twips.px(buttonHeight);
+    return GridEntry::height(twips, tabHeight - buttons) + buttons;
+}
+
+void EditContentEntry::place(const QRect& area, const Twips& twips) {
+    const int top = area.bottom() + 1 - twips.px(buttonHeight);
+    QRect button(area.left(), top, twips.px(buttonWidth), twips.px(buttonHeight));
+    grid().setGeometry(QRect(area.topLeft(), QSize(area.width(), top - twips.px(buttonGap) - area.top())));
+    mAdd->setGeometry(button);
+    mRemove->setGeometry(button.translated(button.width() + twips.px(buttonGap), 0));
+}
+
+void EditContentEntry::add() {
+    const auto answer = Interaction::current().InputBox(
+        utf8(QLatin1String("Please enter the content for ") + site().caption() + QLatin1Char(':')), "");
+    if (!answer) return;
+    const QString entry = qt(*answer);
+    // A list of nothing but blanks is stored as no list at all.
+    if (entry.trimmed().isEmpty() || !canBeListEntry(entry)) return;
+    rows().append(entry);
+    grid().setCurrentIndex(rows().index(rows().rowCount() - 1));
+}
+
+void EditContentEntry::remove() {
+    const int row = grid().currentIndex().row();
+    if (row < 0) return;
+    rows().remove(row);
+    grid().setCurrentIndex(rows().index(std::min(row, rows().rowCount() - 1)));
+    updateRemove();
+}
+
+void EditContentEntry::updateRemove() {
+    const bool hadFocus = mRemove->hasFocus();
+    const bool canRemove = grid().currentIndex().isValid();
+    mRemove->setEnabled(canRemove);
+    if (hadFocus && !canRemove) mAdd->setFocus();
+}
+
+} // namespace Korvane

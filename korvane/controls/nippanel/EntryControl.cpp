@@ -1,0 +1,37 @@
+#include <korvane/controls/nippanel/EntryControl.h>
+
+#include <korvane/controls/container/Text.h>
+#include <korvane/controls/container/Twips.h>
+
+#include <QVariant>
+
+namespace Korvane {
+
+QString EntrySite::caption() const {
+    return qt(nip.Caption(group, field));
+}
+
+QString EntrySite::tag() const {
+    return QString::number(group) + QLatin1String("::") + QString::number(field);
+}
+
+QString EntrySite::elementName(const char* controlArray, int element) {
+    return QLatin1String(controlArray) + QLatin1Char('(') + QString::number(element) + QLatin1Char(')');
+}
+
+int EntryControl::height(const Twips& twips, int) const {
+    constexpr int oneLine = 285;
+    return twips.px(oneLine);
+}
+
+void EntryControl::place(const QRect& area, const Twips&) {
+    widget()->setGeometry(area);
+}
+
+void EntryControl::identify(QWidget& fieldWidget) const {
+    fieldWidget.setObjectName(EntrySite::elementName(mSite.array, mSite.index));
+    fieldWidget.setProperty("Tag", mSite.tag());
+    fieldWidget.setAccessibleName(mSite.caption());
+}
+
+} // namespace Korvane

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <korvane/nip/cNIP.h>
+
+#include <QList>
+#include <QRect>
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+class QWidget;
+
+namespace Korvane {
+
+class Twips;
+
+/// The field that an entry control is for, and what the control is given by its page.
+struct EntrySite {
+    cNIP& nip;
+    std::int16_t group = 0;
+    std::int16_t field = 0;
+    const char* array = "";   ///< the control array, "txtNip"
+    std::int16_t index = 0;   ///< the control's element in it
+    std::int16_t button = 0;  ///< its first element of `cmdNip`, where it has buttons
+    QWidget* parent = nullptr;
+    std::function<void()> edited; ///< to be called whenever the user changed the content
+
+    QString caption() const;
+    /// "<group>::<field>", which a control carries as its property "Tag".
+    QString tag() const;
+    /// The name of an element of a control array: "txtNip(0)".
+    static QString elementName(const char* controlArray, int element);
+};
+
+/// The entry control of one field: made once, filled and collected often. What the user did not touch is not
+/// collected, so that the model keeps it exactly as it was loaded.
+///
+/// Its widgets belong to the page (`EntrySite::parent`).
+class EntryControl {
+  public:
+    explicit EntryControl(EntrySite site) : mSite(std::move(site)) {}
+    virtual ~EntryControl() = default;
+    EntryControl(const EntryControl&) = delete;
+    EntryControl& operator=(const EntryControl&) = delete;
+
+    /// The widget that stands for the field: it carries the element's name and the tag, and the label is its
+    /// buddy.
+    virtual QWidget* widget() const = 0;
+
+    /// The widgets that take the focus, in tab order.
+    virtual QList<QWidget*> tabOrder() const { return {widget()}; }
+
+    /// Shows the model's value. Does not call `edited`.
+    virtual void fill() = 0;
+
+    /// Copies the content into the model where it is not what was last shown or collected.
+    virtual void collect() = 0;
+
+    /// In pixels; `tabHeight` is the height there is for the entries of a tab.
+    virtual int height(const Twips& twips, int tabHeight) const;
+
+    /// Whether it takes all the width there is.
+    virtual bool isWide() const { return false; }
+
+    virtual void place(const QRect& area, const Twips& twips);
+
+  protected:
+    const EntrySite& site() const { return mSite; }
+
+    /// Gives the field's widget its name, tag and accessible name.
+    void identify(QWidget& fieldWidget) const;
+
+  private:
+    EntrySite mSite;
+};
+
+} // namespace Korvane

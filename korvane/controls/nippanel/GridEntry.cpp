@@ -1,0 +1,76 @@
+#include <korvane/controls/nippanel/GridEntry.h>
+
+#include <korvane/controls/container/Text.h>
+#include <korvane/controls/container/Twips.h>
+#include <korvane/controls/nippanel/ChoiceView.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace Korvane {
+
+namespace {
+
+constexpr int gridHeight = 1140;
+
+bool listsFillTab(const std::string& group) {
+    return group == "Problem List" || group == "Billing";
+}
+
+} // namespace
+
+GridEntry::GridEntry(EntrySite entrySite, ChoiceModel::Checking checking)
+    : EntryControl(std::move(entrySite)), mGrid(new ChoiceView(site().parent)),
+      mRows(new ChoiceModel(checking, mGrid)), mFillsTab(listsFillTab(site().nip.GroupName(site().group))) {
+    mGrid->setModel(mRows);
+    identify(*mGrid);
+    const auto edited = [this] { site().edited(); };
+    QObject::connect(mRows, &ChoiceModel::dataChanged, mGrid, edited);
+    QObject::connect(mRows, &ChoiceModel::rowsInserted, mGrid, edited);
+    QObject::connect(mRows, &ChoiceModel::rowsRemoved, mGrid, edited);
+}
+
+QWidget* GridEntry::widget() const {
+    return mGrid;
+}
+
+int GridEntry::height(const Twips& twips, int tabHeight) const {
+    return mFillsTab ? std::max(tabHeight, twips.px(gridHeight)) : twips.px(gridHeight);
+}
+
+std::vector<ChoiceRow> GridEntry::rowsFor(const QStringList& chosen) const {
+    const auto& nip = site().nip;
+    const int count = nip.ValueListCount(site().group, site().field);
+    std::vector<ChoiceRow> rows;
+    for (int i = 1; i <= count; ++i)
+        rows.push_back({false, qt(nip.ValueList(site().group, site().field).array().at(i).textOrEmpty()), i});
+    for (const QString& entry : chosen) {
+        const auto row = std::find_if(rows.begin(), rows.end(), [&](const ChoiceRow& r) {
+            return !r.checked && r.content == entry;
+        });
+        if (row != rows.end()) row->checked = true;
+        else if (!entry.isEmpty()) rows.push_back({true, entry, static_cast<int>(rows.size()) + 1});
+    }
+    return rows;
+}
+
+QStringList GridEntry::choices() const {
+    const auto& nip = site().nip;
+    const int count = nip.ChoiceListCount(site().group, site().field);
+    QStringList entries;
+    for (int i = 0; i < count; ++i)
+        entries << qt(nip.ChoiceList(site().group, site().field).array().at(i).textOrEmpty());
+    return entries;
+}
+
+void GridEntry::choices(const QStringList& entries) {
+    if (entries.size() > std::numeric_limits<std::int16_t>::max()) throw RuntimeError(RuntimeError::Overflow);
+    VariantArray list;
+    for (const QString& entry : entries)
+        list.elements.emplace_back(utf8(entry));
+    site().nip.ChoiceList(site().group, site().field, Variant(std::move(list)));
+    site().nip.ChoiceListCount(site().group, site().field, static_cast<std::int16_t>(entries.size()));
+}
+
+} // namespace Korvane

@@ -1,0 +1,74 @@
+#include <korvane/controls/nippanel/StructurePlan.h>
+
+#include <korvane/data/ErrLog.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include <limits>
+#include <map>
+
+namespace Korvane {
+
+namespace {
+
+/// How many elements of each control array are given away.
+class ControlArrays {
+  public:
+    /// The first of `count` new elements. Overflow above 32767.
+    std::int16_t take(std::string_view array, std::int16_t count = 1) {
+        std::int16_t& next = mNext[array];
+        if (next > std::numeric_limits<std::int16_t>::max() - count) throw RuntimeError(RuntimeError::Overflow);
+        const std::int16_t first = next;
+        next = static_cast<std::int16_t>(next + count);
+        return first;
+    }
+
+  private:
+    std::map<std::string_view, std::int16_t> mNext;
+};
+
+class Planner {
+  public:
+    explicit Planner(cNIP& nip) : mNip(nip) {}
+
+    StructurePlan run() {
+        for (std::int16_t group = 1; group <= mNip.GroupCount(); ++group) {
+            auto& fields = mPlan.groups.emplace_back();
+            for (std::int16_t field = 1; field <= mNip.FieldCount(group); ++field)
+                if (const DisplayType* type = findDisplayType(mNip.displayType(group, field)))
+                    fields.push_back(planField(group, field, *type));
+                else report(group, field);
+        }
+        return std::move(mPlan);
+    }
+
+  private:
+    PlannedField planField(std::int16_t group, std::int16_t field, const DisplayType& type) {
+        PlannedField planned{field, &type, mArrays.take(type.array), mArrays.take("lblNip"), 0};
+        if (type.buttons > 0) planned.button = mArrays.take("cmdNip", type.buttons);
+        mNip.ControlIndex(group, field, planned.control);
+        mNip.ControlIndexLabel(group, field, planned.label);
+        return planned;
+    }
+
+    void report(std::int16_t group, std::int16_t field) {
+        const std::string& name = mNip.fieldName(group, field);
+        const std::string& type = mNip.displayType(group, field);
+        mNip.ControlIndex(group, field, std::int16_t{-1});
+        mNip.ControlIndexLabel(group, field, std::int16_t{-1});
+        mPlan.problems += name + " has unrecognized display type:" + type + "\n";
+        ErrLog("ucNipPanel.CreateNipControls: Could not understand Nip field DisplayType'" + name +
+               "' Display Type: '" + type + "'");
+    }
+
+    cNIP& mNip;
+    ControlArrays mArrays;
+    StructurePlan mPlan;
+};
+
+} // namespace
+
+StructurePlan planStructure(cNIP& nip) {
+    return Planner(nip).run();
+}
+
+} // namespace Korvane

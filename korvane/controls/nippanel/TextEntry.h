@@ -1,0 +1,26 @@
+#pragma once
+
+#include <korvane/controls/nippanel/EntryControl.h>
+
+class QLineEdit;
+
+namespace Korvane {
+
+/// "TEXT": a text box. It holds at most the field's `maxLength` characters (0: no limit), except that a longer
+/// text that was loaded is shown whole; the user can then only shorten it.
+class TextEntry : public EntryControl {
+  public:
+    explicit TextEntry(EntrySite entrySite);
+
+    QWidget* widget() const override;
+    void fill() override;
+    void collect() override;
+
+  private:
+    void limitLength(const QString& loaded);
+
+    QLineEdit* mBox;
+    QString mShown;
+};
+
+} // namespace Korvane
