@@ -4,6 +4,7 @@
 #include <korvane/controls/container/Twips.h>
 
 #include <QVariant>
+#include <QWidget>
 
 namespace Korvane {
 

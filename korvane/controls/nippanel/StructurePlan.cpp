@@ -31,17 +31,23 @@ class Planner {
     explicit Planner(cNIP& nip) : mNip(nip) {}
 
     StructurePlan run() {
-        for (std::int16_t group = 1; group <= mNip.GroupCount(); ++group) {
-            auto& fields = mPlan.groups.emplace_back();
-            for (std::int16_t field = 1; field <= mNip.FieldCount(group); ++field)
-                if (const DisplayType* type = findDisplayType(mNip.displayType(group, field)))
-                    fields.push_back(planField(group, field, *type));
-                else report(group, field);
-        }
+        for (int group = 1; group <= mNip.GroupCount(); ++group)
+            mPlan.groups.push_back(planGroup(static_cast<std::int16_t>(group)));
         return std::move(mPlan);
     }
 
   private:
+    std::vector<PlannedField> planGroup(std::int16_t group) {
+        std::vector<PlannedField> fields;
+        for (int i = 1; i <= mNip.FieldCount(group); ++i) {
+            const auto field = static_cast<std::int16_t>(i);
+            const DisplayType* type = findDisplayType(mNip.displayType(group, field));
+            if (type) fields.push_back(planField(group, field, *type));
+            else report(group, field);
+        }
+        return fields;
+    }
+
     PlannedField planField(std::int16_t group, std::int16_t field, const DisplayType& type) {
         PlannedField planned{field, &type, mArrays.take(type.array), mArrays.take("lblNip"), 0};
         if (type.buttons > 0) planned.button = mArrays.take("cmdNip", type.buttons);
