@@ -50,11 +50,14 @@ QVariant ChoiceModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
     const ChoiceRow& row = mRows[static_cast<std::size_t>(index.row())];
     switch (role) {
-    case Qt::DisplayRole: return row.content;
+    case Qt::DisplayRole:
+        return row.content;
     case Qt::CheckStateRole:
         return mChecking == None ? QVariant() : QVariant(row.checked ? Qt::Checked : Qt::Unchecked);
-    case IndexRole: return row.index;
-    default: return {};
+    case IndexRole:
+        return row.index;
+    default:
+        return {};
     }
 }
 

@@ -4,8 +4,23 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 
 namespace Korvane {
+
+namespace {
+
+/// Gives the rows some air, so that check boxes do not touch.
+class RowDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.height() / 4);
+    }
+};
+
+} // namespace
 
 ChoiceView::ChoiceView(QWidget* parent) : QListView(parent) {
     setWordWrap(true);
@@ -13,9 +28,10 @@ ChoiceView::ChoiceView(QWidget* parent) : QListView(parent) {
     setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setItemDelegate(new RowDelegate(this));
 }
 
-// The views asks here before it starts an editor: with the release of a click on a row, with a key on the
+// The view asks here before it starts an editor: with the release of a click on a row, with a key on the
 // current one. The rows have no editor.
 bool ChoiceView::edit(const QModelIndex& index, EditTrigger, QEvent* event) {
     if (!event || !(index.flags() & Qt::ItemIsUserCheckable)) return false;

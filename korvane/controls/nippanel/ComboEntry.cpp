@@ -70,7 +70,8 @@ void ComboEntry::fill() {
     const std::string stored = nip.value(group, field).textOrEmpty();
     mShown = qt(stored);
     const QSignalBlocker quiet(mCombo);
-    mItems->show(nip.ValueList(group, field), nip.ValueListCount(group, field), mAccepts == ItemsOnly, stored);
+    mItems->show(nip.ValueList(group, field), nip.ValueListCount(group, field), mAccepts == ItemsOnly,
+                 stored);
     mCombo->setCurrentIndex(mItems->find(stored));
     if (mAccepts == ItemsOnly) return;
     mCombo->setEditText(mShown);

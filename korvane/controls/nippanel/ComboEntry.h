@@ -8,9 +8,9 @@ namespace Korvane {
 
 class ValueListModel;
 
-/// "COMBOBOX" and "COMBOBOX-RESTRICTED": a combo box with the field's values; a stored value that is no longer
-/// among them stands at the end. The former takes any text, as it is typed; the latter only its items, of
-/// which the first is empty, so that an answer can be taken back.
+/// "COMBOBOX" and "COMBOBOX-RESTRICTED": a combo box with the field's values; a stored value that is no
+/// longer among them stands at the end. The former takes any text, as it is typed; the latter only its items,
+/// of which the first is empty, so that an answer can be taken back.
 class ComboEntry : public EntryControl {
   public:
     enum Accepts { AnyText, ItemsOnly };

@@ -21,9 +21,9 @@ struct EntrySite {
     cNIP& nip;
     std::int16_t group = 0;
     std::int16_t field = 0;
-    const char* array = "";   ///< the control array, "txtNip"
-    std::int16_t index = 0;   ///< the control's element in it
-    std::int16_t button = 0;  ///< its first element of `cmdNip`, where it has buttons
+    const char* array = "";  ///< the control array, "txtNip"
+    std::int16_t index = 0;  ///< the control's element in it
+    std::int16_t button = 0; ///< its first element of `cmdNip`, where it has buttons
     QWidget* parent = nullptr;
     std::function<void()> edited; ///< to be called whenever the user changed the content
 

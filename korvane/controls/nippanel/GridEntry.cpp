@@ -46,11 +46,12 @@ std::vector<ChoiceRow> GridEntry::rowsFor(const QStringList& chosen) const {
     for (int i = 1; i <= count; ++i)
         rows.push_back({false, qt(nip.ValueList(site().group, site().field).array().at(i).textOrEmpty()), i});
     for (const QString& entry : chosen) {
-        const auto row = std::find_if(rows.begin(), rows.end(), [&](const ChoiceRow& r) {
-            return !r.checked && r.content == entry;
-        });
-        if (row != rows.end()) row->checked = true;
-        else if (!entry.isEmpty()) rows.push_back({true, entry, static_cast<int>(rows.size()) + 1});
+        const auto row = std::find_if(rows.begin(), rows.end(),
+                                      [&](const ChoiceRow& r) { return !r.checked && r.content == entry; });
+        if (row != rows.end())
+            row->checked = true;
+        else if (!entry.isEmpty())
+            rows.push_back({true, entry, static_cast<int>(rows.size()) + 1});
     }
     return rows;
 }

@@ -17,7 +17,8 @@ namespace {
 /// a scroll bar that comes or goes.
 class ScrollNip : public QScrollArea {
   public:
-    ScrollNip(QWidget* parent, std::function<void()> resized) : QScrollArea(parent), mResized(std::move(resized)) {
+    ScrollNip(QWidget* parent, std::function<void()> resized)
+        : QScrollArea(parent), mResized(std::move(resized)) {
         setFrameShape(QFrame::NoFrame);
         setFocusPolicy(Qt::NoFocus);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

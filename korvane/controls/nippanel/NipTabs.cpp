@@ -48,13 +48,15 @@ void NipTabs::CreateNipControls(cNIP& nip) {
         logBuildError();
     }
     if (problems.empty()) return;
-    Interaction::current().MsgBox("The following problems occurred when loading the NIP controls:\n\n" + problems,
+    Interaction::current().MsgBox("The following problems occurred when loading the NIP controls:\n\n" +
+                                      problems,
                                   MsgBoxStyle::OkOnly, "");
 }
 
 std::string NipTabs::rebuild(cNIP& nip) {
     const QString shown = currentIndex() < 0 ? QString() : tabText(currentIndex());
-    const int scrolled = currentIndex() < 0 ? 0 : mPages[static_cast<std::size_t>(currentIndex())]->scrollPosition();
+    const int scrolled =
+        currentIndex() < 0 ? 0 : mPages[static_cast<std::size_t>(currentIndex())]->scrollPosition();
     for (GroupPage* page : mPages)
         page->clear();
     StructurePlan plan = planStructure(nip);

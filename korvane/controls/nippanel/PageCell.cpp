@@ -18,7 +18,8 @@ class Placement {
   public:
     Placement(const std::vector<PageCell>& cells, const QWidget& page, QSize viewport)
         : mTwips(page), mFont(page.fontMetrics()), mColumns(columnsFor(cells, viewport.width())),
-          mMargin(mTwips.px(PageSpacing::margin)), mTabHeight(viewport.height() - 2 * mMargin), mTop(mMargin) {}
+          mMargin(mTwips.px(PageSpacing::margin)), mTabHeight(viewport.height() - 2 * mMargin),
+          mTop(mMargin) {}
 
     void add(const PageCell& cell) {
         if (!continuesLine(cell)) endLine();
@@ -64,8 +65,10 @@ class Placement {
         const int captionHeight = labelHeight(cell, column.labelWidth);
         int above = 0;
         int labelTop = mTop;
-        if (mColumns.labelsAbove) above = captionHeight + mTwips.px(PageSpacing::belowLabel);
-        else labelTop += std::max((mTwips.px(oneLine) - mFont.height()) / 2, 0);
+        if (mColumns.labelsAbove)
+            above = captionHeight + mTwips.px(PageSpacing::belowLabel);
+        else
+            labelTop += std::max((mTwips.px(oneLine) - mFont.height()) / 2, 0);
         const int height = cell.entry->height(mTwips, mTabHeight - above);
         const int width = cell.entry->isWide() ? column.wideWidth : column.entryWidth;
         cell.label->setGeometry(column.labelX, labelTop, column.labelWidth, captionHeight);
@@ -97,8 +100,11 @@ int widestWord(const QString& caption, const QFontMetrics& font) {
 
 void measureCaptions(std::vector<PageCell>& cells, const QWidget& page) {
     const QFontMetrics font(page.fontMetrics());
+    // A line is broken by where its letters end, which may be beyond the place of the next one.
+    const int overhang = font.averageCharWidth();
     for (PageCell& cell : cells)
-        cell.width = {font.horizontalAdvance(cell.caption) + 1, widestWord(cell.caption, font) + 1};
+        cell.width = {font.horizontalAdvance(cell.caption) + overhang,
+                      widestWord(cell.caption, font) + overhang};
 }
 
 int placeCells(const std::vector<PageCell>& cells, const QWidget& page, QSize viewport) {

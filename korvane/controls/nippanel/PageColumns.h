@@ -24,8 +24,8 @@ struct CaptionWidths {
 /// The columns of a page: comment fields stand in the second one, beside their base fields.
 struct PageColumns {
     PageColumn first;
-    PageColumn second;       ///< the same as `first` where there is no room for two
-    bool sideBySide = false; ///< whether there are two
+    PageColumn second;        ///< the same as `first` where there is no room for two
+    bool sideBySide = false;  ///< whether there are two
     bool labelsAbove = false; ///< whether a label stands above its entry, on a very narrow page
 };
 

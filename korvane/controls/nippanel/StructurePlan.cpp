@@ -16,7 +16,8 @@ class ControlArrays {
     /// The first of `count` new elements. Overflow above 32767.
     std::int16_t take(std::string_view array, std::int16_t count = 1) {
         std::int16_t& next = mNext[array];
-        if (next > std::numeric_limits<std::int16_t>::max() - count) throw RuntimeError(RuntimeError::Overflow);
+        if (next > std::numeric_limits<std::int16_t>::max() - count)
+            throw RuntimeError(RuntimeError::Overflow);
         const std::int16_t first = next;
         next = static_cast<std::int16_t>(next + count);
         return first;
@@ -42,8 +43,10 @@ class Planner {
         for (int i = 1; i <= mNip.FieldCount(group); ++i) {
             const auto field = static_cast<std::int16_t>(i);
             const DisplayType* type = findDisplayType(mNip.displayType(group, field));
-            if (type) fields.push_back(planField(group, field, *type));
-            else report(group, field);
+            if (type)
+                fields.push_back(planField(group, field, *type));
+            else
+                report(group, field);
         }
         return fields;
     }

@@ -40,7 +40,8 @@ constexpr int longestText = 32767;
 
 } // namespace
 
-TextEntry::TextEntry(EntrySite entrySite) : EntryControl(std::move(entrySite)), mBox(new QLineEdit(site().parent)) {
+TextEntry::TextEntry(EntrySite entrySite)
+    : EntryControl(std::move(entrySite)), mBox(new QLineEdit(site().parent)) {
     identify(*mBox);
     QObject::connect(mBox, &QLineEdit::textChanged, mBox, [this] { site().edited(); });
 }

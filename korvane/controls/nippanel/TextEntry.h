@@ -6,8 +6,8 @@ class QLineEdit;
 
 namespace Korvane {
 
-/// "TEXT": a text box. It holds at most the field's `maxLength` characters (0: no limit), except that a longer
-/// text that was loaded is shown whole; the user can then only shorten it.
+/// "TEXT": a text box. It holds at most the field's `maxLength` characters (0: no limit), except that a
+/// longer text that was loaded is shown whole; the user can then only shorten it.
 class TextEntry : public EntryControl {
   public:
     explicit TextEntry(EntrySite entrySite);
