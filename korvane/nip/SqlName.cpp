@@ -4,7 +4,7 @@
 #include <korvane/runtime/Text.h>
 
 #include <algorithm>
-#include <array>
+#include <set>
 
 namespace Korvane {
 
@@ -12,136 +12,28 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// What at least one engine, or the dialect itself, refuses or misreads as a bare name; in order.
-constexpr std::array reservedWords = {
-    "ADD"sv,
-    "ALL"sv,
-    "ALTER"sv,
-    "ANALYSE"sv,
-    "ANALYZE"sv,
-    "AND"sv,
-    "ANY"sv,
-    "ARRAY"sv,
-    "AS"sv,
-    "ASC"sv,
-    "ASYMMETRIC"sv,
-    "AUTHORIZATION"sv,
-    "AUTOINCREMENT"sv,
-    "BEGIN"sv,
-    "BETWEEN"sv,
-    "BINARY"sv,
-    "BOTH"sv,
-    "BY"sv,
-    "CASE"sv,
-    "CAST"sv,
-    "CHECK"sv,
-    "COLLATE"sv,
-    "COLLATION"sv,
-    "COLUMN"sv,
-    "COMMIT"sv,
-    "CONCURRENTLY"sv,
-    "CONSTRAINT"sv,
-    "CREATE"sv,
-    "CROSS"sv,
-    "CURRENT_CATALOG"sv,
-    "CURRENT_DATE"sv,
-    "CURRENT_ROLE"sv,
-    "CURRENT_SCHEMA"sv,
-    "CURRENT_TIME"sv,
-    "CURRENT_TIMESTAMP"sv,
-    "CURRENT_USER"sv,
-    "DEFAULT"sv,
-    "DEFERRABLE"sv,
-    "DELETE"sv,
-    "DESC"sv,
-    "DISTINCT"sv,
-    "DISTINCTROW"sv,
-    "DO"sv,
-    "DROP"sv,
-    "ELSE"sv,
-    "END"sv,
-    "ESCAPE"sv,
-    "EXCEPT"sv,
-    "EXISTS"sv,
-    "FALSE"sv,
-    "FETCH"sv,
-    "FOR"sv,
-    "FOREIGN"sv,
-    "FREEZE"sv,
-    "FROM"sv,
-    "FULL"sv,
-    "GRANT"sv,
-    "GROUP"sv,
-    "HAVING"sv,
-    "ILIKE"sv,
-    "IN"sv,
-    "INDEX"sv,
-    "INITIALLY"sv,
-    "INNER"sv,
-    "INSERT"sv,
-    "INTERSECT"sv,
-    "INTO"sv,
-    "IS"sv,
-    "ISNULL"sv,
-    "JOIN"sv,
-    "LATERAL"sv,
-    "LEADING"sv,
-    "LEFT"sv,
-    "LIKE"sv,
-    "LIMIT"sv,
-    "LOCALTIME"sv,
-    "LOCALTIMESTAMP"sv,
-    "NATURAL"sv,
-    "NOT"sv,
-    "NOTHING"sv,
-    "NOTNULL"sv,
-    "NULL"sv,
-    "OFFSET"sv,
-    "ON"sv,
-    "ONLY"sv,
-    "OR"sv,
-    "ORDER"sv,
-    "OUTER"sv,
-    "OVERLAPS"sv,
-    "PLACING"sv,
-    "PRIMARY"sv,
-    "PROCEDURE"sv,
-    "REFERENCES"sv,
-    "RETURNING"sv,
-    "REVOKE"sv,
-    "RIGHT"sv,
-    "ROLLBACK"sv,
-    "SELECT"sv,
-    "SESSION_USER"sv,
-    "SET"sv,
-    "SIMILAR"sv,
-    "SOME"sv,
-    "SYMMETRIC"sv,
-    "SYSTEM_USER"sv,
-    "TABLE"sv,
-    "TABLESAMPLE"sv,
-    "THEN"sv,
-    "TO"sv,
-    "TOP"sv,
-    "TRAILING"sv,
-    "TRANSACTION"sv,
-    "TRIGGER"sv,
-    "TRUE"sv,
-    "UNION"sv,
-    "UNIQUE"sv,
-    "UPDATE"sv,
-    "USER"sv,
-    "USING"sv,
-    "VALUES"sv,
-    "VARIADIC"sv,
-    "VERBOSE"sv,
-    "VIEW"sv,
-    "WHEN"sv,
-    "WHERE"sv,
-    "WINDOW"sv,
-    "WITH"sv,
-};
-static_assert(std::ranges::is_sorted(reservedWords));
+/// What at least one engine, or the dialect itself, refuses or misreads as a bare name.
+constexpr std::string_view reservedWords =
+    "ADD ALL ALTER ANALYSE ANALYZE AND ANY ARRAY AS ASC ASYMMETRIC AUTHORIZATION AUTOINCREMENT BEGIN "
+    "BETWEEN BINARY BOTH BY CASE CAST CHECK COLLATE COLLATION COLUMN COMMIT CONCURRENTLY CONSTRAINT "
+    "CREATE CROSS CURRENT_CATALOG CURRENT_DATE CURRENT_ROLE CURRENT_SCHEMA CURRENT_TIME "
+    "CURRENT_TIMESTAMP CURRENT_USER DEFAULT DEFERRABLE DELETE DESC DISTINCT DISTINCTROW DO DROP ELSE "
+    "END ESCAPE EXCEPT EXISTS FALSE FETCH FOR FOREIGN FREEZE FROM FULL GRANT GROUP HAVING ILIKE IN "
+    "INDEX INITIALLY INNER INSERT INTERSECT INTO IS ISNULL JOIN LATERAL LEADING LEFT LIKE LIMIT "
+    "LOCALTIME LOCALTIMESTAMP NATURAL NOT NOTHING NOTNULL NULL OFFSET ON ONLY OR ORDER OUTER "
+    "OVERLAPS PLACING PRIMARY PROCEDURE REFERENCES RETURNING REVOKE RIGHT ROLLBACK SELECT "
+    "SESSION_USER SET SIMILAR SOME SYMMETRIC SYSTEM_USER TABLE TABLESAMPLE THEN TO TOP TRAILING "
+    "TRANSACTION TRIGGER TRUE UNION UNIQUE UPDATE USER USING VALUES VARIADIC VERBOSE VIEW WHEN WHERE "
+    "WINDOW WITH";
+
+std::set<std::string_view> wordsOf(std::string_view text) {
+    std::set<std::string_view> words;
+    for (std::size_t end; !text.empty(); text.remove_prefix(std::min(end + 1, text.size()))) {
+        end = std::min(text.find(' '), text.size());
+        words.insert(text.substr(0, end));
+    }
+    return words;
+}
 
 bool isPlain(std::string_view name) {
     constexpr auto letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_0123456789"sv;
@@ -152,7 +44,8 @@ bool isPlain(std::string_view name) {
 } // namespace
 
 bool isReservedWord(std::string_view word) {
-    return std::ranges::binary_search(reservedWords, std::string_view(upperCase(word)));
+    static const std::set<std::string_view> words = wordsOf(reservedWords);
+    return words.contains(upperCase(word));
 }
 
 std::string sqlName(std::string_view name) {
