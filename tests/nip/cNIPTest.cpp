@@ -32,7 +32,7 @@ TEST(cNIP, KeepsToTheBoundsOfItsTable) {
     nips.define(2, "B");
     nips.define(3, "C");
     cNIP nip;
-    expectOutOfRange([&] { nip.FieldCount(1); }, "a count before anything is loaded");
+    expectOutOfRange([&] { nip.fieldName(1, 1); }, "a field before anything is loaded");
     ASSERT_TRUE(nip.LoadStructure(nips.db));
 
     EXPECT_EQ(nip.Caption(-1, 9), "");
