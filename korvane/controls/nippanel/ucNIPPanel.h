@@ -30,7 +30,8 @@ class ucNIPPanel : public UserControl {
     explicit ucNIPPanel(QWidget* parent = nullptr);
     ~ucNIPPanel() override;
 
-    /// The patient whose Nip is shown; empty before the first create or load.
+    /// The patient whose Nip is shown, or was before it was closed; empty before the first create or load,
+    /// and after one that failed.
     QString PatientID() const;
 
     /// Whether the panel serves only to customize the structure. Default false.
@@ -41,12 +42,14 @@ class ucNIPPanel : public UserControl {
     bool AllowClosePanel() const;
     void AllowClosePanel(bool on);
 
-    /// Saves the entered values (not the encounter pane, which the Save button saves first). When they cannot
-    /// be saved the user is told, nothing is raised and every entry stays.
+    /// Saves the entered values (not the encounter pane, which the Save button saves first, in the same
+    /// transaction; what was edited there stays modified). When they cannot be saved the user is told,
+    /// nothing is raised and every entry stays. Does nothing while no Nip is open.
     void SaveNipInfo();
 
     /// Gives the panel its connection, loads the structure and builds the entry controls. May be called
-    /// again.
+    /// again: what was open is then gone, unsaved entries included. Shows nothing by itself; when the
+    /// structure cannot be read, the next create or load tries again.
     void Initialize(const std::shared_ptr<ado::Connection>& connection);
 
     /// Switches into customization mode.
@@ -55,10 +58,12 @@ class ucNIPPanel : public UserControl {
     /// Hands the identifier of an encounter just inserted to the model. Called by the encounter's own event.
     void mEncounter_SavedNewEncounter();
 
-    /// Starts a new, empty Nip. False when the user wants to keep unsaved entries, or before `Initialize`.
+    /// Starts a new, empty Nip. False when the user wants to keep unsaved entries, before `Initialize`, or
+    /// when the structure or the patient's latest Nip cannot be read: the user was then told, and nothing is
+    /// open.
     bool CreateNip(const QString& patientID);
 
-    /// Shows a saved Nip. False as above, or when it cannot be read.
+    /// Shows a saved Nip. False as above, and when there is no such encounter or it is another patient's.
     bool LoadNipInfo(qint32 encounterID, const QString& patientID);
 
     void ReadProperties(const PropertyBag& bag) override;
@@ -72,6 +77,7 @@ class ucNIPPanel : public UserControl {
     bool requestClose();
 
   signals:
+    /// The Nip was closed, by the user or by a successful save: nothing is open any more.
     void CloseNipPanel();
     /// A Nip made by `CreateNip` was saved for the first time. An identifier above 32767 fails with an
     /// overflow.
@@ -79,6 +85,10 @@ class ucNIPPanel : public UserControl {
     /// The description or date of an existing encounter was changed and saved.
     void RenamedNip(qint16 encounterID, const QString& description, const QDateTime& encounterDate);
     void modifiedChanged(bool modified);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     struct Members;

@@ -1,0 +1,39 @@
+#include <korvane/controls/nippanel/ButtonRow.h>
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace Korvane {
+
+ButtonRow::ButtonRow(QWidget* parent) : QWidget(parent) {
+    const QString captions[] = {"Save", "Cancel", "Customize"};
+    const QString tips[] = {"Save and close (Ctrl+S)", "Close without saving (Esc)",
+                            "Show the structure of the Nip"};
+    for (int i : {Save, Cancel, Customize}) {
+        mButtons[i] = new QPushButton(captions[i], this);
+        mButtons[i]->setObjectName(QString("cmdNipButton(%1)").arg(i));
+        mButtons[i]->setToolTip(tips[i]);
+        mButtons[i]->setAutoDefault(false);
+        connect(mButtons[i], &QPushButton::clicked, this, [this, i] { emit clicked(i); });
+    }
+    mButtons[Save]->setDefault(true);
+    setTabOrder(mButtons[Save], mButtons[Cancel]);
+    setTabOrder(mButtons[Cancel], mButtons[Customize]);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(mButtons[Customize]);
+    layout->addStretch();
+    layout->addWidget(mButtons[Save]);
+    layout->addWidget(mButtons[Cancel]);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void ButtonRow::arrange(bool customizeOnly, bool allowClose) {
+    mButtons[Save]->setVisible(!customizeOnly);
+    mButtons[Customize]->setVisible(!customizeOnly);
+    mButtons[Cancel]->setText(customizeOnly ? "Close" : "Cancel");
+    mButtons[Cancel]->setVisible(allowClose);
+}
+
+} // namespace Korvane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QWidget>
+
+class QPushButton;
+
+namespace Korvane {
+
+/// The panel's row of buttons, the control array `cmdNipButton`: 0 "Save", 1 "Cancel" or "Close", 2
+/// "Customize".
+class ButtonRow : public QWidget {
+    Q_OBJECT
+
+  public:
+    enum Index { Save = 0, Cancel = 1, Customize = 2 };
+
+    explicit ButtonRow(QWidget* parent = nullptr);
+
+    /// Shows the buttons that the panel's two properties call for.
+    void arrange(bool customizeOnly, bool allowClose);
+
+    QPushButton& button(int index) const { return *mButtons[index]; }
+
+  signals:
+    void clicked(int index);
+
+  private:
+    QPushButton* mButtons[3];
+};
+
+} // namespace Korvane

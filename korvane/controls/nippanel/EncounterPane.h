@@ -1,0 +1,90 @@
+#pragma once
+
+#include <korvane/ado/Connection.h>
+#include <korvane/records/Encounter.h>
+
+#include <QDateTime>
+#include <QWidget>
+
+#include <cstdint>
+#include <memory>
+#include <utility>
+#include <vector>
+
+class QComboBox;
+class QDateTimeEdit;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+
+namespace Korvane {
+
+/// The encounter that the Nip belongs to: its description, date and provider (`paneEncounter`).
+///
+///     pane->fill(encounter, connection);
+///     ...
+///     if (pane->renames(encounter)) ...       // compare before copying
+///     pane->copyInto(encounter);
+///
+/// What the user did not touch is copied back as it was filled in: the seconds of the date, line breaks of
+/// the description, a provider that the combo does not offer.
+class EncounterPane : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit EncounterPane(QWidget* parent = nullptr);
+
+    /// Shows an encounter and offers the providers of the table `Provider`. Raises no `edited`.
+    void fill(const Encounter& encounter, const std::shared_ptr<ado::Connection>& connection);
+    void clear();
+
+    /// Takes what is shown now for the encounter's own, once it has been saved.
+    void settle(const Encounter& encounter);
+
+    std::string Description() const;
+    Date EncounterDate() const;
+
+    /// Whether description or date differ from the encounter's.
+    bool renames(const Encounter& encounter) const;
+    void copyInto(Encounter& encounter) const;
+
+    /// Whether the user changed something since `fill` or `settle`.
+    bool isEdited() const;
+
+    void focusDescription();
+    void focusProvider();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  signals:
+    void edited();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    using Provider = std::pair<QString, std::int32_t>;
+
+    void offer(std::vector<Provider> providers);
+    void arrange();
+    int neededWidth(int rows) const;
+
+    QLabel* mLabels[3];
+    QLineEdit* mDescription;
+    QDateTimeEdit* mDate;
+    QComboBox* mProvider;
+    QGridLayout* mGrid;
+    int mRows = 0;
+    std::vector<Provider> mProviders;
+
+    std::string mOriginalDescription;
+    Date mOriginalDate;
+    QString mShownDescription; ///< as the box gave it back after it was filled
+    QDateTime mShownDate;
+    int mShownProvider = -1;
+};
+
+} // namespace Korvane

@@ -1,0 +1,114 @@
+#include <korvane/controls/nippanel/ucNIPPanel.h>
+
+#include <korvane/controls/nippanel/ButtonRow.h>
+#include <korvane/controls/nippanel/CustomizePane.h>
+#include <korvane/controls/nippanel/EncounterPane.h>
+#include <korvane/controls/nippanel/NipTabs.h>
+#include <korvane/controls/nippanel/PanelForm.h>
+#include <korvane/controls/nippanel/PanelMembers.h>
+
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace Korvane {
+
+ucNIPPanel::ucNIPPanel(QWidget* parent) : UserControl(parent), m(std::make_unique<Members>(*this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m->form);
+    setFocusProxy(m->form);
+    const auto closeClicked = [this] { m->click(ButtonRow::Cancel); };
+    connect(m->form, &PanelForm::closeClicked, this, closeClicked);
+    connect(&m->form->customizePane(), &CustomizePane::closeClicked, this, closeClicked);
+    connect(&m->form->customizePane(), &CustomizePane::backClicked, this, [this] { m->cancelCustomize(); });
+    connect(&m->form->buttons(), &ButtonRow::clicked, this, [this](int button) { m->click(button); });
+    connect(&m->form->tabs(), &NipTabs::edited, this, [this] { m->edited(); });
+    connect(&m->form->encounterPane(), &EncounterPane::edited, this, [this] { m->edited(); });
+    m->arrange();
+}
+
+ucNIPPanel::~ucNIPPanel() = default;
+
+QString ucNIPPanel::PatientID() const {
+    return m->patientID;
+}
+
+bool ucNIPPanel::CustomizeOnly() const {
+    return m->customizeOnly;
+}
+
+void ucNIPPanel::CustomizeOnly(bool on) {
+    const bool leaves = m->customizeOnly && !on;
+    m->customizeOnly = on;
+    if (leaves) m->cancelCustomize();
+    m->arrange();
+    emit PropertyChanged("CustomizeOnly");
+}
+
+bool ucNIPPanel::AllowClosePanel() const {
+    return m->allowClosePanel;
+}
+
+void ucNIPPanel::AllowClosePanel(bool on) {
+    m->allowClosePanel = on;
+    m->arrange();
+    emit PropertyChanged("AllowClosePanel");
+}
+
+void ucNIPPanel::ReadProperties(const PropertyBag& bag) {
+    CustomizeOnly(bag.ReadProperty("CustomizeOnly", false).toBool());
+    AllowClosePanel(bag.ReadProperty("AllowClosePanel", true).toBool());
+}
+
+void ucNIPPanel::WriteProperties(PropertyBag& bag) const {
+    bag.WriteProperty("CustomizeOnly", CustomizeOnly(), false);
+    bag.WriteProperty("AllowClosePanel", AllowClosePanel(), true);
+}
+
+void ucNIPPanel::SaveNipInfo() {
+    m->saveNipInfo();
+}
+
+void ucNIPPanel::Initialize(const std::shared_ptr<ado::Connection>& connection) {
+    m->initialize(connection);
+}
+
+void ucNIPPanel::CustomizeNip() {
+    m->customize();
+}
+
+void ucNIPPanel::mEncounter_SavedNewEncounter() {
+    if (m->nip && m->mEncounter) m->nip->EncounterID(m->mEncounter->EncounterID());
+}
+
+bool ucNIPPanel::CreateNip(const QString& patientID) {
+    return m->createNip(patientID);
+}
+
+bool ucNIPPanel::LoadNipInfo(qint32 encounterID, const QString& patientID) {
+    return m->loadNip(encounterID, patientID);
+}
+
+bool ucNIPPanel::isModified() const {
+    return m->changed;
+}
+
+bool ucNIPPanel::requestClose() {
+    return m->close();
+}
+
+void ucNIPPanel::showEvent(QShowEvent* event) {
+    UserControl::showEvent(event);
+    m->arrange();
+}
+
+/// Here rather than as shortcuts, so that a host's own keys come first.
+void ucNIPPanel::keyPressEvent(QKeyEvent* event) {
+    const bool save = event->matches(QKeySequence::Save);
+    QPushButton& button = m->form->buttons().button(save ? ButtonRow::Save : ButtonRow::Cancel);
+    if ((!save && !event->matches(QKeySequence::Cancel)) || !button.isVisible())
+        return UserControl::keyPressEvent(event);
+    button.click();
+}
+
+} // namespace Korvane
