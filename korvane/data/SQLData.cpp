@@ -59,11 +59,7 @@ void setAccess(ado::Recordset& recordset, std::int32_t mode) {
 } // namespace
 
 SQLData::~SQLData() {
-    try {
-        if (State() == kOpen) CloseRS();
-    } catch (...) {
-        // Nobody is left to be told.
-    }
+    if (mRecordset && State() == kOpen) CloseRS();
 }
 
 bool SQLData::SQL(const std::shared_ptr<ado::Connection>& connection, std::string_view statement,

@@ -1,0 +1,178 @@
+#include "clinic/MainWindow.h"
+
+#include "clinic/Actions.h"
+#include "clinic/EncounterPane.h"
+#include "clinic/Help.h"
+#include "clinic/NipDesk.h"
+#include "clinic/PaneCycle.h"
+#include "clinic/PatientPane.h"
+#include "clinic/Show.h"
+#include "clinic/TextSize.h"
+
+#include <korvane/controls/container/Busy.h>
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QSettings>
+#include <QSplitter>
+#include <QStatusBar>
+
+namespace Clinic {
+
+MainWindow::MainWindow(std::shared_ptr<Korvane::ado::Connection> connection, const QString& databaseName,
+                       int textSize)
+    : mConnection(std::move(connection)), mTextSize(new TextSize(this)),
+      mSides(new QSplitter(Qt::Horizontal, this)), mLists(new QSplitter(Qt::Vertical, this)),
+      mPatients(new PatientPane(mLists)), mEncounters(new EncounterPane(mLists)), mDesk(new NipDesk(mSides)),
+      mPanes(new PaneCycle({mPatients, mEncounters, mDesk}, this)),
+      mActions(std::make_unique<Actions>(*this)) {
+    const Korvane::Hourglass hourglass;
+    if (textSize > 0) mTextSize->setPercent(textSize);
+    build(databaseName);
+    listen();
+    connectActions();
+    restore();
+    mDesk->setConnection(mConnection);
+    reload();
+    refresh();
+    mPatients->startSearch();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::build(const QString& databaseName) {
+    setObjectName(QStringLiteral("clinic"));
+    mLists->addWidget(mPatients);
+    mLists->addWidget(mEncounters);
+    mSides->addWidget(mLists);
+    mSides->addWidget(mDesk);
+    mSides->setStretchFactor(0, 0);
+    mSides->setStretchFactor(1, 1);
+    mSides->setChildrenCollapsible(false);
+    mLists->setChildrenCollapsible(false);
+    setCentralWidget(mSides);
+    auto* database = new QLabel(databaseName, this);
+    database->setTextFormat(Qt::PlainText);
+    statusBar()->addPermanentWidget(database);
+}
+
+void MainWindow::listen() {
+    connect(mPatients, &PatientPane::wanted, this, &MainWindow::choosePatient);
+    connect(mPatients, &PatientPane::entered, mEncounters, &EncounterPane::takeFocus);
+    connect(mEncounters, &EncounterPane::openWanted, this, &MainWindow::openEncounter);
+    connect(mEncounters, &EncounterPane::chosenChanged, this, &MainWindow::refresh);
+    connect(mDesk, &NipDesk::newNipWanted, this, &MainWindow::newNip);
+    connect(mDesk, &NipDesk::modifiedChanged, this, &MainWindow::refresh);
+    connect(mDesk, &NipDesk::nipOpened, this, [this] {
+        mEncounters->setOpen(mDesk->openEncounter());
+        refresh();
+        mDesk->takeFocus();
+    });
+    connect(mDesk, &NipDesk::nipClosed, this, &MainWindow::nipClosed);
+    connect(mDesk, &NipDesk::nipCreated, this, [this](qint32 id) {
+        readEncountersOfPatient();
+        mEncounters->choose(id);
+        say(tr("The new Nip is saved."));
+    });
+    connect(mDesk, &NipDesk::nipRenamed, this,
+            [this](qint32 id, const QString& description, Korvane::Date date) {
+                mEncounters->rename(id, description, date);
+                say(tr("The Nip is now \"%1\" of %2.").arg(description, momentText(date)));
+            });
+}
+
+void MainWindow::connectActions() {
+    const Actions& a = *mActions;
+    connect(a.newNip, &QAction::triggered, this, &MainWindow::newNip);
+    connect(a.openNip, &QAction::triggered, this, [this] { openEncounter(mEncounters->chosen()); });
+    connect(a.saveNip, &QAction::triggered, mDesk, &NipDesk::saveNip);
+    connect(a.closeNip, &QAction::triggered, mDesk, &NipDesk::closeNip);
+    connect(a.quit, &QAction::triggered, this, &QWidget::close);
+    connect(a.findPatient, &QAction::triggered, mPatients, &PatientPane::startSearch);
+    connect(a.reload, &QAction::triggered, this, &MainWindow::reload);
+    connect(a.nextPane, &QAction::triggered, mPanes, &PaneCycle::next);
+    connect(a.previousPane, &QAction::triggered, mPanes, &PaneCycle::previous);
+    connect(a.largerText, &QAction::triggered, mTextSize, &TextSize::larger);
+    connect(a.smallerText, &QAction::triggered, mTextSize, &TextSize::smaller);
+    connect(a.usualText, &QAction::triggered, mTextSize, &TextSize::usual);
+    connect(mTextSize, &TextSize::changed, this, [this](int p) { say(tr("Text size %1 %").arg(p)); });
+    connect(a.keys, &QAction::triggered, this, [this] { showKeys(*this); });
+    connect(a.about, &QAction::triggered, this, [this] { showAbout(*this); });
+}
+
+void MainWindow::reload() {
+    const Korvane::Hourglass hourglass;
+    if (auto patients = readPatients(mConnection)) mPatients->setPatients(std::move(*patients));
+    if (mDesk->hasPatient()) readEncountersOfPatient();
+}
+
+void MainWindow::choosePatient(const PatientLine& patient) {
+    if (!mDesk->setPatient(patient)) return;
+    mPatients->choose(patient.id);
+    mEncounters->clear();
+    readEncountersOfPatient();
+    statusBar()->clearMessage();
+}
+
+void MainWindow::readEncountersOfPatient() {
+    const Korvane::Hourglass hourglass;
+    mEncounters->setEncounters(mDesk->patient(), readEncounters(mConnection, mDesk->patient().id));
+}
+
+void MainWindow::openEncounter(qint32 encounterID) {
+    if (encounterID < 0) return;
+    const bool again = mDesk->isNipOpen() && mDesk->openEncounter() == encounterID;
+    if (again && !mDesk->isModified()) return mDesk->takeFocus();
+    if (!mDesk->openNip(encounterID) && mDesk->isNipOpen()) mEncounters->choose(mDesk->openEncounter());
+}
+
+void MainWindow::newNip() {
+    if (!mDesk->hasPatient()) return;
+    if (mDesk->createNip()) mEncounters->choose(-1);
+}
+
+void MainWindow::nipClosed() {
+    mEncounters->setOpen(-1);
+    if (mDesk->hasPatient()) readEncountersOfPatient();
+    refresh();
+    mEncounters->takeFocus();
+}
+
+void MainWindow::refresh() {
+    const bool open = mDesk->isNipOpen();
+    mActions->newNip->setEnabled(mDesk->hasPatient());
+    mActions->openNip->setEnabled(mEncounters->chosen() >= 0);
+    mActions->saveNip->setEnabled(open);
+    mActions->closeNip->setEnabled(open);
+    const QString who = mDesk->hasPatient() ? mDesk->patient().name() + QStringLiteral(" - ") : QString();
+    setWindowTitle(who + QStringLiteral("Korvane Clinic[*]"));
+    setWindowModified(mDesk->isModified());
+}
+
+void MainWindow::say(const QString& message) {
+    statusBar()->showMessage(message, 10000);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!mDesk->closeNip()) return event->ignore();
+    keep();
+    event->accept();
+}
+
+void MainWindow::restore() {
+    const QSettings settings;
+    if (!restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray())) resize(1280, 800);
+    if (!mSides->restoreState(settings.value(QStringLiteral("window/sides")).toByteArray()))
+        mSides->setSizes({width() * 2 / 5, width() * 3 / 5});
+    if (!mLists->restoreState(settings.value(QStringLiteral("window/lists")).toByteArray()))
+        mLists->setSizes({height() / 2, height() / 2});
+}
+
+void MainWindow::keep() const {
+    QSettings settings;
+    settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("window/sides"), mSides->saveState());
+    settings.setValue(QStringLiteral("window/lists"), mLists->saveState());
+}
+
+} // namespace Clinic

@@ -1,0 +1,155 @@
+#include "clinic/NipDesk.h"
+
+#include "clinic/Show.h"
+
+#include <korvane/controls/container/Text.h>
+#include <korvane/controls/nippanel/ucNIPPanel.h>
+#include <korvane/runtime/Clock.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace Clinic {
+
+using Korvane::ucNIPPanel;
+
+namespace {
+
+QString bornText(Korvane::Date birth) {
+    const int age = yearsBetween(birth, Korvane::Clock::now());
+    return NipDesk::tr("born %1, age %2").arg(dayText(birth)).arg(age);
+}
+
+} // namespace
+
+NipDesk::NipDesk(QWidget* parent)
+    : QWidget(parent), mHeader(new QLabel(this)), mStack(new QStackedWidget(this)),
+      mPanel(new ucNIPPanel(this)) {
+    mHeader->setObjectName(QStringLiteral("patientHeader"));
+    mHeader->setTextFormat(Qt::RichText);
+    mHeader->setWordWrap(true);
+    mHeader->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    mPanel->setObjectName(QStringLiteral("nipPanel"));
+    mPanel->setAccessibleName(tr("Nip"));
+    mStack->addWidget(makeHint());
+    mStack->addWidget(mPanel);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(mHeader);
+    layout->addWidget(mStack, 1);
+    listen();
+    showPatient();
+}
+
+QWidget* NipDesk::makeHint() {
+    auto* page = new QWidget(this);
+    mHint = new QLabel(page);
+    mHint->setAlignment(Qt::AlignCenter);
+    mHint->setWordWrap(true);
+    mNew = new QPushButton(tr("New Nip"), page);
+    mNew->setObjectName(QStringLiteral("newNip"));
+    connect(mNew, &QPushButton::clicked, this, &NipDesk::newNipWanted);
+    auto* layout = new QVBoxLayout(page);
+    layout->addStretch(2);
+    layout->addWidget(mHint);
+    layout->addWidget(mNew, 0, Qt::AlignHCenter);
+    layout->addStretch(3);
+    return page;
+}
+
+void NipDesk::listen() {
+    connect(mPanel, &ucNIPPanel::CloseNipPanel, this, &NipDesk::leave);
+    connect(mPanel, &ucNIPPanel::CreatedNip, this, [this](qint16 id) {
+        mEncounter = id;
+        emit nipCreated(id);
+    });
+    connect(mPanel, &ucNIPPanel::RenamedNip, this,
+            [this](qint16 id, const QString& description, const QDateTime& date) {
+                emit nipRenamed(id, description, Korvane::fromQt(date));
+            });
+    connect(mPanel, &ucNIPPanel::modifiedChanged, this, &NipDesk::modifiedChanged);
+}
+
+void NipDesk::setConnection(const std::shared_ptr<Korvane::ado::Connection>& connection) {
+    mPanel->Initialize(connection);
+}
+
+bool NipDesk::setPatient(const PatientLine& patient) {
+    if (!closeNip()) return false;
+    mPatient = patient;
+    showPatient();
+    return true;
+}
+
+void NipDesk::showPatient() {
+    mNew->setVisible(hasPatient());
+    if (!hasPatient()) {
+        mHeader->setText(tr("No patient is chosen"));
+        mHeader->setAccessibleName(tr("No patient is chosen"));
+        mHint->setText(tr("Choose a patient: Ctrl+F, then type part of a name or an ID."));
+        return;
+    }
+    QString facts = tr("ID %1").arg(mPatient.id);
+    if (mPatient.birthDate != Korvane::Date())
+        facts += QStringLiteral("  ·  ") + bornText(mPatient.birthDate);
+    mHeader->setText(QStringLiteral("<span style='font-size:x-large; font-weight:600'>%1</span><br>%2")
+                         .arg(mPatient.name().toHtmlEscaped(), facts.toHtmlEscaped()));
+    mHeader->setAccessibleName(mPatient.name() + QStringLiteral(", ") + facts);
+    mHint->setText(tr("No Nip is open. Open an encounter of the list with Enter or a double click, "
+                      "or start a new Nip with Ctrl+N."));
+}
+
+bool NipDesk::createNip() {
+    return show(mPanel->CreateNip(mPatient.id), -1);
+}
+
+bool NipDesk::openNip(qint32 encounterID) {
+    return show(mPanel->LoadNipInfo(encounterID, mPatient.id), encounterID);
+}
+
+bool NipDesk::show(bool done, qint32 encounterID) {
+    if (done) {
+        mEncounter = encounterID;
+        mStack->setCurrentWidget(mPanel);
+        emit nipOpened();
+    } else if (isNipOpen() && !mPanel->isModified()) {
+        leave();
+    }
+    return done;
+}
+
+// Also when a Nip could not be shown: the panel then shows none, and has told the user why.
+void NipDesk::leave() {
+    mEncounter = -1;
+    mStack->setCurrentIndex(0);
+    emit nipClosed();
+}
+
+void NipDesk::saveNip() {
+    auto* save = mPanel->findChild<QAbstractButton*>(QStringLiteral("cmdNipButton(0)"));
+    if (isNipOpen() && save) save->click();
+}
+
+bool NipDesk::closeNip() {
+    return !isNipOpen() || mPanel->requestClose();
+}
+
+bool NipDesk::isNipOpen() const {
+    return mStack->currentWidget() == mPanel;
+}
+
+bool NipDesk::isModified() const {
+    return isNipOpen() && mPanel->isModified();
+}
+
+void NipDesk::takeFocus() {
+    if (!isNipOpen()) return mNew->setFocus(Qt::OtherFocusReason);
+    for (QWidget* w = mPanel->nextInFocusChain(); mPanel->isAncestorOf(w); w = w->nextInFocusChain()) {
+        if (w->isVisible() && w->isEnabled() && w->focusPolicy() & Qt::TabFocus)
+            return w->setFocus(Qt::TabFocusReason);
+    }
+}
+
+} // namespace Clinic

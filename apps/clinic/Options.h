@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Clinic {
+
+/// What the command line asks for.
+struct Options {
+    QString database;      ///< empty: the usual one
+    QString tourDirectory; ///< empty: no tour
+    int fontScale = 0;     ///< percent; 0: as it was kept
+};
+
+/// Reads the command line. Ends the program itself for --help and --version (code 0) and for what it does not
+/// understand (code 1, with a line on standard error). Needs an application object.
+Options readOptions(const QStringList& arguments);
+
+} // namespace Clinic

@@ -1,0 +1,88 @@
+#include "clinic/RowTable.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QPainter>
+#include <QScopedValueRollback>
+
+namespace Clinic {
+
+RowTable::RowTable(QWidget* parent) : QTableView(parent) {
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    fitRows();
+}
+
+void RowTable::setModel(QAbstractItemModel* model) {
+    QTableView::setModel(model);
+    // Not the current row: a list that gets the focus makes its first row current, which is no choice.
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!mSetting && chosenRow() >= 0) emit chosen(chosenRow());
+    });
+}
+
+void RowTable::setStretchColumn(int column) {
+    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+}
+
+void RowTable::setEmptyText(const QString& text) {
+    mEmptyText = text;
+    viewport()->update();
+}
+
+int RowTable::chosenRow() const {
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void RowTable::setChosenRow(int row) {
+    const QScopedValueRollback setting(mSetting, true);
+    if (row < 0) {
+        selectionModel()->clear();
+        return;
+    }
+    selectRow(row);
+    scrollTo(model()->index(row, 0));
+}
+
+void RowTable::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) fitRows();
+}
+
+void RowTable::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (!model() || model()->rowCount() > 0) return;
+    const int margin = fontMetrics().height() / 2;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap, mEmptyText);
+}
+
+// The row that is chosen stays chosen, also under Ctrl+click.
+QItemSelectionModel::SelectionFlags RowTable::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* event) const {
+    const auto command = QTableView::selectionCommand(index, event);
+    const bool changesNothing = command == QItemSelectionModel::NoUpdate || !index.isValid();
+    return changesNothing ? QItemSelectionModel::NoUpdate
+                          : QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}
+
+void RowTable::fitRows() {
+    const int height = fontMetrics().height() + fontMetrics().height() / 3;
+    verticalHeader()->setMinimumSectionSize(height);
+    verticalHeader()->setDefaultSectionSize(height);
+}
+
+} // namespace Clinic

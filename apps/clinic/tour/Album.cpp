@@ -1,0 +1,62 @@
+#include "clinic/tour/Album.h"
+
+#include "clinic/tour/Failure.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QRegularExpression>
+
+namespace Clinic {
+
+namespace {
+
+/// A box with the frame and title bar that a desktop would give it.
+void paintAbove(QPainter& painter, QWidget& box, QPoint where) {
+    const bool framed = box.isModal();
+    const QRect inner(where, box.size());
+    const int bar = framed ? box.fontMetrics().height() * 3 / 2 : 0;
+    if (framed) {
+        painter.fillRect(inner.adjusted(-1, -bar, 1, 0), box.palette().color(QPalette::Highlight));
+        painter.setPen(box.palette().color(QPalette::HighlightedText));
+        painter.drawText(QRect(inner.left() + bar / 3, inner.top() - bar, inner.width(), bar),
+                         Qt::AlignVCenter, box.windowTitle());
+    }
+    painter.drawPixmap(inner.topLeft(), box.grab());
+    painter.setPen(box.palette().color(QPalette::Shadow));
+    painter.drawRect(inner.adjusted(-1, -bar - 1, 0, 0));
+}
+
+} // namespace
+
+Album::Album(QWidget& window, const QString& directory) : mWindow(window), mDirectory(directory) {
+    static const QRegularExpression numbered(QStringLiteral("^\\d\\d-.*\\.png$"));
+    for (const QString& name : mDirectory.entryList({QStringLiteral("*.png")}, QDir::Files)) {
+        if (numbered.match(name).hasMatch()) mDirectory.remove(name);
+    }
+}
+
+void Album::add(const QString& title) {
+    ++mCount;
+    static const QRegularExpression gaps(QStringLiteral("[^a-z0-9]+"));
+    const QString name = QStringLiteral("%1-%2.png")
+                             .arg(mCount, 2, 10, QLatin1Char('0'))
+                             .arg(title.toLower().replace(gaps, QStringLiteral("-")));
+    require(picture().save(mDirectory.filePath(name)),
+            QStringLiteral("The picture %1 cannot be written.").arg(mDirectory.filePath(name)));
+}
+
+QImage Album::picture() const {
+    QPixmap picture = mWindow.grab();
+    QPainter painter(&picture);
+    painter.setFont(mWindow.font());
+    for (QWidget* other : QApplication::topLevelWidgets()) {
+        if (other == &mWindow || !other->isVisible() || other->windowType() == Qt::ToolTip) continue;
+        if (other->isModal()) painter.fillRect(picture.rect(), QColor(0, 0, 0, 70));
+        paintAbove(painter, *other, other->pos() - mWindow.pos());
+    }
+    painter.end();
+    return picture.toImage();
+}
+
+} // namespace Clinic

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDir>
+#include <QString>
+#include <QWidget>
+
+namespace Clinic {
+
+/// The pictures of a tour: of the window with the boxes and lists that are open above it.
+class Album {
+  public:
+    /// Removes the pictures of an earlier tour from the directory.
+    Album(QWidget& window, const QString& directory);
+
+    /// "Choose a patient" becomes "01-choose-a-patient.png". Fails when it cannot be written.
+    void add(const QString& title);
+
+    int count() const { return mCount; }
+
+  private:
+    QImage picture() const;
+
+    QWidget& mWindow;
+    QDir mDirectory;
+    int mCount = 0;
+};
+
+} // namespace Clinic

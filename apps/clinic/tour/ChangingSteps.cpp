@@ -1,0 +1,123 @@
+#include "clinic/tour/Steps.h"
+
+#include <korvane/controls/container/Text.h>
+
+#include <QTableView>
+
+namespace Clinic {
+
+namespace {
+
+const FieldName heartRate{"Vital Signs", "HeartRate"};
+
+QString cancelChanges() {
+    return QStringLiteral("Are you sure you want to cancel the changes made to this Nip?");
+}
+
+void openTheChosenEncounter(Journey& j) {
+    j.part("encounters").setFocus();
+    j.hand.press(Qt::Key_Return);
+    j.requireNipOpen(true);
+}
+
+void openAgain(Journey& j) {
+    openTheChosenEncounter(j);
+    j.requireShown();
+    j.form.control(heartRate);
+    j.album.add(QStringLiteral("Open again"));
+}
+
+void changeAndRename(Journey& j) {
+    j.form.write(j.form.control(heartRate), QStringLiteral("68"));
+    for (auto& entry : j.entries) {
+        if (entry.name.field == heartRate.field) entry.value = QStringLiteral("68");
+    }
+    j.description = QStringLiteral("Follow-up, dose halved");
+    j.form.write(j.part("txtEncounterInfo"), j.description);
+    j.album.add(QStringLiteral("Change and rename"));
+    j.hand.click(j.part("cmdNipButton(0)"));
+    j.requireNipOpen(false);
+    require(j.chosenCell("encounters", 1) == j.description,
+            QStringLiteral("The list does not show the new name."));
+    j.requireStored();
+    j.album.add(QStringLiteral("The new name in the list"));
+}
+
+void cancelWithoutChanges(Journey& j) {
+    openTheChosenEncounter(j);
+    j.hand.click(j.part("cmdNipButton(1)"));
+    j.requireNipOpen(false);
+    j.requireStored();
+}
+
+void cancelWithChanges(Journey& j) {
+    openTheChosenEncounter(j);
+    j.form.write(j.form.control(heartRate), QStringLiteral("200"));
+    j.answer([&] { j.hand.click(j.part("cmdNipButton(1)")); }, cancelChanges(), QStringLiteral("No"),
+             QStringLiteral("Cancel asks about changes"));
+    j.requireNipOpen(true);
+    require(j.form.shown(heartRate) == QStringLiteral("200"), QStringLiteral("The entry is lost."));
+}
+
+void anotherPatientAsksFirst(Journey& j) {
+    j.answer([&] { j.choosePatient(QStringLiteral("brien")); }, cancelChanges(), QStringLiteral("No"),
+             QStringLiteral("Another patient asks about changes"));
+    j.requireNipOpen(true);
+    j.hand.press(Qt::Key_F, Qt::ControlModifier);
+    j.hand.press(Qt::Key_Escape);
+    j.requirePatient(QStringLiteral("García Márquez, Luisa"), QStringLiteral("P-0007"));
+}
+
+void giveUpTheChanges(Journey& j) {
+    j.answer([&] { j.hand.press(Qt::Key_W, Qt::ControlModifier); }, cancelChanges(), QStringLiteral("Yes"));
+    j.requireNipOpen(false);
+    j.requireStored();
+}
+
+void giveUpANewNip(Journey& j) {
+    const qint32 stored = j.ledger.encounterCount();
+    j.hand.press(Qt::Key_N, Qt::ControlModifier);
+    j.form.write(j.form.control(heartRate), QStringLiteral("90"));
+    j.answer(
+        [&] { j.hand.press(Qt::Key_N, Qt::ControlModifier); },
+        QStringLiteral("Are you sure you want to create a new nip and discard the one you were creating?"),
+        QStringLiteral("No"));
+    j.answer([&] { j.hand.click(j.part("cmdNipButton(1)")); },
+             QStringLiteral("Are you sure you want to cancel the creation of this Nip?"),
+             QStringLiteral("Yes"), QStringLiteral("Cancel asks about a new Nip"));
+    j.requireNipOpen(false);
+    require(j.ledger.encounterCount() == stored, QStringLiteral("A cancelled Nip is stored."));
+}
+
+void seeAnotherPatient(Journey& j) {
+    j.choosePatient(QStringLiteral("brien"));
+    j.requirePatient(QStringLiteral("O'Brien, Séamus"), QStringLiteral("P-0002"));
+    j.hand.press(Qt::Key_Return);
+    j.hand.press(Qt::Key_Return);
+    j.requireNipOpen(true);
+    j.album.add(QStringLiteral("See another patient"));
+}
+
+void readInLargeText(Journey& j) {
+    for (int i = 0; i < 3; ++i)
+        j.hand.press(Qt::Key_Plus, Qt::ControlModifier);
+    j.album.add(QStringLiteral("Read in large text"));
+    j.hand.press(Qt::Key_0, Qt::ControlModifier);
+}
+
+} // namespace
+
+const std::vector<Step>& changingSteps() {
+    static const std::vector<Step> steps{{"open again", openAgain},
+                                         {"change and rename", changeAndRename},
+                                         {"cancel without changes", cancelWithoutChanges},
+                                         {"cancel with changes", cancelWithChanges},
+                                         {"another patient asks first", anotherPatientAsksFirst},
+                                         {"give up the changes", giveUpTheChanges},
+                                         {"give up a new Nip", giveUpANewNip},
+                                         {"see another patient", seeAnotherPatient},
+                                         {"read in large text", readInLargeText}};
+    return steps;
+}
+
+} // namespace Clinic

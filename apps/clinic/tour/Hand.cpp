@@ -1,0 +1,102 @@
+#include "clinic/tour/Hand.h"
+
+#include "clinic/tour/Failure.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QMessageBox>
+#include <QScopeGuard>
+#include <QTest>
+#include <QWindow>
+
+namespace Clinic {
+
+namespace {
+
+QWindow* windowOf(const QWidget& widget) {
+    return widget.window()->windowHandle();
+}
+
+/// Where key presses go: to the list that is popped up, else to the window that is active.
+QWindow* keyWindow() {
+    if (const QWidget* popup = QApplication::activePopupWidget()) return windowOf(*popup);
+    const QWidget* active = QApplication::activeWindow();
+    require(active, QStringLiteral("No window is active."));
+    return windowOf(*active);
+}
+
+} // namespace
+
+Hand::Hand() {
+    QObject::connect(&mWatch, &QTimer::timeout, [this] { lookForBox(); });
+    mWatch.start(20);
+}
+
+void Hand::settle() {
+    QTest::qWait(30);
+    if (const auto trouble = std::exchange(mTrouble, nullptr)) std::rethrow_exception(trouble);
+}
+
+void Hand::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(keyWindow(), key, modifiers);
+    settle();
+}
+
+void Hand::type(const QString& text) {
+    for (const QChar c : text)
+        QTest::keyClick(keyWindow(), c.toLatin1());
+    settle();
+}
+
+void Hand::click(QWidget& widget) {
+    click(widget, widget.rect().center());
+}
+
+void Hand::click(QWidget& widget, QPoint where) {
+    QTest::mouseClick(windowOf(widget), Qt::LeftButton, {}, widget.mapTo(widget.window(), where));
+    settle();
+}
+
+void Hand::doubleClick(QWidget& widget, QPoint where) {
+    const QPoint inWindow = widget.mapTo(widget.window(), where);
+    QTest::mouseClick(windowOf(widget), Qt::LeftButton, {}, inWindow);
+    QTest::mouseDClick(windowOf(widget), Qt::LeftButton, {}, inWindow);
+    settle();
+}
+
+void Hand::answering(const std::function<void()>& deed, const std::function<void(QWidget&)>& handle) {
+    QWidget* const window = QApplication::activeWindow();
+    require(window, QStringLiteral("No window is active."));
+    mHandle = handle;
+    deed();
+    constexpr int patience = 3000;
+    const bool came = QTest::qWaitFor([this] { return !mHandle; }, patience);
+    mHandle = nullptr;
+    require(came, QStringLiteral("A box should have come up."));
+    settle();
+    // What a window manager does; there may be none.
+    window->activateWindow();
+    require(QTest::qWaitForWindowActive(window), QStringLiteral("The window did not become active again."));
+}
+
+// Runs inside the box's own event loop, which no exception may leave: it is kept until the box is gone.
+void Hand::lookForBox() {
+    auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!box) return;
+    const auto* message = qobject_cast<QMessageBox*>(box);
+    const auto handle = std::exchange(mHandle, nullptr);
+    mWatch.stop();
+    const auto watchAgain = qScopeGuard([this] { mWatch.start(); });
+    try {
+        require(handle != nullptr, QStringLiteral("An unexpected box came up: ") +
+                                       (message ? message->text() : box->windowTitle()));
+        box->activateWindow();
+        require(QTest::qWaitForWindowActive(box), QStringLiteral("A box did not become active."));
+        handle(*box);
+    } catch (...) {
+        mTrouble = std::current_exception();
+        box->reject();
+    }
+}
+
+} // namespace Clinic

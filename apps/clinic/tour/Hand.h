@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <QTimer>
+#include <QWidget>
+
+#include <exception>
+#include <functional>
+
+namespace Clinic {
+
+/// The hand of a user: its keys and clicks take the way of real ones, through the window to whatever has the
+/// focus or lies under the pointer.
+///
+/// A message box that nobody waits for is closed and makes the next call fail with its text.
+class Hand {
+  public:
+    Hand();
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void type(const QString& text);
+    void click(QWidget& widget);
+    void click(QWidget& widget, QPoint where);
+    void doubleClick(QWidget& widget, QPoint where);
+
+    /// Does something that must bring up a box, and handles that box. Fails when none comes up.
+    void answering(const std::function<void()>& deed, const std::function<void(QWidget& box)>& handle);
+
+    /// Lets the application do what it has to do.
+    void settle();
+
+  private:
+    void lookForBox();
+
+    QTimer mWatch;
+    std::function<void(QWidget&)> mHandle;
+    std::exception_ptr mTrouble;
+};
+
+} // namespace Clinic

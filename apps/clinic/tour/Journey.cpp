@@ -1,0 +1,96 @@
+#include "clinic/tour/Journey.h"
+
+#include <korvane/controls/container/Text.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTableView>
+
+namespace Clinic {
+
+using Korvane::qt;
+
+namespace {
+
+QWidget& panelOf(QWidget& window) {
+    auto* panel = window.findChild<QWidget*>(QStringLiteral("nipPanel"));
+    require(panel, QStringLiteral("The window has no Nip panel."));
+    return *panel;
+}
+
+void requireSame(const QString& what, const QString& is, const QString& shouldBe) {
+    require(is == shouldBe, QStringLiteral("%1 is \"%2\" and should be \"%3\".").arg(what, is, shouldBe));
+}
+
+QAbstractButton& buttonOf(QWidget& box, const QString& text) {
+    for (auto* button : box.findChildren<QAbstractButton*>()) {
+        if (QString(button->text()).remove(u'&') == text) return *button;
+    }
+    throw Failure(QStringLiteral("The box has no button \"%1\".").arg(text));
+}
+
+} // namespace
+
+Journey::Journey(QWidget& clinicWindow, const QString& database, const QString& directory)
+    : window(clinicWindow), album(clinicWindow, directory), ledger(database),
+      form(panelOf(clinicWindow), hand, ledger) {}
+
+void Journey::answer(const std::function<void()>& deed, const QString& question, const QString& button,
+                     const QString& picture) {
+    hand.answering(deed, [&](QWidget& box) {
+        const auto* message = qobject_cast<QMessageBox*>(&box);
+        require(message, QStringLiteral("The box that came up is no question."));
+        requireSame(QStringLiteral("The question"), message->text(), question);
+        if (!picture.isEmpty()) album.add(picture);
+        hand.click(buttonOf(box, button));
+    });
+}
+
+bool Journey::isNipOpen() const {
+    return panelOf(window).isVisible();
+}
+
+void Journey::requireNipOpen(bool open) const {
+    require(isNipOpen() == open,
+            open ? QStringLiteral("No Nip is open.") : QStringLiteral("A Nip is still open."));
+}
+
+void Journey::requirePatient(const QString& name, const QString& id) {
+    const QString header = part<QLabel>("patientHeader").accessibleName();
+    require(header.contains(name) && header.contains(id),
+            QStringLiteral("The header names \"%1\" and not %2, %3.").arg(header, name, id));
+    requireSame(QStringLiteral("The patient of the list"), chosenCell("patients", 2), id);
+}
+
+void Journey::choosePatient(const QString& search) {
+    hand.press(Qt::Key_F, Qt::ControlModifier);
+    hand.type(search);
+    hand.press(Qt::Key_Down);
+}
+
+QString Journey::chosenCell(const char* list, int column) {
+    const auto& table = part<QTableView>(list);
+    const QModelIndex row = table.currentIndex();
+    require(row.isValid() && table.selectionModel()->isSelected(row),
+            QStringLiteral("Nothing is chosen in the list \"%1\".").arg(QLatin1String(list)));
+    return row.siblingAtColumn(column).data().toString();
+}
+
+void Journey::requireShown() {
+    requireSame(QStringLiteral("The description"), part<QLineEdit>("txtEncounterInfo").text(), description);
+    for (const Entry& entry : entries)
+        requireSame(qt(entry.name.field) + QStringLiteral(" in the panel"), form.shown(entry.name),
+                    entry.value);
+}
+
+void Journey::requireStored() {
+    const auto rows = ledger.rowsOf(encounter);
+    requireSame(QStringLiteral("The stored description"), qt(rows.front().at("Description")), description);
+    for (const Entry& entry : entries)
+        requireSame(qt(entry.name.field) + QStringLiteral(" in the database"),
+                    qt(ledger.groupRow(encounter, entry.name.group).at(entry.name.field)), entry.value);
+}
+
+} // namespace Clinic

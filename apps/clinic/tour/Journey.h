@@ -1,0 +1,66 @@
+#pragma once
+
+#include "clinic/tour/Album.h"
+#include "clinic/tour/Failure.h"
+#include "clinic/tour/Form.h"
+#include "clinic/tour/Hand.h"
+#include "clinic/tour/Ledger.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace Clinic {
+
+/// What a tour has at hand, and what it must find in the end.
+class Journey {
+  public:
+    Journey(QWidget& clinicWindow, const QString& database, const QString& directory);
+
+    /// A part of the window, by its object name. Fails when there is none in view.
+    template <typename Widget = QWidget>
+    Widget& part(const char* name) {
+        auto* widget = window.findChild<Widget*>(QLatin1String(name));
+        require(widget && widget->isVisible(),
+                QStringLiteral("There is no %1 in view.").arg(QLatin1String(name)));
+        return *widget;
+    }
+
+    /// Does something that brings up a question, which must read as given; takes a picture of it when a title
+    /// is given, and presses the button with that text.
+    void answer(const std::function<void()>& deed, const QString& question, const QString& button,
+                const QString& picture = {});
+
+    bool isNipOpen() const;
+    void requireNipOpen(bool open) const;
+
+    /// Fails unless the header above the panel names the patient.
+    void requirePatient(const QString& name, const QString& id);
+
+    /// Chooses a patient as a user does: by a search and the Down key.
+    void choosePatient(const QString& search);
+
+    /// The chosen row of a list: the text of one of its columns.
+    QString chosenCell(const char* list, int column);
+
+    /// Fails unless every control shows, and every row holds, what was entered.
+    void requireShown();
+    void requireStored();
+
+    QWidget& window;
+    Hand hand;
+    Album album;
+    Ledger ledger;
+    Form form;
+
+    struct Entry {
+        FieldName name;
+        QString value; ///< as the database holds it
+    };
+    std::vector<Entry> entries; ///< what was entered into the Nip
+    QString description;        ///< and into its encounter
+    qint32 encounter = -1;
+};
+
+} // namespace Clinic

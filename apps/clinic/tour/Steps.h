@@ -1,0 +1,21 @@
+#pragma once
+
+#include "clinic/tour/Journey.h"
+
+#include <vector>
+
+namespace Clinic {
+
+/// One step of the tour: what it is called where it fails, and what it does.
+struct Step {
+    const char* title;
+    void (*run)(Journey&);
+};
+
+/// Choosing a patient and entering a Nip with every kind of control, up to its rows in the database.
+const std::vector<Step>& enteringSteps();
+
+/// Opening that Nip again, changing, renaming and cancelling.
+const std::vector<Step>& changingSteps();
+
+} // namespace Clinic
