@@ -59,7 +59,11 @@ void setAccess(ado::Recordset& recordset, std::int32_t mode) {
 } // namespace
 
 SQLData::~SQLData() {
-    if (mRecordset && State() == kOpen) CloseRS();
+    try {
+        if (State() == kOpen) CloseRS();
+    } catch (...) {
+        // Nobody is left to be told.
+    }
 }
 
 bool SQLData::SQL(const std::shared_ptr<ado::Connection>& connection, std::string_view statement,

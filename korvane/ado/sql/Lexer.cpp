@@ -1,6 +1,7 @@
 #include <korvane/ado/sql/Lexer.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace Korvane::ado::sql {
 
@@ -38,30 +39,29 @@ TokenKind Lexer::other() {
     default:
         break;
     }
-    if (is(*mNext, DigitClass)) return number();
-    if (*mNext == '.' && mEnd - mNext > 1 && is(mNext[1], DigitClass)) return number();
+    if (Characters::is(*mNext, Characters::Digit)) return number();
+    if (*mNext == '.' && mEnd - mNext > 1 && Characters::is(mNext[1], Characters::Digit)) return number();
     return symbol();
 }
 
 // Stands at the mark, or at the letter before it.
 TokenKind Lexer::quoted(char mark, TokenKind kind) {
     if (*mNext != mark) ++mNext;
-    for (++mNext; mNext != mEnd; ++mNext) {
-        mNext = std::find(mNext, mEnd, mark);
-        if (mNext == mEnd) break;
-        if (mEnd - mNext > 1 && mNext[1] == mark) {
-            ++mNext;
-            continue;
-        }
-        ++mNext;
-        return kind;
+    while (++mNext != mEnd && find(mark)) {
+        if (++mNext == mEnd || *mNext != mark) return kind;
     }
+    mNext = mEnd;
     return TokenKind::Broken;
 }
 
+bool Lexer::find(char mark) {
+    const void* found = std::memchr(mNext, mark, static_cast<std::size_t>(mEnd - mNext));
+    mNext = found ? static_cast<const char*>(found) : mEnd;
+    return found != nullptr;
+}
+
 TokenKind Lexer::bracketed() {
-    mNext = std::find(mNext, mEnd, ']');
-    if (mNext == mEnd) return TokenKind::Broken;
+    if (!find(']')) return TokenKind::Broken;
     ++mNext;
     return TokenKind::Name;
 }
@@ -71,11 +71,12 @@ TokenKind Lexer::number() {
     const bool hex = mEnd - begin > 1 && begin[0] == '0' && (begin[1] | 0x20) == 'x';
     while (mNext != mEnd) {
         const bool exponentSign = (*mNext == '+' || *mNext == '-') && !hex && (mNext[-1] | 0x20) == 'e';
-        if (!is(*mNext, WordClass) && *mNext != '.' && !exponentSign) break;
+        if (!Characters::is(*mNext, Characters::InWord) && *mNext != '.' && !exponentSign) break;
         if (mNext == begin && exponentSign) break;
         ++mNext;
     }
-    const bool digitsAlone = std::all_of(begin, mNext, [](char c) { return is(c, DigitClass); });
+    const bool digitsAlone =
+        std::all_of(begin, mNext, [](char c) { return Characters::is(c, Characters::Digit); });
     return digitsAlone ? TokenKind::Integer : TokenKind::Number;
 }
 
@@ -90,22 +91,50 @@ TokenKind Lexer::date() {
 
 TokenKind Lexer::parameter() {
     const char* begin = mNext++;
-    while (mNext != mEnd && is(*mNext, WordClass))
+    while (mNext != mEnd && Characters::is(*mNext, Characters::InWord))
         ++mNext;
     return *begin == '?' || mNext - begin > 1 ? TokenKind::Parameter : TokenKind::Broken;
 }
 
 TokenKind Lexer::symbol() {
-    constexpr std::string_view single = "()+-*/%&|~<>=!.,;";
-    const std::string_view rest(mNext, static_cast<std::size_t>(mEnd - mNext));
-    for (const std::string_view wide : {"->>", "->", "<>", "<=", ">=", "<<", ">>", "!=", "==", "||"}) {
-        if (!rest.starts_with(wide)) continue;
-        mNext += wide.size();
+    const char first = *mNext++;
+    const char second = mNext != mEnd ? *mNext : '\0';
+    switch (first) {
+    case '(':
+    case ')':
+    case ',':
+    case ';':
+    case '.':
+    case '+':
+    case '*':
+    case '/':
+    case '%':
+    case '&':
+    case '~':
         return TokenKind::Symbol;
+    case '=':
+        mNext += second == '=' ? 1 : 0;
+        return TokenKind::Symbol;
+    case '<':
+        mNext += second == '=' || second == '>' || second == '<' ? 1 : 0;
+        return TokenKind::Symbol;
+    case '>':
+        mNext += second == '=' || second == '>' ? 1 : 0;
+        return TokenKind::Symbol;
+    case '|':
+        mNext += second == '|' ? 1 : 0;
+        return TokenKind::Symbol;
+    case '!':
+        mNext += second == '=' ? 1 : 0;
+        return second == '=' ? TokenKind::Symbol : TokenKind::Broken;
+    case '-':
+        if (second != '>') return TokenKind::Symbol;
+        ++mNext;
+        if (mNext != mEnd && *mNext == '>') ++mNext;
+        return TokenKind::Symbol;
+    default:
+        return TokenKind::Broken;
     }
-    const bool known = single.find(*mNext) != std::string_view::npos;
-    ++mNext;
-    return known ? TokenKind::Symbol : TokenKind::Broken;
 }
 
 std::vector<Token> tokens(std::string_view statement) {

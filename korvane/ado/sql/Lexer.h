@@ -46,6 +46,31 @@ struct Token {
     }
 };
 
+/// What a character may be part of, looked up in a table.
+class Characters {
+  public:
+    enum Class : std::uint8_t { Blank = 1, Letter = 2, InWord = 4, Digit = 8 };
+    static bool is(char c, Class wanted) { return (table[static_cast<unsigned char>(c)] & wanted) != 0; }
+
+  private:
+    static constexpr std::array<std::uint8_t, 256> classes() {
+        std::array<std::uint8_t, 256> all{};
+        for (const unsigned char blank : {' ', '\t', '\n', '\f', '\r'})
+            all[blank] = Blank;
+        for (std::size_t c = 'a'; c <= 'z'; ++c)
+            all[c] = all[c - 0x20] = Letter | InWord;
+        for (std::size_t c = 0x80; c < 256; ++c)
+            all[c] = Letter | InWord;
+        for (std::size_t c = '0'; c <= '9'; ++c)
+            all[c] = InWord | Digit;
+        all['_'] = Letter | InWord;
+        all['$'] = InWord;
+        return all;
+    }
+    static const std::array<std::uint8_t, 256> table;
+};
+inline constexpr std::array<std::uint8_t, 256> Characters::table = Characters::classes();
+
 /// Splits a statement into tokens; blanks and comments are passed over. Tokens are views into the statement.
 class Lexer {
   public:
@@ -58,8 +83,8 @@ class Lexer {
         const char* begin = mNext;
         if (mNext == mEnd) return {TokenKind::End, {mEnd, 0}};
         TokenKind kind = TokenKind::Symbol;
-        if (is(*mNext, LetterClass)) {
-            while (++mNext != mEnd && is(*mNext, WordClass)) {
+        if (Characters::is(*mNext, Characters::Letter)) {
+            while (++mNext != mEnd && Characters::is(*mNext, Characters::InWord)) {
             }
             kind = TokenKind::Word;
             if (mNext != mEnd && *mNext == '\'' && mNext - begin == 1 && (*begin | 0x20) == 'x') {
@@ -75,29 +100,9 @@ class Lexer {
     const char* position() const { return mNext; }
 
   private:
-    enum Class : std::uint8_t { BlankClass = 1, LetterClass = 2, WordClass = 4, DigitClass = 8 };
-    static constexpr std::array<std::uint8_t, 256> classes() {
-        std::array<std::uint8_t, 256> table{};
-        for (const unsigned char blank : {' ', '\t', '\n', '\f', '\r'})
-            table[blank] = BlankClass;
-        for (std::size_t c = 'a'; c <= 'z'; ++c)
-            table[c] = table[c - 0x20] = LetterClass | WordClass;
-        for (std::size_t c = 0x80; c < 256; ++c)
-            table[c] = LetterClass | WordClass;
-        for (std::size_t c = '0'; c <= '9'; ++c)
-            table[c] = WordClass | DigitClass;
-        table['_'] = LetterClass | WordClass;
-        table['$'] = WordClass;
-        return table;
-    }
-    static constexpr bool is(char c, Class wanted) {
-        constexpr auto table = classes();
-        return (table[static_cast<unsigned char>(c)] & wanted) != 0;
-    }
-
     void skipBlanks() {
         while (mNext != mEnd) {
-            if (is(*mNext, BlankClass)) {
+            if (Characters::is(*mNext, Characters::Blank)) {
                 ++mNext;
             } else if ((*mNext != '-' && *mNext != '/') || !skipComment()) {
                 return;
@@ -105,6 +110,7 @@ class Lexer {
         }
     }
 
+    bool find(char mark);
     bool skipComment();
     TokenKind other();
     TokenKind quoted(char mark, TokenKind kind);

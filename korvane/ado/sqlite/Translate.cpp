@@ -138,7 +138,8 @@ class Translator {
 
     static std::optional<Literal> readNumber(std::string_view digits, bool negative) {
         Literal literal;
-        const std::string text = (negative ? "-" : "") + std::string(digits);
+        std::string text(negative ? 1 : 0, '-');
+        text += digits;
         const char* end = text.data() + text.size();
         if (const auto [at, error] = std::from_chars(text.data(), end, literal.integer);
             error == std::errc() && at == end) {

@@ -27,6 +27,13 @@ std::string exactText(double number) {
     return {buffer.data(), error == std::errc() ? end : buffer.data()};
 }
 
+std::string quotedText(std::string_view text) {
+    std::string quoted(1, '\'');
+    quoted += text;
+    quoted += '\'';
+    return quoted;
+}
+
 int bindText(sqlite3_stmt* statement, int parameter, std::string_view text, TextLives lives) {
     const auto destructor = lives == TextLives::OnlyNow ? SQLITE_TRANSIENT : SQLITE_STATIC;
     const char* begin = text.data() ? text.data() : "";
@@ -139,8 +146,8 @@ std::string literalText(const sql::ColumnValue& value) {
                                  [](bool truth) { return std::string(truth ? "1" : "0"); },
                                  [](std::int64_t number) { return std::to_string(number); },
                                  [](double number) { return exactText(number); },
-                                 [](Date date) { return "'" + date.isoText() + "'"; },
-                                 [](std::string_view text) { return "'" + escapeQuotes(text) + "'"; }},
+                                 [](Date date) { return quotedText(date.isoText()); },
+                                 [](std::string_view text) { return quotedText(escapeQuotes(text)); }},
                       value);
 }
 
