@@ -1,0 +1,11 @@
+#pragma once
+
+namespace Korvane::Bench {
+
+/// Each registers its benchmarks for every size.
+void registerStructure();
+void registerLoad();
+void registerSave();
+void registerPanel();
+
+} // namespace Korvane::Bench

@@ -1,0 +1,50 @@
+#include "Memory.h"
+
+#include "ShownForms.h"
+#include "SyntheticClinic.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <malloc.h>
+
+#include <cstdio>
+#include <cstring>
+
+namespace Korvane::Bench {
+
+namespace {
+
+constexpr const char* option = "--measure-memory";
+
+std::size_t heapInUse() {
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+} // namespace
+
+double formMemory(const std::string& by, const Size& size) {
+    QProcess child;
+    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    child.start(QCoreApplication::applicationFilePath(),
+                {QString::fromLatin1(option), QString::fromStdString(by), QString::number(size.groups),
+                 QString::number(size.fields), QString::fromStdString(databaseOf(size))});
+    constexpr int patience = 120'000;
+    if (!child.waitForFinished(patience)) return 0;
+    return child.readAllStandardOutput().toDouble() / (1024 * 1024);
+}
+
+std::optional<int> measureMemoryIfAsked(int argc, char** argv) {
+    constexpr int argumentsNeeded = 6;
+    if (argc != argumentsNeeded || std::strcmp(argv[1], option) != 0) return std::nullopt;
+    const Size size{std::atoi(argv[3]), std::atoi(argv[4])};
+    const auto connection = ado::open(std::string("sqlite:") + argv[5]);
+    showForm("widgets", {1, 20}, connection); // fonts, styles and caches that any form shares
+    const std::size_t before = heapInUse();
+    const auto form = showForm(argv[2], size, connection);
+    std::printf("%zu\n", heapInUse() - before);
+    return 0;
+}
+
+} // namespace Korvane::Bench

@@ -1,0 +1,97 @@
+#include "RatioTable.h"
+
+#include "Goals.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace Korvane::Bench {
+
+namespace {
+
+std::string fullName(const std::string& work, const std::string& size, const std::string& by) {
+    return work + "/" + size + "/" + by;
+}
+
+// "12.3 ms", "850 us"; a memory's figure stands for MiB.
+std::string amount(const std::string& work, double value) {
+    char text[32];
+    if (work.ends_with("Memory"))
+        std::snprintf(text, sizeof text, "%.2f MiB", value);
+    else if (value >= 1e-3)
+        std::snprintf(text, sizeof text, "%.2f ms", value * 1e3);
+    else
+        std::snprintf(text, sizeof text, "%.0f us", value * 1e6);
+    return text;
+}
+
+} // namespace
+
+bool RatioTable::ReportContext(const Context&) {
+    return true;
+}
+
+void RatioTable::ReportRuns(const std::vector<Run>& runs) {
+    for (const Run& run : runs) {
+        if (run.run_type != Run::RT_Iteration) continue;
+        const std::string name = run.run_name.function_name;
+        if (run.error_occurred) {
+            std::fprintf(stderr, "%s: %s\n", name.c_str(), run.error_message.c_str());
+            continue;
+        }
+        const auto memory = run.counters.find("MiB");
+        mSeconds[name].push_back(memory != run.counters.end()
+                                     ? memory->second.value
+                                     : run.real_accumulated_time / static_cast<double>(run.iterations));
+        remember(name);
+    }
+}
+
+void RatioTable::remember(const std::string& name) {
+    const auto first = name.find('/');
+    const auto second = name.find('/', first + 1);
+    const std::string work = name.substr(0, first);
+    const std::string size = name.substr(first + 1, second - first - 1);
+    const std::string by = name.substr(second + 1);
+    auto known = std::find_if(mWorks.begin(), mWorks.end(),
+                              [&](const Work& each) { return each.name == work && each.size == size; });
+    if (known == mWorks.end()) known = mWorks.insert(mWorks.end(), {work, size, {}});
+    if (by != "korvane" && std::find(known->others.begin(), known->others.end(), by) == known->others.end())
+        known->others.push_back(by);
+}
+
+double RatioTable::median(const std::string& work, const std::string& size, const std::string& by) const {
+    const auto found = mSeconds.find(fullName(work, size, by));
+    if (found == mSeconds.end()) return 0;
+    std::vector<double> seconds = found->second;
+    const auto middle = seconds.begin() + static_cast<std::ptrdiff_t>(seconds.size() / 2);
+    std::nth_element(seconds.begin(), middle, seconds.end());
+    return *middle;
+}
+
+void RatioTable::printRow(const Work& work, const std::string& other) const {
+    const double ours = median(work.name, work.size, "korvane");
+    const double theirs = median(work.name, work.size, other);
+    if (ours <= 0 || theirs <= 0) return;
+    const double ratio = ours / theirs;
+    std::printf("%-14s %-7s %-10s %11s %11s %8.3f", work.name.c_str(), work.size.c_str(), other.c_str(),
+                amount(work.name, ours).c_str(), amount(work.name, theirs).c_str(), ratio);
+    if (const auto limit = goal(work.name, work.size, other))
+        std::printf("   %5.2f  %s", *limit, ratio <= *limit ? "reached" : "MISSED");
+    std::printf("\n");
+}
+
+void RatioTable::Finalize() {
+    std::sort(mWorks.begin(), mWorks.end(), [](const Work& a, const Work& b) {
+        return std::pair(a.name, a.size.size()) < std::pair(b.name, b.size.size());
+    });
+    std::printf("\n%-14s %-7s %-10s %11s %11s %8s   %5s\n", "work", "size", "beside", "korvane", "beside",
+                "ratio", "goal");
+    for (Work& work : mWorks) {
+        std::sort(work.others.begin(), work.others.end());
+        for (const std::string& other : work.others)
+            printRow(work, other);
+    }
+}
+
+} // namespace Korvane::Bench
