@@ -1,8 +1,5 @@
 #include <korvane/controls/nippanel/ComboEntry.h>
 
-#include <korvane/controls/container/Text.h>
-#include <korvane/controls/nippanel/ValueListModel.h>
-
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
@@ -22,7 +19,6 @@ class PageCombo : public QComboBox {
   public:
     explicit PageCombo(QWidget* parent) : QComboBox(parent) {
         setFocusPolicy(Qt::StrongFocus);
-        setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         setInsertPolicy(QComboBox::NoInsert);
     }
 
@@ -54,8 +50,6 @@ ComboEntry::ComboEntry(EntrySite entrySite, Accepts accepts)
     : EntryControl(std::move(entrySite)), mAccepts(accepts) {
     auto* combo = new PageCombo(site().parent);
     mCombo = combo;
-    mItems = new ValueListModel(mCombo);
-    mCombo->setModel(mItems);
     if (accepts == AnyText) combo->takeAnyText();
     identify(*mCombo);
     QObject::connect(mCombo, &QComboBox::currentTextChanged, mCombo, [this] { site().edited(); });
@@ -65,23 +59,31 @@ QWidget* ComboEntry::widget() const {
     return mCombo;
 }
 
+// The combo box keeps its own model: giving it another one, as much else that is said to it, makes the list
+// that drops down at once, which costs more than all the rest.
 void ComboEntry::fill() {
-    const auto& [nip, group, field] = std::tie(site().nip, site().group, site().field);
-    const std::string stored = nip.value(group, field).textOrEmpty();
-    mShown = qt(stored);
+    mShown = site().storedText();
+    const QStringList list = items();
     const QSignalBlocker quiet(mCombo);
-    mItems->show(nip.ValueList(group, field), nip.ValueListCount(group, field), mAccepts == ItemsOnly,
-                 stored);
-    mCombo->setCurrentIndex(mItems->find(stored));
+    mCombo->clear();
+    mCombo->addItems(list);
+    mCombo->setCurrentIndex(static_cast<int>(list.indexOf(mShown)));
     if (mAccepts == ItemsOnly) return;
     mCombo->setEditText(mShown);
     mCombo->lineEdit()->setCursorPosition(0);
 }
 
+QStringList ComboEntry::items() const {
+    QStringList list = site().allowedValues();
+    if (mAccepts == ItemsOnly && !list.contains(QString())) list.prepend(QString());
+    if (!mShown.isEmpty() && !list.contains(mShown)) list.append(mShown);
+    return list;
+}
+
 void ComboEntry::collect() {
     const QString text = mCombo->currentText();
     if (text == mShown) return;
-    site().nip.value(site().group, site().field, utf8(text));
+    site().store(text);
     mShown = text;
 }
 

@@ -2,11 +2,11 @@
 
 #include <korvane/controls/nippanel/EntryControl.h>
 
+#include <QStringList>
+
 class QComboBox;
 
 namespace Korvane {
-
-class ValueListModel;
 
 /// "COMBOBOX" and "COMBOBOX-RESTRICTED": a combo box with the field's values; a stored value that is no
 /// longer among them stands at the end. The former takes any text, as it is typed; the latter only its items,
@@ -22,8 +22,9 @@ class ComboEntry : public EntryControl {
     void collect() override;
 
   private:
+    QStringList items() const;
+
     QComboBox* mCombo;
-    ValueListModel* mItems;
     Accepts mAccepts;
     QString mShown;
 };

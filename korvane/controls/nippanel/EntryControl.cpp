@@ -12,6 +12,22 @@ QString EntrySite::caption() const {
     return qt(nip.Caption(group, field));
 }
 
+QString EntrySite::storedText() const {
+    return qt(nip.value(group, field).textOrEmpty());
+}
+
+void EntrySite::store(const QString& text) const {
+    nip.value(group, field, utf8(text));
+}
+
+QStringList EntrySite::allowedValues() const {
+    QStringList values;
+    const int count = nip.ValueListCount(group, field);
+    for (int i = 1; i <= count; ++i)
+        values << qt(nip.ValueList(group, field).array().at(i).textOrEmpty());
+    return values;
+}
+
 QString EntrySite::tag() const {
     return QString::number(group) + QLatin1String("::") + QString::number(field);
 }

@@ -5,10 +5,11 @@
 #include <QList>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <functional>
-#include <string_view>
+#include <utility>
 
 class QWidget;
 
@@ -28,6 +29,11 @@ struct EntrySite {
     std::function<void()> edited; ///< to be called whenever the user changed the content
 
     QString caption() const;
+    /// The field's value, and the way back.
+    QString storedText() const;
+    void store(const QString& text) const;
+    /// The field's `ValueList`, without its empty element 0.
+    QStringList allowedValues() const;
     /// "<group>::<field>", which a control carries as its property "Tag".
     QString tag() const;
     /// The name of an element of a control array: "txtNip(0)".

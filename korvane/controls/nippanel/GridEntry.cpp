@@ -40,18 +40,19 @@ int GridEntry::height(const Twips& twips, int tabHeight) const {
 }
 
 std::vector<ChoiceRow> GridEntry::rowsFor(const QStringList& chosen) const {
-    const auto& nip = site().nip;
-    const int count = nip.ValueListCount(site().group, site().field);
     std::vector<ChoiceRow> rows;
-    for (int i = 1; i <= count; ++i)
-        rows.push_back({false, qt(nip.ValueList(site().group, site().field).array().at(i).textOrEmpty()), i});
+    const auto append = [&rows](const QString& content, bool checked) {
+        rows.push_back({checked, content, static_cast<int>(rows.size()) + 1});
+    };
+    for (const QString& value : site().allowedValues())
+        append(value, false);
     for (const QString& entry : chosen) {
         const auto row = std::find_if(rows.begin(), rows.end(),
                                       [&](const ChoiceRow& r) { return !r.checked && r.content == entry; });
         if (row != rows.end())
             row->checked = true;
         else if (!entry.isEmpty())
-            rows.push_back({true, entry, static_cast<int>(rows.size()) + 1});
+            append(entry, true);
     }
     return rows;
 }

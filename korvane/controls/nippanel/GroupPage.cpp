@@ -75,8 +75,7 @@ void GroupPage::make(QWidget* before) {
     mContent = content;
     mScroll->setWidget(mContent);
     mContent->setAutoFillBackground(false);
-    measureCaptions(mCells, *mContent);
-    arrange();
+    measure();
     mContent->show();
     chain(before);
 }
@@ -145,14 +144,25 @@ void GroupPage::resizeEvent(QResizeEvent* event) {
 void GroupPage::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
-    if (!isMade()) return;
-    measureCaptions(mCells, *mContent);
+    if (isMade()) measure();
+}
+
+void GroupPage::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
     arrange();
+}
+
+void GroupPage::measure() {
+    measureCaptions(mCells, *mContent);
+    mArrangedFor = QSize();
+    if (isVisible()) arrange();
 }
 
 void GroupPage::arrange() {
     if (!isMade()) return;
     const QSize room = mScroll->viewport()->size();
+    if (room == mArrangedFor) return;
+    mArrangedFor = room;
     mContent->resize(room.width(), placeCells(mCells, *mContent, room));
 }
 

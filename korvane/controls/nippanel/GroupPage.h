@@ -51,12 +51,14 @@ class GroupPage : public QWidget {
   protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
     void makeScrollArea();
     void makeCells(QWidget* parent);
     PageCell makeCell(const PlannedField& planned, QWidget* parent);
     void chain(QWidget* before);
+    void measure();
     void arrange();
 
     cNIP* mNip = nullptr;
@@ -65,6 +67,7 @@ class GroupPage : public QWidget {
     QScrollArea* mScroll = nullptr;
     QWidget* mContent = nullptr;
     std::vector<PageCell> mCells;
+    QSize mArrangedFor;
 };
 
 } // namespace Korvane

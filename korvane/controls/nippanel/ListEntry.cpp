@@ -1,18 +1,16 @@
 #include <korvane/controls/nippanel/ListEntry.h>
 
-#include <korvane/controls/container/Text.h>
-
 namespace Korvane {
 
 void ListEntry::fill() {
-    rows().show(rowsFor({qt(site().nip.value(site().group, site().field).textOrEmpty())}));
+    rows().show(rowsFor({site().storedText()}));
     mShown = rows().checkedContents();
 }
 
 void ListEntry::collect() {
     const QStringList checked = rows().checkedContents();
     if (checked == mShown) return;
-    site().nip.value(site().group, site().field, utf8(checked.value(0)));
+    site().store(checked.value(0));
     mShown = checked;
 }
 

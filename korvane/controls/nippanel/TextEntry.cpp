@@ -1,7 +1,5 @@
 #include <korvane/controls/nippanel/TextEntry.h>
 
-#include <korvane/controls/container/Text.h>
-
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QValidator>
@@ -51,7 +49,7 @@ QWidget* TextEntry::widget() const {
 }
 
 void TextEntry::fill() {
-    mShown = qt(site().nip.value(site().group, site().field).textOrEmpty());
+    mShown = site().storedText();
     const QSignalBlocker quiet(mBox);
     limitLength(mShown);
     mBox->setText(mShown);
@@ -70,7 +68,7 @@ void TextEntry::limitLength(const QString& loaded) {
 void TextEntry::collect() {
     const QString text = mBox->text();
     if (text == mShown) return;
-    site().nip.value(site().group, site().field, utf8(text));
+    site().store(text);
     mShown = text;
 }
 
