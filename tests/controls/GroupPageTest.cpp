@@ -1,0 +1,136 @@
+#include "support/NipForm.h"
+
+#include <korvane/controls/container/Twips.h>
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace Korvane {
+
+using Testing::NipForm;
+
+namespace {
+
+QScrollArea* scrollArea(const NipForm& form) {
+    return form.control<QScrollArea>("scrollNip(0)");
+}
+
+/// What stands on the first page, with its place there.
+std::vector<std::pair<QWidget*, QRect>> placedOn(const NipForm& form) {
+    std::vector<std::pair<QWidget*, QRect>> placed;
+    for (QWidget* widget :
+         scrollArea(form)->widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        placed.emplace_back(widget, widget->geometry());
+    return placed;
+}
+
+QRect place(const NipForm& form, const char* name) {
+    return form.control<QWidget>(name)->geometry();
+}
+
+void manyFields(NipForm& form) {
+    form.group(2, "Group", "T");
+    const char* captions[] = {
+        "Pulse", "R&D <b>code</b>",
+        "Moving or speaking so slowly that other people could have noticed. Or the opposite",
+        "Pneumonoultramicroscopicsilicovolcanoconiosis"};
+    int number = 0;
+    for (const char* type : {"TEXT", "COMBOBOX", "LIST", "LIST-EDITCONTENT"})
+        for (const char* caption : captions) {
+            const std::string name = "F" + std::to_string(++number);
+            form.field(2, "T", name, {.displayType = type});
+            form.field(2, "T", name + "_COMMENTS");
+            form.db->quietly("Update DBFields Set FieldCaption='" + std::string(caption) +
+                             "' Where FieldName='" + name + "'");
+        }
+}
+
+} // namespace
+
+TEST(GroupPage, ClipsAndOverlapsNothingAtAnyWidthAndFontSize) {
+    const QFont usual = QApplication::font();
+    for (const double scale : {1.0, 2.0})
+        for (const int width : {320, 700, 1400}) {
+            QFont font = usual;
+            font.setPointSizeF(usual.pointSizeF() * scale);
+            QApplication::setFont(font);
+            NipForm form;
+            manyFields(form);
+            form.open({width, 600});
+            const auto placed = placedOn(form);
+            ASSERT_EQ(placed.size(), 16U * 4 + 8);
+            const QRect page(QPoint(0, 0), QSize(scrollArea(form)->viewport()->width(),
+                                                 scrollArea(form)->widget()->height()));
+            for (std::size_t i = 0; i < placed.size(); ++i) {
+                const auto& [widget, area] = placed[i];
+                EXPECT_TRUE(page.contains(area))
+                    << utf8(widget->objectName()) << " " << width << " x" << scale;
+                if (const auto* label = qobject_cast<QLabel*>(widget))
+                    EXPECT_GE(area.height(), label->heightForWidth(area.width())) << utf8(label->text());
+                for (std::size_t j = 0; j < i; ++j)
+                    EXPECT_FALSE(placed[j].second.intersects(area))
+                        << utf8(widget->objectName() + " " + placed[j].first->objectName()) << " " << width;
+            }
+        }
+    QApplication::setFont(usual);
+}
+
+TEST(GroupPage, PutsACommentBesideItsFieldAndBelowItWhereThereIsNoRoom) {
+    NipForm form;
+    manyFields(form);
+    form.open({1300, 600});
+    EXPECT_EQ(place(form, "txtNip(1)").top(), place(form, "txtNip(0)").top());
+    EXPECT_GT(place(form, "txtNip(1)").left(), place(form, "txtNip(0)").right());
+    form.window.resize(600, 600);
+    EXPECT_GT(place(form, "txtNip(1)").top(), place(form, "txtNip(0)").bottom());
+    EXPECT_EQ(place(form, "txtNip(1)").left(), place(form, "txtNip(0)").left());
+    EXPECT_LT(place(form, "lblNip(0)").right(), place(form, "txtNip(0)").left());
+}
+
+TEST(GroupPage, HasTheHeightsOfTheControlsInTwips) {
+    const struct {
+        const char* group;
+        bool fillsTab;
+    } cases[] = {
+        {"Group", false}, {"Problem List", true}, {"Billing", true}, {"billing", false}, {"Billing ", false}};
+    for (const auto& c : cases) {
+        NipForm form;
+        form.group(2, c.group, "T");
+        form.field(2, "T", "F1", {.displayType = "LIST"});
+        form.field(2, "T", "F2", {.displayType = "LIST-EDITCONTENT"});
+        form.field(2, "T", "F3");
+        form.open({800, 900});
+        const Twips twips(*form.control<QWidget>("txtNip(0)"));
+        const int tab = scrollArea(form)->viewport()->height();
+        EXPECT_EQ(place(form, "txtNip(0)").height(), twips.px(285));
+        EXPECT_EQ(place(form, "cmdNip(0)").width(), twips.px(855));
+        const int height = place(form, "gridNip(0)").height();
+        if (c.fillsTab) {
+            EXPECT_GT(height, tab * 9 / 10) << c.group;
+            EXPECT_LE(place(form, "cmdNip(1)").bottom() - place(form, "gridNip(1)").top(), tab) << c.group;
+        } else {
+            EXPECT_EQ(height, twips.px(1140)) << c.group;
+            EXPECT_EQ(place(form, "gridNip(1)").height(), twips.px(1140)) << c.group;
+        }
+    }
+}
+
+TEST(GroupPage, ScrollsToTheControlThatGetsTheFocusAndStaysThereWhenItIsRebuilt) {
+    NipForm form;
+    manyFields(form);
+    form.open({900, 300});
+    QScrollBar* bar = scrollArea(form)->verticalScrollBar();
+    EXPECT_EQ(bar->value(), 0);
+    form.after.setFocus();
+    QTest::keyClick(&form.after, Qt::Key_Tab, Qt::ShiftModifier);
+    QWidget* focus = QApplication::focusWidget();
+    ASSERT_TRUE(scrollArea(form)->widget()->isAncestorOf(focus));
+    EXPECT_FALSE(focus->visibleRegion().isEmpty());
+    const int scrolled = bar->value();
+    EXPECT_GT(scrolled, 0);
+    form.tabs.CreateNipControls(form.nip);
+    EXPECT_EQ(bar->value(), scrolled);
+}
+
+} // namespace Korvane
