@@ -127,6 +127,7 @@ TEST(EditContentEntry, RemovesUntilNothingIsLeft) {
     form.user->texts = {"z"};
     QTest::keyClick(form.control<QPushButton>("cmdNip(0)"), Qt::Key_Space);
     EXPECT_TRUE(remove->isEnabled());
+    form.control<QListView>("gridNip(0)")->setFocus();
     QTest::keyClick(form.control<QListView>("gridNip(0)"), Qt::Key_Delete);
     EXPECT_FALSE(remove->isEnabled());
 }

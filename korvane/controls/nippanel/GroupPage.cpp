@@ -1,6 +1,7 @@
 #include <korvane/controls/nippanel/GroupPage.h>
 
 #include <korvane/controls/container/Text.h>
+#include <korvane/controls/container/Twips.h>
 
 #include <QEvent>
 #include <QLabel>
@@ -130,6 +131,13 @@ int GroupPage::scrollPosition() const {
 
 void GroupPage::scrollTo(int position) {
     if (isMade()) mScroll->verticalScrollBar()->setValue(position);
+}
+
+void GroupPage::reveal(QWidget& widget) {
+    if (!isMade() || !mContent->isAncestorOf(&widget)) return;
+    constexpr int around = 450;
+    const int margin = Twips(*mContent).px(around);
+    mScroll->ensureWidgetVisible(&widget, 0, margin);
 }
 
 void GroupPage::focusFirst() {

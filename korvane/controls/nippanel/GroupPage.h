@@ -42,6 +42,8 @@ class GroupPage : public QWidget {
 
     int scrollPosition() const;
     void scrollTo(int position);
+    /// Scrolls to a widget that stands on this page; others are passed over.
+    void reveal(QWidget& widget);
     /// Gives the focus to the first entry.
     void focusFirst();
 

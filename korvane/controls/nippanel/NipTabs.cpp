@@ -3,10 +3,11 @@
 #include <korvane/controls/container/Busy.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/GroupPage.h>
+#include <korvane/controls/nippanel/Routine.h>
 #include <korvane/controls/nippanel/StructurePlan.h>
-#include <korvane/data/ErrLog.h>
 #include <korvane/runtime/Interaction.h>
 
+#include <QApplication>
 #include <QSignalBlocker>
 #include <QTabBar>
 
@@ -21,32 +22,28 @@ QString tabTitle(const std::string& group) {
     return qt(group).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-void logBuildError() {
-    const RuntimeError error = currentError();
-    ErrLog("Error in ucNipPanel.CreateNipControls: " + std::to_string(error.Number()) + ":" +
-           error.Description() + " on line 0");
-}
+constexpr auto routineName = "Error in ucNipPanel.CreateNipControls: ";
 
 } // namespace
 
 NipTabs::NipTabs(QWidget* parent) : QTabWidget(parent) {
     setObjectName(QStringLiteral("atNips"));
     setElideMode(Qt::ElideNone);
-    connect(this, &QTabWidget::currentChanged, this, &NipTabs::makeCurrent);
+    connect(this, &QTabWidget::currentChanged, this, &NipTabs::makePageInView);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { reveal(now); });
 }
 
 NipTabs::~NipTabs() {
     disconnect(this, &QTabWidget::currentChanged, this, nullptr);
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void NipTabs::CreateNipControls(cNIP& nip) {
     std::string problems;
-    try {
+    routine(routineName, [&] {
         const PaintLock noFlicker(*this);
         problems = rebuild(nip);
-    } catch (...) {
-        logBuildError();
-    }
+    });
     if (problems.empty()) return;
     Interaction::current().MsgBox("The following problems occurred when loading the NIP controls:\n\n" +
                                       problems,
@@ -54,9 +51,8 @@ void NipTabs::CreateNipControls(cNIP& nip) {
 }
 
 std::string NipTabs::rebuild(cNIP& nip) {
-    const QString shown = currentIndex() < 0 ? QString() : tabText(currentIndex());
-    const int scrolled =
-        currentIndex() < 0 ? 0 : mPages[static_cast<std::size_t>(currentIndex())]->scrollPosition();
+    const QString title = tabText(currentIndex());
+    const int scrolled = pageInView() ? pageInView()->scrollPosition() : 0;
     for (GroupPage* page : mPages)
         page->clear();
     StructurePlan plan = planStructure(nip);
@@ -68,18 +64,18 @@ std::string NipTabs::rebuild(cNIP& nip) {
             setTabText(static_cast<int>(i), tabTitle(nip.GroupName(group)));
             mPages[i]->plan(nip, group, std::move(plan.groups[i]));
         }
-        setCurrentIndex(indexOfTitle(shown, currentIndex()));
+        setCurrentIndex(indexOfTitle(title, currentIndex()));
     }
-    makeCurrent(currentIndex());
-    if (currentIndex() >= 0 && tabText(currentIndex()) == shown)
-        mPages[static_cast<std::size_t>(currentIndex())]->scrollTo(scrolled);
+    makePageInView();
+    if (pageInView() && tabText(currentIndex()) == title) pageInView()->scrollTo(scrolled);
     return plan.problems;
 }
 
 void NipTabs::resizeTo(int count) {
     while (static_cast<int>(mPages.size()) > count) {
-        delete mPages.back();
+        const GroupPage* last = mPages.back();
         mPages.pop_back();
+        delete last;
     }
     while (static_cast<int>(mPages.size()) < count) {
         auto* page = new GroupPage(this);
@@ -96,16 +92,22 @@ int NipTabs::indexOfTitle(const QString& title, int otherwise) const {
     return otherwise;
 }
 
-void NipTabs::makeCurrent(int index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= mPages.size()) return;
-    GroupPage& page = *mPages[static_cast<std::size_t>(index)];
-    try {
-        page.make(tabBar());
-    } catch (...) {
-        logBuildError();
-    }
+GroupPage* NipTabs::pageInView() const {
+    return qobject_cast<GroupPage*>(currentWidget());
+}
+
+void NipTabs::makePageInView() {
+    GroupPage* page = pageInView();
+    if (!page) return;
+    routine(routineName, [&] { page->make(tabBar()); });
     // Where the focus was on the tab left behind, it came along, to a page that was still empty.
-    if (page.hasFocus()) page.focusFirst();
+    if (page->hasFocus()) page->focusFirst();
+}
+
+// A control under the mouse must not move away between press and release.
+void NipTabs::reveal(QWidget* focus) {
+    if (!focus || !pageInView() || QGuiApplication::mouseButtons() != Qt::NoButton) return;
+    pageInView()->reveal(*focus);
 }
 
 void NipTabs::fill() {

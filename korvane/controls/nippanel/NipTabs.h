@@ -45,7 +45,9 @@ class NipTabs : public QTabWidget {
     std::string rebuild(cNIP& nip);
     void resizeTo(int count);
     int indexOfTitle(const QString& title, int otherwise) const;
-    void makeCurrent(int index);
+    GroupPage* pageInView() const;
+    void makePageInView();
+    void reveal(QWidget* focus);
 
     std::vector<GroupPage*> mPages;
 };
