@@ -56,12 +56,6 @@ bool Encounter::Save() {
     return true;
 }
 
-void Encounter::NotStored() {
-    mEncounterID = -1;
-    mStored = false;
-    mUnread = false;
-}
-
 /// What keeps it from being saved; empty when nothing does.
 std::string_view Encounter::invalidity() const {
     if (mMethodID < 0) return "Invalid EncounterMethodID, aborting!";

@@ -58,14 +58,10 @@ class Encounter {
     void Transport(std::int32_t value) { mTransport = value; }
     void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
 
-    /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
-    /// an update of a row that is gone, and before any `Save`. For use within the library.
+    /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed, an
+    /// update of a row that is gone, and before any `Save`. Who wants to try a failed insert again keeps a
+    /// copy from before, which still has no identifier. For use within the library.
     bool Stored() const { return mStored; }
-
-    /// Makes the object unsaved again (`EncounterID` -1, everything else stands): for a holder whose
-    /// transaction took the insert back, or whose insert failed, so that the next `Save` inserts. For use
-    /// within the library.
-    void NotStored();
 
     /// Deletes the row, or writes a line to the error log when there is none. Always false. Attachments stay.
     bool Delete();

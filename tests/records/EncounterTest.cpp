@@ -125,6 +125,7 @@ TEST_F(EncounterTest, NeverTakesAnIdentifierThatItCouldNotFind) {
 }
 
 TEST_F(EncounterTest, TellsApartWhatIsStoredAndWhatIsNot) {
+    const Encounter before = encounter;
     db->failOn = "Insert";
     EXPECT_TRUE(encounter.Save());
     EXPECT_FALSE(encounter.Stored());
@@ -132,7 +133,7 @@ TEST_F(EncounterTest, TellsApartWhatIsStoredAndWhatIsNot) {
     EXPECT_THAT(user->boxes, SizeIs(1));
 
     db->failOn.clear();
-    encounter.NotStored();
+    encounter = before;
     EXPECT_TRUE(encounter.Save());
     EXPECT_TRUE(encounter.Stored());
     EXPECT_EQ(rows("Select EncounterID, PatientID From Encounter"), "1|P-0042");
