@@ -140,7 +140,10 @@ class Search {
 
 std::optional<Meeting> meeting(const Statement& statement, std::size_t first, std::size_t last,
                                const Tables& tables) {
-    return Search(statement, first, last, tables).run();
+    auto met = Search(statement, first, last, tables).run();
+    // A column without a type takes every value as it is.
+    if (met && met->column->type == DataType::Empty) met.reset();
+    return met;
 }
 
 bool valueMayBegin(const Statement& statement, std::size_t token) {

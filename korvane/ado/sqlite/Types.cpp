@@ -50,6 +50,7 @@ DataType typeNamed(std::string_view name) {
 } // namespace
 
 DeclaredType declaredType(std::string_view declaration) {
+    if (trim(declaration).empty()) return {DataType::Empty, 0};
     const std::string upper = upperCase(declaration);
     const auto open = upper.find('(');
     const auto name = trim(std::string_view(upper).substr(0, open));

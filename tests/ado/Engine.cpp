@@ -1,0 +1,76 @@
+#include "ado/Engine.h"
+
+#include "support/ScratchDir.h"
+
+#include <korvane/runtime/RuntimeError.h>
+
+namespace Korvane::ado::Testing {
+
+namespace {
+
+class SqliteEngine : public Engine {
+  public:
+    std::shared_ptr<Connection> connect() override { return open("sqlite:" + mDir.file("test.db")); }
+
+    std::string declaration(DataType type, int size) const override {
+        switch (type) {
+        case DataType::SmallInt: return "SmallInt";
+        case DataType::Integer: return "Integer";
+        case DataType::Double: return "Double";
+        case DataType::Currency: return "Currency";
+        case DataType::Date: return "DateTime";
+        case DataType::Boolean: return "Boolean";
+        case DataType::VarWChar: return "VarChar(" + std::to_string(size) + ")";
+        default: return "Text";
+        }
+    }
+
+  private:
+    Korvane::Testing::ScratchDir mDir;
+};
+
+} // namespace
+
+std::vector<EngineChoice> engines() {
+    return {{"SQLite", [] { return std::make_unique<SqliteEngine>(); }}};
+}
+
+std::string engineName(const testing::TestParamInfo<EngineChoice>& choice) { return choice.param.name; }
+
+void OnEveryEngine::SetUp() {
+    mEngine = GetParam().make();
+    if (!mEngine) GTEST_SKIP() << "no server for " << GetParam().name;
+    mDb = mEngine->connect();
+    const auto type = [&](DataType t, int size = 0) { return " " + mEngine->declaration(t, size); };
+    mDb->Execute("Create Table Visit (ID" + type(DataType::Integer) + " Primary Key, Name" +
+                 type(DataType::VarWChar, 50) + ", Note" + type(DataType::LongVarWChar) + ", [Day]" +
+                 type(DataType::Date) + ", Done" + type(DataType::Boolean) + ", Size" + type(DataType::SmallInt) +
+                 ", Amount" + type(DataType::Double) + ", Price" + type(DataType::Currency) + ")");
+}
+
+std::shared_ptr<Recordset> OnEveryEngine::query(std::string_view statement, CursorType cursorType,
+                                                LockType lockType) {
+    auto rs = Recordset::create();
+    rs->CursorType(cursorType);
+    rs->LockType(lockType);
+    rs->Open(statement, mDb);
+    return rs;
+}
+
+std::string OnEveryEngine::one(std::string_view statement) {
+    const auto rs = query(statement);
+    if (rs->Eof()) return "(none)";
+    const Variant value = rs->Value(0);
+    return value.isNull() ? "(null)" : value.text();
+}
+
+int errorOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+} // namespace Korvane::ado::Testing

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <korvane/ado/Recordset.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvane::ado::Testing {
+
+/// What the conformance suite has to know of a database engine; every difference between two of them is a member here.
+class Engine {
+  public:
+    virtual ~Engine() = default;
+
+    /// A connection to the engine's test database, which is empty at first. Every call opens another one.
+    virtual std::shared_ptr<Connection> connect() = 0;
+
+    /// How a column of that type is declared.
+    virtual std::string declaration(DataType type, int size = 0) const = 0;
+};
+
+struct EngineChoice {
+    std::string name;
+    /// Makes the engine with a new, empty database. Null, with the reason printed, when its server is not there.
+    std::function<std::unique_ptr<Engine>()> make;
+
+    friend void PrintTo(const EngineChoice& choice, std::ostream* out) { *out << choice.name; }
+};
+
+/// All engines of this build. A new one joins the suite here.
+std::vector<EngineChoice> engines();
+/// For INSTANTIATE_TEST_SUITE_P.
+std::string engineName(const testing::TestParamInfo<EngineChoice>& choice);
+
+/// A test that runs on every engine, with the table `Visit` in place:
+/// ID integer key, Name text(50), Note memo, Day date, Done boolean, Size smallint, Amount double, Price currency.
+class OnEveryEngine : public testing::TestWithParam<EngineChoice> {
+  protected:
+    void SetUp() override;
+
+    std::shared_ptr<Recordset> query(std::string_view statement, CursorType cursorType = CursorType::ForwardOnly,
+                                     LockType lockType = LockType::ReadOnly);
+    /// The first value of the first row, as text; "(null)" for null and "(none)" when there is no row.
+    std::string one(std::string_view statement);
+
+    std::unique_ptr<Engine> mEngine;
+    std::shared_ptr<Connection> mDb;
+};
+
+/// The number of the RuntimeError that an action raises; 0 when it raises none.
+int errorOf(const std::function<void()>& action);
+
+} // namespace Korvane::ado::Testing
