@@ -11,7 +11,9 @@ namespace Korvane::ado::Testing {
 
 class Connections : public OnEveryEngine {
   protected:
-    void insert(int id) { mDb->Execute("Insert into Visit (ID,Name) values (" + std::to_string(id) + ",'v')"); }
+    void insert(int id) {
+        mDb->Execute("Insert into Visit (ID,Name) values (" + std::to_string(id) + ",'v')");
+    }
     std::string count() { return one("Select Count(*) From Visit"); }
 };
 
@@ -27,9 +29,11 @@ TEST_P(Connections, SayHowManyRowsAStatementTouched) {
 TEST_P(Connections, RaiseWhatTheEngineSays) {
     insert(1);
     EXPECT_EQ(errorOf([&] { insert(1); }), RuntimeError::DuplicateKey);
-    EXPECT_EQ(errorOf([&] { mDb->Execute("Update Visit Set [Name]= Where ID=1"); }), RuntimeError::DatabaseFailure);
+    EXPECT_EQ(errorOf([&] { mDb->Execute("Update Visit Set [Name]= Where ID=1"); }),
+              RuntimeError::DatabaseFailure);
     EXPECT_EQ(errorOf([&] { mDb->Execute(""); }), RuntimeError::InvalidArgument);
-    EXPECT_EQ(errorOf([&] { mDb->Execute("Delete From Visit; Delete From Visit"); }), RuntimeError::InvalidArgument);
+    EXPECT_EQ(errorOf([&] { mDb->Execute("Delete From Visit; Delete From Visit"); }),
+              RuntimeError::InvalidArgument);
     EXPECT_EQ(errorOf([&] { mDb->Execute("Delete From Visit Where ID=?"); }), RuntimeError::InvalidArgument);
     try {
         mDb->Execute("Select Nothing From Visit");
@@ -100,12 +104,15 @@ TEST_P(Connections, CloseTheirRecordsetsWithThem) {
     EXPECT_EQ(mDb->State(), 0);
     EXPECT_EQ(live->State(), 0);
     EXPECT_EQ(counted->State(), 0);
-    const std::array<std::function<void()>, 9> uses{
-        [&] { mDb->Close(); },           [&] { mDb->Execute("Select 1"); },
-        [&] { mDb->BeginTrans(TransactionFor::Writing); }, [&] { mDb->CommitTrans(); },
-        [&] { live->MoveNext(); },       [&] { static_cast<void>(live->Eof()); },
-        [&] { field.Value(); },          [&] { counted->Value(0); },
-        [&] { Recordset::create()->Open("Select 1", mDb); }};
+    const std::array<std::function<void()>, 9> uses{[&] { mDb->Close(); },
+                                                    [&] { mDb->Execute("Select 1"); },
+                                                    [&] { mDb->BeginTrans(TransactionFor::Writing); },
+                                                    [&] { mDb->CommitTrans(); },
+                                                    [&] { live->MoveNext(); },
+                                                    [&] { static_cast<void>(live->Eof()); },
+                                                    [&] { field.Value(); },
+                                                    [&] { counted->Value(0); },
+                                                    [&] { Recordset::create()->Open("Select 1", mDb); }};
     for (std::size_t i = 0; i < uses.size(); ++i)
         EXPECT_EQ(errorOf(uses[i]), RuntimeError::ObjectClosed) << i;
 }
@@ -126,8 +133,10 @@ TEST_P(Connections, GiveEverySecondUserOfAStatementItsOwn) {
     for (int id = 1; id <= 3; ++id)
         insert(id);
     std::string pairs;
-    for (const auto outer = query("Select ID From Visit Where ID>0 Order By ID"); !outer->Eof(); outer->MoveNext()) {
-        for (const auto inner = query("Select ID From Visit Where ID>1 Order By ID"); !inner->Eof(); inner->MoveNext())
+    for (const auto outer = query("Select ID From Visit Where ID>0 Order By ID"); !outer->Eof();
+         outer->MoveNext()) {
+        for (const auto inner = query("Select ID From Visit Where ID>1 Order By ID"); !inner->Eof();
+             inner->MoveNext())
             pairs += outer->Value(0).text() + inner->Value(0).text() + " ";
     }
     EXPECT_EQ(pairs, "12 13 22 23 32 33 ");
@@ -155,7 +164,8 @@ TEST_P(Connections, SeeASchemaThatAnotherConnectionChanged) {
     EXPECT_EQ(query("Select * From Changing")->FieldCount(), 2);
     EXPECT_EQ(query("Select V From Changing")->FieldType("V"), DataType::VarWChar);
     other->Execute("Drop Table Changing");
-    other->Execute("Create Table Changing (K Integer, V " + mEngine->declaration(DataType::Date) + ", W Integer)");
+    other->Execute("Create Table Changing (K Integer, V " + mEngine->declaration(DataType::Date) +
+                   ", W Integer)");
     store("5/6/2026 1:00:00 PM");
     EXPECT_EQ(query("Select * From Changing")->FieldCount(), 3);
     const auto rs = query("Select V From Changing");
@@ -177,12 +187,13 @@ TEST_P(Connections, RollASchemaChangeBack) {
 }
 
 TEST(Addresses, OfNoKnownDatabaseSayWhichThereAre) {
-    const std::pair<const char*, const char*> cases[] = {{"clinic.db", "sqlite:"},
-                                                         {"mysql://host/db", "sqlite:"},
-                                                         {"postgresql://user@host/db", "no PostgreSQL provider"},
-                                                         {"sqlite:", "no database file"},
-                                                         {"sqlite:a.db?mode=fast", "mode=fast"},
-                                                         {"", "sqlite:"}};
+    const std::pair<const char*, const char*> cases[] = {
+        {"clinic.db", "sqlite:"},
+        {"mysql://host/db", "sqlite:"},
+        {"postgresql://user@host/db", "no PostgreSQL provider"},
+        {"sqlite:", "no database file"},
+        {"sqlite:a.db?mode=fast", "mode=fast"},
+        {"", "sqlite:"}};
     for (const auto& [address, text] : cases) {
         try {
             open(address);

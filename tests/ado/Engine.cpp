@@ -14,14 +14,22 @@ class SqliteEngine : public Engine {
 
     std::string declaration(DataType type, int size) const override {
         switch (type) {
-        case DataType::SmallInt: return "SmallInt";
-        case DataType::Integer: return "Integer";
-        case DataType::Double: return "Double";
-        case DataType::Currency: return "Currency";
-        case DataType::Date: return "DateTime";
-        case DataType::Boolean: return "Boolean";
-        case DataType::VarWChar: return "VarChar(" + std::to_string(size) + ")";
-        default: return "Text";
+        case DataType::SmallInt:
+            return "SmallInt";
+        case DataType::Integer:
+            return "Integer";
+        case DataType::Double:
+            return "Double";
+        case DataType::Currency:
+            return "Currency";
+        case DataType::Date:
+            return "DateTime";
+        case DataType::Boolean:
+            return "Boolean";
+        case DataType::VarWChar:
+            return "VarChar(" + std::to_string(size) + ")";
+        default:
+            return "Text";
         }
     }
 
@@ -35,7 +43,9 @@ std::vector<EngineChoice> engines() {
     return {{"SQLite", [] { return std::make_unique<SqliteEngine>(); }}};
 }
 
-std::string engineName(const testing::TestParamInfo<EngineChoice>& choice) { return choice.param.name; }
+std::string engineName(const testing::TestParamInfo<EngineChoice>& choice) {
+    return choice.param.name;
+}
 
 void OnEveryEngine::SetUp() {
     mEngine = GetParam().make();
@@ -44,8 +54,9 @@ void OnEveryEngine::SetUp() {
     const auto type = [&](DataType t, int size = 0) { return " " + mEngine->declaration(t, size); };
     mDb->Execute("Create Table Visit (ID" + type(DataType::Integer) + " Primary Key, Name" +
                  type(DataType::VarWChar, 50) + ", Note" + type(DataType::LongVarWChar) + ", [Day]" +
-                 type(DataType::Date) + ", Done" + type(DataType::Boolean) + ", Size" + type(DataType::SmallInt) +
-                 ", Amount" + type(DataType::Double) + ", Price" + type(DataType::Currency) + ")");
+                 type(DataType::Date) + ", Done" + type(DataType::Boolean) + ", Size" +
+                 type(DataType::SmallInt) + ", Amount" + type(DataType::Double) + ", Price" +
+                 type(DataType::Currency) + ")");
 }
 
 std::shared_ptr<Recordset> OnEveryEngine::query(std::string_view statement, CursorType cursorType,

@@ -13,7 +13,8 @@
 
 namespace Korvane::ado::Testing {
 
-/// What the conformance suite has to know of a database engine; every difference between two of them is a member here.
+/// What the conformance suite has to know of a database engine; every difference between two of them is a
+/// member here.
 class Engine {
   public:
     virtual ~Engine() = default;
@@ -27,7 +28,8 @@ class Engine {
 
 struct EngineChoice {
     std::string name;
-    /// Makes the engine with a new, empty database. Null, with the reason printed, when its server is not there.
+    /// Makes the engine with a new, empty database. Null, with the reason printed, when its server is not
+    /// there.
     std::function<std::unique_ptr<Engine>()> make;
 
     friend void PrintTo(const EngineChoice& choice, std::ostream* out) { *out << choice.name; }
@@ -39,12 +41,14 @@ std::vector<EngineChoice> engines();
 std::string engineName(const testing::TestParamInfo<EngineChoice>& choice);
 
 /// A test that runs on every engine, with the table `Visit` in place:
-/// ID integer key, Name text(50), Note memo, Day date, Done boolean, Size smallint, Amount double, Price currency.
+/// ID integer key, Name text(50), Note memo, Day date, Done boolean, Size smallint, Amount double, Price
+/// currency.
 class OnEveryEngine : public testing::TestWithParam<EngineChoice> {
   protected:
     void SetUp() override;
 
-    std::shared_ptr<Recordset> query(std::string_view statement, CursorType cursorType = CursorType::ForwardOnly,
+    std::shared_ptr<Recordset> query(std::string_view statement,
+                                     CursorType cursorType = CursorType::ForwardOnly,
                                      LockType lockType = LockType::ReadOnly);
     /// The first value of the first row, as text; "(null)" for null and "(none)" when there is no row.
     std::string one(std::string_view statement);

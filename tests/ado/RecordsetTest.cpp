@@ -63,10 +63,9 @@ TEST_P(Recordsets, ThatAreClosedRefuseWhatNeedsRows) {
     EXPECT_EQ(rs->State(), 0);
     EXPECT_EQ(rs->CursorType(), CursorType::ForwardOnly);
     EXPECT_EQ(rs->LockType(), LockType::ReadOnly);
-    const std::array<std::function<void()>, 7> uses{[&] { rs->Close(); },       [&] { rs->MoveNext(); },
-                                                    [&] { rs->RecordCount(); }, [&] { rs->Fields(0); },
-                                                    [&] { rs->Update(); },      [&] { rs->Value("a"); },
-                                                    [&] { rs->Supports(8192); }};
+    const std::array<std::function<void()>, 7> uses{
+        [&] { rs->Close(); },  [&] { rs->MoveNext(); }, [&] { rs->RecordCount(); }, [&] { rs->Fields(0); },
+        [&] { rs->Update(); }, [&] { rs->Value("a"); }, [&] { rs->Supports(8192); }};
     for (std::size_t i = 0; i < uses.size(); ++i)
         EXPECT_EQ(errorOf(uses[i]), RuntimeError::ObjectClosed) << i;
     EXPECT_EQ(errorOf([&] { rs->Open("Select 1", nullptr); }), RuntimeError::InvalidConnection);
@@ -76,10 +75,12 @@ TEST_P(Recordsets, ThatAreClosedRefuseWhatNeedsRows) {
 }
 
 TEST_P(Recordsets, KnowTheirFields) {
-    auto rs = query("Select ID, Name as [Full Name], Note, [Day], Done, [Size], Amount, Price, 'x' as Name From Visit");
-    const std::pair<DataType, int> types[] = {
-        {DataType::Integer, 0}, {DataType::VarWChar, 50}, {DataType::LongVarWChar, 0}, {DataType::Date, 0},
-        {DataType::Boolean, 0}, {DataType::SmallInt, 0},  {DataType::Double, 0},       {DataType::Currency, 0}};
+    auto rs = query(
+        "Select ID, Name as [Full Name], Note, [Day], Done, [Size], Amount, Price, 'x' as Name From Visit");
+    const std::pair<DataType, int> types[] = {{DataType::Integer, 0},      {DataType::VarWChar, 50},
+                                              {DataType::LongVarWChar, 0}, {DataType::Date, 0},
+                                              {DataType::Boolean, 0},      {DataType::SmallInt, 0},
+                                              {DataType::Double, 0},       {DataType::Currency, 0}};
     ASSERT_EQ(rs->FieldCount(), 9);
     for (int i = 0; i < 8; ++i) {
         EXPECT_EQ(rs->Fields(i).Type(), types[i].first) << i;
@@ -157,16 +158,18 @@ TEST_P(Recordsets, KeepChangesThatCannotBeWritten) {
 TEST_P(Recordsets, ThatShowNoSingleTableCannotBeWritten) {
     mDb->Execute("Create Table Other (OtherID Integer, Label VarChar(10))");
     mDb->Execute("Insert into Other (OtherID,Label) values (1,'o')");
-    for (const char* statement : {"Select Name From Visit Inner Join Other On OtherID=ID", "Select Max(Name) as Name From Visit",
-                                  "Select Name From Visit Group By Name", "Select Distinct Name From Visit",
-                                  "Select Name From Visit Union Select Label From Other", "Select ID, Name || '' as Name From Visit",
-                                  "Select Name From (Select Name From Visit)"}) {
+    for (const char* statement :
+         {"Select Name From Visit Inner Join Other On OtherID=ID", "Select Max(Name) as Name From Visit",
+          "Select Name From Visit Group By Name", "Select Distinct Name From Visit",
+          "Select Name From Visit Union Select Label From Other", "Select ID, Name || '' as Name From Visit",
+          "Select Name From (Select Name From Visit)"}) {
         SCOPED_TRACE(statement);
         const auto rs = writable(statement);
         rs->SetValue("Name", "x");
         EXPECT_EQ(errorOf([&] { rs->Update(); }), RuntimeError::ReadOnlyRecordset);
     }
-    EXPECT_EQ(errorOf([&] { query("Select Name From Visit")->SetValue(0, "x"); }), RuntimeError::ReadOnlyRecordset);
+    EXPECT_EQ(errorOf([&] { query("Select Name From Visit")->SetValue(0, "x"); }),
+              RuntimeError::ReadOnlyRecordset);
     EXPECT_EQ(one("Select Count(*) From Visit Where Name='x'"), "0");
 }
 

@@ -10,7 +10,8 @@ namespace Korvane::ado::Testing {
 class Values : public OnEveryEngine {
   protected:
     /// Stores a literal in a column by an Insert and by an Update, and expects it to read as that text.
-    void expectStored(const std::string& column, const std::string& literal, const std::string& text, VarType type) {
+    void expectStored(const std::string& column, const std::string& literal, const std::string& text,
+                      VarType type) {
         SCOPED_TRACE(column + " = " + literal);
         mDb->Execute("Delete From Visit");
         mDb->Execute("Insert into Visit ([ID],[" + column + "])  values (1," + literal + ")");
@@ -70,12 +71,18 @@ TEST_P(Values, ThatCannotBeWhatTheColumnKeepsAreRefused) {
         const char* literal;
         int number;
     } cases[] = {
-        {"Day", "'next week'", RuntimeError::TypeMismatch},  {"Day", "'13/45/2026'", RuntimeError::TypeMismatch},
-        {"Done", "'maybe'", RuntimeError::TypeMismatch},     {"Size", "'2.5'", RuntimeError::TypeMismatch},
-        {"Size", "2.5", RuntimeError::TypeMismatch},         {"Size", "'32768'", RuntimeError::Overflow},
-        {"Size", "-32769", RuntimeError::Overflow},          {"ID", "'2147483648'", RuntimeError::Overflow},
-        {"Amount", "'12abc'", RuntimeError::TypeMismatch},   {"Amount", "'1,2 3'", RuntimeError::TypeMismatch},
-        {"Price", "'a lot'", RuntimeError::TypeMismatch},    {"Day", "9999999", RuntimeError::Overflow},
+        {"Day", "'next week'", RuntimeError::TypeMismatch},
+        {"Day", "'13/45/2026'", RuntimeError::TypeMismatch},
+        {"Done", "'maybe'", RuntimeError::TypeMismatch},
+        {"Size", "'2.5'", RuntimeError::TypeMismatch},
+        {"Size", "2.5", RuntimeError::TypeMismatch},
+        {"Size", "'32768'", RuntimeError::Overflow},
+        {"Size", "-32769", RuntimeError::Overflow},
+        {"ID", "'2147483648'", RuntimeError::Overflow},
+        {"Amount", "'12abc'", RuntimeError::TypeMismatch},
+        {"Amount", "'1,2 3'", RuntimeError::TypeMismatch},
+        {"Price", "'a lot'", RuntimeError::TypeMismatch},
+        {"Day", "9999999", RuntimeError::Overflow},
     };
     mDb->Execute("Insert into Visit (ID) values (1)");
     for (const auto& c : cases) {
@@ -100,8 +107,9 @@ TEST_P(Values, ThatCannotBeWhatTheColumnKeepsAreRefused) {
 }
 
 TEST_P(Values, MeetTheirColumnsInAWhere) {
-    mDb->Execute("Insert into Visit ([ID],[Name],[Day],[Done],[Size]) values "
-                 "(1,'9','9/1/2026 8:00:00 AM',True,9),(2,'10','10/1/2026',False,10),(3,'x','12/31/2025',True,-5)");
+    mDb->Execute(
+        "Insert into Visit ([ID],[Name],[Day],[Done],[Size]) values "
+        "(1,'9','9/1/2026 8:00:00 AM',True,9),(2,'10','10/1/2026',False,10),(3,'x','12/31/2025',True,-5)");
     const struct {
         const char* where;
         const char* ids;
@@ -128,7 +136,8 @@ TEST_P(Values, MeetTheirColumnsInAWhere) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.where);
         std::string ids;
-        for (const auto rs = query(std::string("Select ID From Visit Where ") + c.where); !rs->Eof(); rs->MoveNext())
+        for (const auto rs = query(std::string("Select ID From Visit Where ") + c.where); !rs->Eof();
+             rs->MoveNext())
             ids += rs->Value("id").text();
         std::sort(ids.begin(), ids.end());
         EXPECT_EQ(ids, c.ids);
@@ -149,10 +158,30 @@ TEST_P(Values, OfDatesSortByTime) {
 }
 
 TEST_P(Values, OfTextComeBackByteForByte) {
-    const std::string texts[] = {
-        "it's", "''", "'", "--", "a -- b", "/* x */", "];[", "[bracketed]", "\"quoted\"", "?", ":name", "@p $p #1#",
-        "line\r\nbreak\ttab", "\xF0\x9F\x98\x80 emoji", "\xC3\xA9", "x'; Drop Table Visit; --", "' Or '1'='1",
-        "True", "1e5", " padded ", "\\", "%_", std::string(40000, 'x') + "'" + std::string(10, 'y'), "\xFF not UTF-8"};
+    const std::string texts[] = {"it's",
+                                 "''",
+                                 "'",
+                                 "--",
+                                 "a -- b",
+                                 "/* x */",
+                                 "];[",
+                                 "[bracketed]",
+                                 "\"quoted\"",
+                                 "?",
+                                 ":name",
+                                 "@p $p #1#",
+                                 "line\r\nbreak\ttab",
+                                 "\xF0\x9F\x98\x80 emoji",
+                                 "\xC3\xA9",
+                                 "x'; Drop Table Visit; --",
+                                 "' Or '1'='1",
+                                 "True",
+                                 "1e5",
+                                 " padded ",
+                                 "\\",
+                                 "%_",
+                                 std::string(40000, 'x') + "'" + std::string(10, 'y'),
+                                 "\xFF not UTF-8"};
     int id = 0;
     for (const std::string& text : texts) {
         SCOPED_TRACE(text.substr(0, 40));
@@ -164,20 +193,24 @@ TEST_P(Values, OfTextComeBackByteForByte) {
     }
     EXPECT_EQ(one("Select Count(*) From Visit"), std::to_string(id));
     using namespace std::string_literals;
-    EXPECT_EQ(errorOf([&] { mDb->Execute("Update Visit Set [Note]='a\0b'"s); }), RuntimeError::InvalidArgument);
+    EXPECT_EQ(errorOf([&] { mDb->Execute("Update Visit Set [Note]='a\0b'"s); }),
+              RuntimeError::InvalidArgument);
 }
 
 TEST_P(Values, OfAnEmptyMaximumKeepTheTypeOfTheColumn) {
     const std::pair<const char*, DataType> cases[] = {
-        {"Max(ID) as MaxID", DataType::Integer},   {"Max(Name)", DataType::VarWChar},
-        {"Min(Visit.[Day])", DataType::Date},      {"max([Size]) As S", DataType::SmallInt},
-        {"Max(v.Amount)", DataType::Double},       {"Count(*)", DataType::Integer},
+        {"Max(ID) as MaxID", DataType::Integer},    {"Max(Name)", DataType::VarWChar},
+        {"Min(Visit.[Day])", DataType::Date},       {"max([Size]) As S", DataType::SmallInt},
+        {"Max(v.Amount)", DataType::Double},        {"Count(*)", DataType::Integer},
         {"Max([visit].[Done])", DataType::Boolean}, {"Avg(Size)", DataType::Double}};
     for (const auto& [item, type] : cases) {
         SCOPED_TRACE(item);
-        const std::string from = std::string(item).find("v.") == std::string::npos ? " From Visit" : " From Visit v";
+        const std::string from =
+            std::string(item).find("v.") == std::string::npos ? " From Visit" : " From Visit v";
         EXPECT_EQ(query(std::string("Select ") + item + from)->FieldType(0), type);
-        EXPECT_EQ(query(std::string("Select 'x', ") + item + from + " Where Name like 'NIP_Custom%'")->FieldType(1), type);
+        EXPECT_EQ(
+            query(std::string("Select 'x', ") + item + from + " Where Name like 'NIP_Custom%'")->FieldType(1),
+            type);
     }
 }
 

@@ -70,6 +70,10 @@ Report report(int code) {
 } // namespace
 
 RuntimeError engineError(sqlite3* handle, int code) {
+    // A lent handle may report short codes; the long one is kept beside them.
+    constexpr int primary = 0xFF;
+    const int extended = handle ? sqlite3_extended_errcode(handle) : code;
+    if ((extended & primary) == (code & primary)) code = extended;
     std::string message = handle ? sqlite3_errmsg(handle) : sqlite3_errstr(code);
     const Report found = report(code);
     if (found.advice) message += std::string(" (") + found.advice + ")";

@@ -137,7 +137,7 @@ Lease Session::prepare(std::string_view statement) {
     liftFrom(statement);
     std::shared_ptr<Shape> shape = mShapes.find(mLifter.shape());
     // What the values become rests on the types of the columns: these must be those of now.
-    if (!shape || shape->converts) {
+    if (!shape || restsOnColumns(*shape)) {
         refreshSchema();
         if (shape && shape->forgotten) shape = nullptr;
     }
@@ -148,6 +148,21 @@ Lease Session::prepare(std::string_view statement) {
     Lease lease{shape, std::move(shape->idle)};
     if (!lease.statement) lease.statement = CompiledStatement(mHandle, shape->translation.text, true);
     return lease;
+}
+
+// Whether a change of a column's type would change what is bound. A number that is compared with a number is
+// the same in all.
+bool Session::restsOnColumns(const Shape& shape) const {
+    if (!shape.converts) return false;
+    const auto& literals = mLifter.literals();
+    for (std::size_t i = 0; i < literals.size(); ++i) {
+        const ParameterRule& rule = shape.translation.parameters[i];
+        if (!rule.column) continue;
+        const bool comparesNumbers = literals[i].kind == sql::Literal::Integer &&
+                                     rule.use == sql::Use::Compare && rule.column->type == DataType::Integer;
+        if (!comparesNumbers) return true;
+    }
+    return false;
 }
 
 Lease Session::prepareOnce(std::string_view statement, std::string_view addedColumns) {

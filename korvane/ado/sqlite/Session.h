@@ -52,6 +52,7 @@ class Session final : public Connection {
     Lease prepare(std::string_view statement);
     Lease prepareOnce(std::string_view statement, std::string_view addedColumns);
     std::shared_ptr<Shape> makeShape(std::string_view text, std::string_view addedColumns);
+    bool restsOnColumns(const Shape& shape) const;
     void liftFrom(std::string_view statement);
     void bindLiterals(const Lease& lease, TextLives lives);
     void refreshSchema();

@@ -13,7 +13,8 @@ struct DeclaredType {
 };
 
 /// What a column's declared type means: "VARCHAR(50)", "datetime", "Boolean". A type of no known name goes by
-/// the letters in it, as the engine's own affinity does; no type at all is Empty: such a column keeps whatever it is given.
+/// the letters in it, as the engine's own affinity does; no type at all is Empty: such a column keeps
+/// whatever it is given.
 DeclaredType declaredType(std::string_view declaration);
 
 } // namespace Korvane::ado::sqlite

@@ -1,0 +1,234 @@
+#include <korvane/ado/sqlite/SqliteConnection.h>
+
+#include "ado/Engine.h"
+#include "support/ScratchDir.h"
+
+#include <korvane/ado/Transaction.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include <gmock/gmock.h>
+#include <sqlite3.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+
+namespace Korvane::ado::Testing {
+
+using testing::HasSubstr;
+
+class SqliteFile : public testing::Test {
+  protected:
+    std::shared_ptr<Connection> connect(const char* option = "") {
+        auto db = open("sqlite:" + path() + option);
+        sqlite::setBusyTimeout(*db, std::chrono::milliseconds(20));
+        return db;
+    }
+    std::string path() const { return mDir.file("clinic.db"); }
+    static std::string one(const std::shared_ptr<Connection>& db, std::string_view statement) {
+        const auto rs = Recordset::create();
+        rs->Open(statement, db);
+        return rs->Eof() ? "(none)" : rs->Value(0).textOrEmpty();
+    }
+    /// What an action raises.
+    static RuntimeError raised(const std::function<void()>& action) {
+        try {
+            action();
+        } catch (const RuntimeError& error) {
+            return error;
+        }
+        ADD_FAILURE() << "no error";
+        return RuntimeError(0, "");
+    }
+
+    Korvane::Testing::ScratchDir mDir;
+};
+
+TEST_F(SqliteFile, IsOpenedForAClinicOnALocalDisk) {
+    const auto db = connect();
+    EXPECT_EQ(one(db, "Pragma journal_mode"), "wal");
+    EXPECT_EQ(one(db, "Pragma synchronous"), "2");
+    EXPECT_EQ(one(db, "Pragma foreign_keys"), "1");
+    db->Execute("Create Table T (A Integer Primary Key, [a b] Text)");
+    // A misspelled "name" is an error, not a text.
+    EXPECT_NE(errorOf([&] { db->Execute("Update T Set [a b]=\"nobody\""); }), 0);
+    EXPECT_EQ(raised([&] { open("sqlite:" + mDir.file("no/such/folder.db")); }).Number(),
+              RuntimeError::FileNotFound);
+}
+
+TEST_F(SqliteFile, ThatIsLockedIsWaitedForThenReported) {
+    const auto db = connect();
+    db->Execute("Create Table T (A Integer)");
+    const auto other = connect();
+    Transaction held(*other);
+    const auto begin = std::chrono::steady_clock::now();
+    const RuntimeError busy = raised([&] { db->Execute("Insert into T (A) values (1)"); });
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(15));
+    EXPECT_THAT(busy.Description(), HasSubstr("in use by another program"));
+    EXPECT_EQ(busy.NativeCode() & 0xFF, SQLITE_BUSY);
+    EXPECT_NE(errorOf([&] { db->BeginTrans(); }), 0);
+    EXPECT_EQ(db->transactionLevel(), 0);
+    EXPECT_EQ(one(db, "Select Count(*) From T"), "0"); // reading goes on
+    held.commit();
+    EXPECT_EQ(db->Execute("Insert into T (A) values (1)"), 1);
+}
+
+TEST_F(SqliteFile, ThatIsFullLosesNothingAndLeavesNoTransaction) {
+    const auto db = connect();
+    db->Execute("Create Table T (A Integer, B Text)");
+    db->Execute("Insert into T (A,B) values (1,'before')");
+    const std::string big(100000, 'x');
+    const std::string pages = one(db, "Pragma page_count");
+    one(db, "Pragma max_page_count=" + pages);
+    db->BeginTrans(TransactionFor::Writing);
+    db->BeginTrans(TransactionFor::Writing);
+    db->Execute("Update T Set B='half' Where A=1");
+    const RuntimeError full = raised([&] { db->Execute("Insert into T (A,B) values (2,'" + big + "')"); });
+    EXPECT_EQ(full.Number(), RuntimeError::DiskFull);
+    EXPECT_THAT(full.Description(), HasSubstr("no room left"));
+    while (db->transactionLevel() > 0)
+        db->RollbackTrans();
+    EXPECT_EQ(one(db, "Select B From T"), "before");
+    one(db, "Pragma max_page_count=100000");
+    EXPECT_EQ(db->Execute("Insert into T (A,B) values (2,'" + big + "')"), 1);
+}
+
+TEST_F(SqliteFile, WhoseEngineRolledBackByItselfRunsNothingUntilThatIsDoneHereToo) {
+    const auto db = connect();
+    db->Execute("Create Table T (A Integer Primary Key On Conflict Rollback)");
+    db->Execute("Insert into T (A) values (1)");
+    db->BeginTrans(TransactionFor::Writing);
+    db->BeginTrans(TransactionFor::Writing);
+    db->Execute("Insert into T (A) values (2)");
+    EXPECT_EQ(errorOf([&] { db->Execute("Insert into T (A) values (1)"); }), RuntimeError::DuplicateKey);
+    EXPECT_NE(errorOf([&] { db->Execute("Insert into T (A) values (3)"); }), 0); // would stand alone
+    EXPECT_NE(errorOf([&] { db->BeginTrans(); }), 0);
+    EXPECT_NE(errorOf([&] { db->CommitTrans(); }), 0);
+    EXPECT_EQ(db->transactionLevel(), 2);
+    db->RollbackTrans();
+    db->RollbackTrans();
+    EXPECT_EQ(db->transactionLevel(), 0);
+    EXPECT_EQ(one(db, "Select Count(*) From T"), "1");
+}
+
+TEST_F(SqliteFile, OpenedReadOnlyIsReadOnly) {
+    connect()->Execute("Create Table T (A Integer)");
+    const auto db = connect("?mode=ro");
+    EXPECT_EQ(one(db, "Select Count(*) From T"), "0");
+    EXPECT_EQ(raised([&] { db->Execute("Insert into T (A) values (1)"); }).Number(),
+              RuntimeError::PermissionDenied);
+    EXPECT_EQ(db->BeginTrans(TransactionFor::Reading), 1);
+    EXPECT_EQ(errorOf([&] { db->Execute("Delete From T"); }), RuntimeError::PermissionDenied);
+    db->CommitTrans();
+    EXPECT_NE(errorOf([&] { open("sqlite:" + mDir.file("missing.db") + "?mode=ro"); }), 0);
+    EXPECT_FALSE(mDir.has("missing.db"));
+}
+
+TEST_F(SqliteFile, ThatIsNoneOrDamagedIsReported) {
+    std::ofstream(path()) << std::string(5000, 'z');
+    EXPECT_THAT(raised([&] { connect(); }).Description(), HasSubstr("not a database"));
+    std::filesystem::remove(path());
+    {
+        const auto db = connect();
+        db->Execute("Create Table T (A Integer Primary Key, B Text)");
+        for (int i = 0; i < 200; ++i)
+            db->Execute("Insert into T (A,B) values (" + std::to_string(i) + ",'" + std::string(200, 'b') +
+                        "')");
+        db->Close();
+    }
+    const auto size = std::filesystem::file_size(path());
+    std::fstream file(path(), std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(4096);
+    file << std::string(size - 4096, '\xAA');
+    file.close();
+    const auto db = connect();
+    const RuntimeError damaged = raised([&] { one(db, "Select Count(*) From T Where B Like 'b%'"); });
+    EXPECT_THAT(damaged.Description(), HasSubstr("restore it from a backup"));
+    EXPECT_EQ(damaged.NativeCode() & 0xFF, SQLITE_CORRUPT);
+}
+
+TEST_F(SqliteFile, HandsOutWhatAForeignWriterStored) {
+    const auto db = connect();
+    db->Execute("Create Table T (D DateTime, B Boolean, I SmallInt, N Integer, C Currency, S Single, X "
+                "Decimal(10,2))");
+    sqlite3* foreign = nullptr;
+    ASSERT_EQ(sqlite3_open(path().c_str(), &foreign), SQLITE_OK);
+    sqlite3_exec(foreign,
+                 "insert into T values ('soon', 7, 70000, 5000000000, 1.23456, 0.123456789012, 12.25),"
+                 "('2026-11-15', 'yes', 'few', 'none', 'x', 'y', 'z')",
+                 nullptr, nullptr, nullptr);
+    sqlite3_close(foreign);
+    const auto rs = Recordset::create();
+    rs->Open("Select * From T", db);
+    const char* rows[][7] = {{"soon", "7", "70000", "5000000000", "1.23456", "0.123456789012", "12.25"},
+                             {"11/15/2026", "yes", "few", "none", "x", "y", "z"}};
+    for (const auto& row : rows) {
+        for (int i = 0; i < 7; ++i)
+            EXPECT_EQ(rs->Value(i).text(), row[i]) << i;
+        rs->MoveNext();
+    }
+}
+
+TEST_F(SqliteFile, KeepsABoundedNumberOfCompiledStatements) {
+    const auto db = connect();
+    sqlite::setShapeLimit(*db, 2);
+    db->Execute("Create Table T (A Integer, B Integer, C Integer)");
+    for (int round = 0; round < 3; ++round) {
+        for (const char* column : {"A", "B", "C"}) {
+            EXPECT_EQ(db->Execute("Insert into T (" + std::string(column) + ") values (5)"), 1);
+            EXPECT_EQ(one(db, "Select Count(*) From T Where " + std::string(column) + "=5"),
+                      std::to_string(round + 1));
+        }
+    }
+}
+
+class LentHandle : public SqliteFile {
+  protected:
+    void SetUp() override {
+        ASSERT_EQ(sqlite3_open(path().c_str(), &mHandle), SQLITE_OK);
+        run("create table T (A Integer Primary Key)");
+    }
+    void TearDown() override {
+        EXPECT_EQ(sqlite3_close(mHandle), SQLITE_OK);
+    } // not while a statement is left
+    void run(const char* statement) {
+        ASSERT_EQ(sqlite3_exec(mHandle, statement, nullptr, nullptr, nullptr), SQLITE_OK) << statement;
+    }
+    sqlite3* mHandle = nullptr;
+};
+
+TEST_F(LentHandle, KeepsItsSettingsAndIsNeverClosed) {
+    auto db = sqlite::adopt(mHandle);
+    EXPECT_EQ(one(db, "Pragma journal_mode"), "delete");
+    db->Execute("Insert into T (A) values (1)");
+    const RuntimeError duplicate = raised([&] { db->Execute("Insert into T (A) values (1)"); });
+    EXPECT_EQ(duplicate.Number(), RuntimeError::DuplicateKey);
+    EXPECT_EQ(duplicate.NativeCode(), SQLITE_CONSTRAINT_PRIMARYKEY);
+    const auto rs = Recordset::create();
+    rs->Open("Select * From T", db);
+    db->Close();
+    db = sqlite::adopt(mHandle);
+    db->BeginTrans(TransactionFor::Writing);
+    db->Execute("Insert into T (A) values (2)");
+    db.reset(); // left open: rolled back, and the handle goes on
+    run("begin");
+    run("commit");
+    EXPECT_EQ(one(sqlite::adopt(mHandle), "Select Count(*) From T"), "1");
+}
+
+TEST_F(LentHandle, JoinsTheTransactionOfItsOwner) {
+    const auto db = sqlite::adopt(mHandle);
+    run("begin");
+    run("insert into T values (1)");
+    EXPECT_EQ(db->BeginTrans(TransactionFor::Writing), 1);
+    db->Execute("Insert into T (A) values (2)");
+    db->RollbackTrans();
+    EXPECT_EQ(db->BeginTrans(TransactionFor::Writing), 1);
+    db->Execute("Insert into T (A) values (3)");
+    db->CommitTrans();
+    EXPECT_EQ(sqlite3_get_autocommit(mHandle), 0); // still the owner's
+    run("commit");
+    EXPECT_EQ(one(db, "Select Sum(A) From T"), "4");
+}
+
+} // namespace Korvane::ado::Testing
