@@ -74,12 +74,24 @@ int EncounterModel::columnCount(const QModelIndex& parent) const {
 QString EncounterModel::text(const EncounterLine& line, int column) const {
     switch (column) {
     case Date:
-        return momentText(line.date);
+        return isAloneInItsDay(line) ? dayText(line.date) : momentText(line.date);
     case Description:
         return line.description.isEmpty() ? tr("(no description)") : line.description.simplified();
     default:
         return line.provider;
     }
+}
+
+// The time of day is shown where it tells two encounters apart.
+bool EncounterModel::isAloneInItsDay(const EncounterLine& line) const {
+    const auto row = static_cast<std::size_t>(&line - mLines.data());
+    const auto sameDay = [&](std::size_t other) { return dayText(mLines[other].date) == dayText(line.date); };
+    return !(row > 0 && sameDay(row - 1)) && !(row + 1 < mLines.size() && sameDay(row + 1));
+}
+
+QString EncounterModel::toolTip(const EncounterLine& line, int column) const {
+    if (column == Date) return momentText(line.date);
+    return column == Description ? line.description : text(line, column);
 }
 
 QVariant EncounterModel::data(const QModelIndex& index, int role) const {
@@ -90,7 +102,7 @@ QVariant EncounterModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return text(line, index.column());
     case Qt::ToolTipRole:
-        return index.column() == Description ? line.description : text(line, index.column());
+        return toolTip(line, index.column());
     case Qt::AccessibleTextRole:
         return text(line, index.column()) + (open && index.column() == Date ? tr(", open") : QString());
     case Qt::FontRole:

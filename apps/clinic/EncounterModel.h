@@ -38,6 +38,8 @@ class EncounterModel : public QAbstractTableModel {
 
   private:
     QString text(const EncounterLine& line, int column) const;
+    QString toolTip(const EncounterLine& line, int column) const;
+    bool isAloneInItsDay(const EncounterLine& line) const;
 
     std::vector<EncounterLine> mLines;
     qint32 mOpen = -1;

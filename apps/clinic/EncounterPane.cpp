@@ -14,10 +14,11 @@ EncounterPane::EncounterPane(QWidget* parent)
       mTitle(new QLabel(this)) {
     mTitle->setBuddy(mTable);
     mTitle->setTextFormat(Qt::PlainText);
+    mTitle->setWordWrap(true); // a long name must not widen the pane
     mTable->setObjectName(QStringLiteral("encounters"));
     mTable->setAccessibleDescription(tr("Enter opens the encounter."));
     mTable->setModel(mModel);
-    mTable->setStretchColumn(EncounterModel::Description);
+    mTable->setStretchColumns({EncounterModel::Description, EncounterModel::Provider});
     connect(mTable, &RowTable::chosen, this, &EncounterPane::chosenChanged);
     // Opening may ask a question, which must not be asked in the middle of a double click.
     connect(mTable, &RowTable::activated, this, [this](const QModelIndex& index) {

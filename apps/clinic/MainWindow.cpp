@@ -54,6 +54,7 @@ void MainWindow::build(const QString& databaseName) {
     auto* database = new QLabel(databaseName, this);
     database->setTextFormat(Qt::PlainText);
     statusBar()->addPermanentWidget(database);
+    fitIcons();
 }
 
 void MainWindow::listen() {
@@ -95,9 +96,17 @@ void MainWindow::connectActions() {
     connect(a.largerText, &QAction::triggered, mTextSize, &TextSize::larger);
     connect(a.smallerText, &QAction::triggered, mTextSize, &TextSize::smaller);
     connect(a.usualText, &QAction::triggered, mTextSize, &TextSize::usual);
-    connect(mTextSize, &TextSize::changed, this, [this](int p) { say(tr("Text size %1 %").arg(p)); });
+    connect(mTextSize, &TextSize::changed, this, [this](int percent) {
+        fitIcons();
+        say(tr("Text size %1 %").arg(percent));
+    });
     connect(a.keys, &QAction::triggered, this, [this] { showKeys(*this); });
     connect(a.about, &QAction::triggered, this, [this] { showAbout(*this); });
+}
+
+void MainWindow::fitIcons() {
+    const int size = fontMetrics().height() * 3 / 2;
+    setIconSize(QSize(size, size));
 }
 
 void MainWindow::reload() {

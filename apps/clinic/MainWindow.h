@@ -37,6 +37,7 @@ class MainWindow : public QMainWindow {
     void build(const QString& databaseName);
     void listen();
     void connectActions();
+    void fitIcons();
     void restore();
     void keep() const;
 

@@ -37,6 +37,10 @@ NipDesk::NipDesk(QWidget* parent)
     mStack->addWidget(makeHint());
     mStack->addWidget(mPanel);
     auto* layout = new QVBoxLayout(this);
+    // The panel has margins of its own: header and panel are to stand under each other.
+    const QMargins margins = layout->contentsMargins();
+    layout->setContentsMargins(0, margins.top(), 0, 0);
+    mHeader->setContentsMargins(margins.left(), 0, margins.right(), 0);
     layout->addWidget(mHeader);
     layout->addWidget(mStack, 1);
     listen();

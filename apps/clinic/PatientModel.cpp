@@ -64,16 +64,12 @@ QVariant PatientModel::data(const QModelIndex& index, int role) const {
             return patient.id;
         }
     }
-    if (role == Qt::TextAlignmentRole && index.column() == BirthDate)
-        return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     return {};
 }
 
 QVariant PatientModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue((section == BirthDate ? Qt::AlignRight : Qt::AlignLeft) |
-                                   Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};
     static const QStringList names{tr("Name"), tr("Born"), tr("ID")};
     return names.value(section);

@@ -41,7 +41,7 @@ void PatientPane::build() {
     mTable->setAccessibleName(tr("Patients"));
     mTable->setEmptyText(tr("No patient is found."));
     mTable->setModel(mModel);
-    mTable->setStretchColumn(PatientModel::Name);
+    mTable->setStretchColumns({PatientModel::Name});
     mCount->setObjectName(QStringLiteral("patientCount"));
     mCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 

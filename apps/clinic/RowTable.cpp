@@ -7,6 +7,17 @@
 
 namespace Clinic {
 
+namespace {
+
+/// A third of the one colour on two thirds of the other.
+QColor mixed(const QColor& colour, const QColor& ground) {
+    const auto part = [](int a, int b) { return (a + 2 * b) / 3; };
+    return {part(colour.red(), ground.red()), part(colour.green(), ground.green()),
+            part(colour.blue(), ground.blue())};
+}
+
+} // namespace
+
 RowTable::RowTable(QWidget* parent) : QTableView(parent) {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -30,9 +41,10 @@ void RowTable::setModel(QAbstractItemModel* model) {
     });
 }
 
-void RowTable::setStretchColumn(int column) {
+void RowTable::setStretchColumns(std::initializer_list<int> columns) {
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    for (const int column : columns)
+        horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
 }
 
 void RowTable::setEmptyText(const QString& text) {
@@ -68,6 +80,14 @@ void RowTable::paintEvent(QPaintEvent* event) {
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
                      Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap, mEmptyText);
+}
+
+void RowTable::initViewItemOption(QStyleOptionViewItem* option) const {
+    QTableView::initViewItemOption(option);
+    if (hasFocus()) return;
+    option->palette.setColor(QPalette::Highlight,
+                             mixed(palette().color(QPalette::Highlight), palette().color(QPalette::Base)));
+    option->palette.setColor(QPalette::HighlightedText, palette().color(QPalette::Text));
 }
 
 // The row that is chosen stays chosen, also under Ctrl+click.

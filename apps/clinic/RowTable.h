@@ -2,10 +2,12 @@
 
 #include <QTableView>
 
+#include <initializer_list>
+
 namespace Clinic {
 
-/// A list of whole rows: one is chosen at a time, Tab leaves it, rows are as high as the font needs, and an
-/// empty list says why it is empty.
+/// A list of whole rows: one is chosen at a time, Tab leaves it, rows are as high as the font needs, the
+/// chosen row is paler while the focus is elsewhere, and an empty list says why it is empty.
 class RowTable : public QTableView {
     Q_OBJECT
 
@@ -14,8 +16,8 @@ class RowTable : public QTableView {
 
     void setModel(QAbstractItemModel* model) override;
 
-    /// Makes one column take the room that the others leave.
-    void setStretchColumn(int column);
+    /// Makes columns share the room that the others leave.
+    void setStretchColumns(std::initializer_list<int> columns);
 
     /// What is shown in place of rows while there are none.
     void setEmptyText(const QString& text);
@@ -32,6 +34,7 @@ class RowTable : public QTableView {
   protected:
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
 

@@ -3,6 +3,7 @@
 #include "clinic/Database.h"
 #include "clinic/MainWindow.h"
 #include "clinic/Options.h"
+#include "clinic/tour/NoScreen.h"
 #include "clinic/tour/Tour.h"
 
 #include <korvane/controls/container/Busy.h>
@@ -89,6 +90,7 @@ int main(int argc, char** argv) {
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    if (wantsTour(argc, argv)) Clinic::prepareNoScreen();
     const QApplication application(argc, argv);
     const Clinic::Options options = Clinic::readOptions(QCoreApplication::arguments());
     Korvane::QtInteraction::installOnce();

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QTest>
 
 namespace Clinic {
 
@@ -37,6 +38,9 @@ Album::Album(QWidget& window, const QString& directory) : mWindow(window), mDire
 }
 
 void Album::add(const QString& title) {
+    // Until what fades in, such as the button in a search box, is there.
+    constexpr int fadeTime = 250;
+    QTest::qWait(fadeTime);
     ++mCount;
     static const QRegularExpression gaps(QStringLiteral("[^a-z0-9]+"));
     const QString name = QStringLiteral("%1-%2.png")

@@ -91,7 +91,9 @@ void Hand::lookForBox() {
         require(handle != nullptr, QStringLiteral("An unexpected box came up: ") +
                                        (message ? message->text() : box->windowTitle()));
         box->activateWindow();
-        require(QTest::qWaitForWindowActive(box), QStringLiteral("A box did not become active."));
+        require(QTest::qWaitForWindowActive(box) &&
+                    QTest::qWaitFor([box] { return box->isAncestorOf(QApplication::focusWidget()); }),
+                QStringLiteral("A box did not take the focus."));
         handle(*box);
     } catch (...) {
         mTrouble = std::current_exception();
