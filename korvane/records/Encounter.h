@@ -58,8 +58,8 @@ class Encounter {
     void Transport(std::int32_t value) { mTransport = value; }
     void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
 
-    /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed, an
-    /// update of a row that is gone, and before any `Save`. Who wants to try a failed insert again keeps a
+    /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
+    /// an update of a row that is gone, and before any `Save`. Who wants to try a failed insert again keeps a
     /// copy from before, which still has no identifier. For use within the library.
     bool Stored() const { return mStored; }
 
