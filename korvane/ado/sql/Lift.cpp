@@ -57,6 +57,7 @@ class Scan {
     bool run() {
         const Token first = mLexer.next();
         if (!startsLiftable(first)) return false;
+        mInSelectList = first.isWord("select");
         for (Token token = mLexer.next(); token.kind != TokenKind::End; token = mLexer.next()) {
             if (!take(token)) return false;
         }
@@ -97,6 +98,10 @@ class Scan {
         switch (word.front() | 0x20) {
         case 's':
             if (Token::sameWord(word, "set")) mPlace = Place::SetList;
+            if (mDepth == 0 && Token::sameWord(word, "select")) mInSelectList = true;
+            break;
+        case 'f':
+            if (mDepth == 0 && Token::sameWord(word, "from")) mInSelectList = false;
             break;
         case 'v':
             if (Token::sameWord(word, "values")) mPlace = Place::ValuesList;
@@ -150,6 +155,7 @@ class Scan {
     }
 
     bool valueMayStandHere() const {
+        if (mInSelectList) return false;
         switch (mPlace) {
         case Place::Expression:
             return mBefore != Before::Other;
@@ -204,6 +210,8 @@ class Scan {
     std::vector<Literal>& mLiterals;
     Place mPlace = Place::Elsewhere;
     Before mBefore = Before::Other;
+    // Of the outermost Select: what stands there is the name of a column that has no other.
+    bool mInSelectList = false;
     const char* mMinus = nullptr;
     std::array<Place, 64> mPlaces{};
     std::size_t mDepth = 0;

@@ -39,9 +39,19 @@ int ResultCursor::columnIndex(std::string_view name) const {
     return index < static_cast<int>(ownColumns()) ? index : -1;
 }
 
+// A result that could not be read on is closed: what is left of it must not pass for all of it.
+void ResultCursor::advance() {
+    try {
+        mLive = mLease.statement.step();
+    } catch (...) {
+        close();
+        throw;
+    }
+}
+
 void ResultCursor::moveNext() {
     if (mLive) {
-        mLive = mLease.statement.step();
+        advance();
         mAtEnd = !mLive;
         // The compiled form is free for the next one to ask the same.
         if (mAtEnd) mSession->giveBack(std::move(mLease));
@@ -69,7 +79,7 @@ void ResultCursor::spool() {
             Variant& cell = mCells.emplace_back();
             read(mLease.statement.get(), static_cast<int>(i), type, cell);
         }
-        mLive = mLease.statement.step();
+        advance();
     }
     mRow = 0;
     mSession->giveBack(std::move(mLease));

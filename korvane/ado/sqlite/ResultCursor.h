@@ -51,6 +51,7 @@ class ResultCursor final : public Cursor {
     std::size_t width() const { return mColumns->all().size(); }
     std::size_t ownColumns() const { return width() - mWriteback.key.size(); }
     Variant& cell(std::size_t ordinal) { return mCells[mRow * width() + ordinal]; }
+    void advance();
     void noteOrigins();
     void requireWritable(std::span<const FieldChange> changes) const;
     std::string updateStatement(std::span<const FieldChange> changes) const;

@@ -111,7 +111,13 @@ void Session::CommitTrans() {
 
 void Session::RollbackTrans() {
     handle();
-    if (!mTransactions.lost()) settleCursors();
+    if (!mTransactions.lost()) {
+        try {
+            settleCursors();
+        } catch (const RuntimeError&) {
+            // The one that failed is closed by it, and rolling back goes first.
+        }
+    }
     mTransactions.rollback();
     forgetSchema(); // the schema may have been changed in it
     if (transactionLevel() == 0) mSchemaPinned = false;
