@@ -21,6 +21,18 @@ struct Recordset::Opened {
     }
 };
 
+namespace {
+
+int ordinalOf(const Cursor& cursor, const FieldKey& key) {
+    const int ordinal = key.isOrdinal() ? key.ordinal() : cursor.columnIndex(key.name());
+    if (ordinal < 0 || ordinal >= static_cast<int>(cursor.columns().size())) {
+        throw RuntimeError(RuntimeError::ItemNotFound);
+    }
+    return ordinal;
+}
+
+} // namespace
+
 Recordset::Recordset() = default;
 Recordset::~Recordset() = default;
 
@@ -43,18 +55,9 @@ Recordset::Opened& Recordset::current() const {
     return open;
 }
 
-int Recordset::ordinalOf(const FieldKey& key) const {
-    const Cursor& cursor = *opened().cursor;
-    const int ordinal = key.isOrdinal() ? key.ordinal() : cursor.columnIndex(key.name());
-    if (ordinal < 0 || ordinal >= static_cast<int>(cursor.columns().size())) {
-        throw RuntimeError(RuntimeError::ItemNotFound);
-    }
-    return ordinal;
-}
-
 const ColumnInfo& Recordset::columnInfo(const FieldKey& key) const {
-    const int ordinal = ordinalOf(key);
-    return opened().cursor->columns()[static_cast<std::size_t>(ordinal)];
+    const Cursor& cursor = *opened().cursor;
+    return cursor.columns()[static_cast<std::size_t>(ordinalOf(cursor, key))];
 }
 
 CursorType Recordset::CursorType() const {
@@ -118,7 +121,7 @@ std::int32_t Recordset::FieldCount() const {
 }
 
 Field Recordset::Fields(const FieldKey& key) const {
-    const int ordinal = ordinalOf(key);
+    const int ordinal = ordinalOf(*opened().cursor, key);
     return {std::const_pointer_cast<Recordset>(shared_from_this()), ordinal, mOpening};
 }
 
@@ -133,17 +136,23 @@ Variant Recordset::Value(const FieldKey& key) const {
 }
 
 void Recordset::Value(const FieldKey& key, Variant& value) const {
-    const int ordinal = ordinalOf(key);
-    const Opened& open = current();
-    if (const FieldChange* change = open.pendingFor(ordinal)) {
+    ordinalOf(*opened().cursor, key);
+    if (!ValueUnlessEof(key, value)) throw RuntimeError(RuntimeError::NoCurrentRecord);
+}
+
+bool Recordset::ValueUnlessEof(const FieldKey& key, Variant& value) const {
+    const Opened& open = opened();
+    if (open.cursor->atEnd()) return false;
+    const int ordinal = ordinalOf(*open.cursor, key);
+    if (const FieldChange* change = open.pendingFor(ordinal))
         value = change->value;
-        return;
-    }
-    open.cursor->value(ordinal, value);
+    else
+        open.cursor->value(ordinal, value);
+    return true;
 }
 
 void Recordset::SetValue(const FieldKey& key, const Variant& value) {
-    const int ordinal = ordinalOf(key);
+    const int ordinal = ordinalOf(*opened().cursor, key);
     Opened& open = current();
     if (open.cursor->lockType() == LockType::ReadOnly) throw RuntimeError(RuntimeError::ReadOnlyRecordset);
     if (value.isArray()) throw RuntimeError(RuntimeError::TypeMismatch);

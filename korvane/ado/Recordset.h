@@ -95,6 +95,8 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     Variant Value(const FieldKey& key) const;
     /// The same into a variant whose storage is reused: for walking many rows.
     void Value(const FieldKey& key, Variant& value) const;
+    /// The same, but at the end it gives false and leaves `value` alone.
+    bool ValueUnlessEof(const FieldKey& key, Variant& value) const;
     /// Changes the current row; written by `Update`. ReadOnlyRecordset unless opened for writing.
     void SetValue(const FieldKey& key, const Variant& value);
 
@@ -109,7 +111,6 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     struct Opened;
     Opened& opened() const;  ///< raises ObjectClosed
     Opened& current() const; ///< raises NoCurrentRecord as well
-    int ordinalOf(const FieldKey& key) const;
     const ColumnInfo& columnInfo(const FieldKey& key) const;
     ado::CursorType mCursorType = ado::CursorType::ForwardOnly;
     ado::LockType mLockType = ado::LockType::ReadOnly;

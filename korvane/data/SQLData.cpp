@@ -121,7 +121,8 @@ const Variant& SQLData::DataView(const ado::FieldKey& key) {
     const std::string_view name = keyText(key, digits);
     if (name == mCachedKey) return mCachedValue;
     try {
-        readIntoCache(key, name);
+        readField(key, mCachedValue);
+        mCachedKey = name;
         return mCachedValue;
     } catch (...) {
         emptyCache();
@@ -130,19 +131,25 @@ const Variant& SQLData::DataView(const ado::FieldKey& key) {
     }
 }
 
-void SQLData::readIntoCache(const ado::FieldKey& key, std::string_view name) {
-    if (mRecordset->Eof()) {
-        mCachedValue = Variant();
-    } else {
-        mRecordset->Value(key, mCachedValue);
-        if (mCachedValue.isNull()) {
-            if (ado::IsNumericField(mRecordset->FieldType(key)))
-                mCachedValue = std::int16_t{0};
-            else
-                mCachedValue.setText("");
-        }
+void SQLData::DataInto(const ado::FieldKey& key, Variant& value) {
+    try {
+        if (readable(kNothingToRead)) return readField(key, value);
+    } catch (...) {
+        ReportError(currentError());
     }
-    mCachedKey = name;
+    value = Variant();
+}
+
+void SQLData::readField(const ado::FieldKey& key, Variant& value) const {
+    if (!mRecordset->ValueUnlessEof(key, value)) {
+        value = Variant();
+        return;
+    }
+    if (!value.isNull()) return;
+    if (ado::IsNumericField(mRecordset->FieldType(key)))
+        value = std::int16_t{0};
+    else
+        value.setText("");
 }
 
 void SQLData::Data(const ado::FieldKey& key, const Variant& value) {

@@ -57,6 +57,10 @@ class SQLData {
     ///
     ///     kept = query.DataView("Description");      // reuses the storage of the text kept so far
     const Variant& DataView(const ado::FieldKey& key);
+    /// The same into storage that the caller keeps: the fastest way to take over a row.
+    ///
+    ///     query.DataInto(0, kept);
+    void DataInto(const ado::FieldKey& key, Variant& value);
     /// Changes the field in the current row; only in mode 2. A value equal to the current one changes
     /// nothing.
     void Data(const ado::FieldKey& key, const Variant& value);
@@ -103,7 +107,7 @@ class SQLData {
     void ReportError(std::string_view description);
     bool readable(std::string_view withoutRecordset);
     void openRecordset(const std::shared_ptr<ado::Connection>& connection, std::string_view statement);
-    void readIntoCache(const ado::FieldKey& key, std::string_view name);
+    void readField(const ado::FieldKey& key, Variant& value) const;
     void writeField(const ado::FieldKey& key, const Variant& value);
     void emptyCache();
 
