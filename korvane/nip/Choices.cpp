@@ -11,20 +11,26 @@ namespace {
 
 constexpr char separator = '|';
 
-std::vector<Variant> split(std::string_view text) {
-    std::vector<Variant> entries;
-    for (std::size_t begin = 0; begin <= text.size();) {
+/// Makes `list` the entries of a text, in the storage that it has.
+void split(std::string_view text, VariantArray& list) {
+    std::size_t count = 0;
+    for (std::size_t begin = 0; begin <= text.size(); ++count) {
         const std::size_t end = std::min(text.find(separator, begin), text.size());
-        entries.emplace_back(text.substr(begin, end - begin));
+        if (count == list.elements.size()) list.elements.emplace_back();
+        list.elements[count].setText(text.substr(begin, end - begin));
         begin = end + 1;
     }
-    return entries;
+    list.elements.resize(count);
 }
 
 } // namespace
 
 bool holdsChoices(std::string_view displayType) {
-    return sameName(displayType, "LIST-EDITCONTENT") || sameName(displayType, "LIST-MULTIPLE");
+    // Asked of every field of a load: most are told apart by their length.
+    constexpr std::string_view editContent = "LIST-EDITCONTENT";
+    constexpr std::string_view multiple = "LIST-MULTIPLE";
+    return (displayType.size() == editContent.size() && sameName(displayType, editContent)) ||
+           (displayType.size() == multiple.size() && sameName(displayType, multiple));
 }
 
 const Variant& emptyList() {
@@ -34,18 +40,18 @@ const Variant& emptyList() {
 
 void splitChoices(FieldRecord& field) {
     const bool several = holdsChoices(field.displayType);
-    if (several || field.choiceListCount != 0) {
+    if (several && field.value.isText() && !trim(field.value.asText()).empty()) {
+        if (!field.choiceList.isArray()) field.choiceList = emptyList();
+        VariantArray& list = field.choiceList.array();
+        list.lowerBound = 0;
+        split(field.value.asText(), list);
+        if (list.elements.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
+            throw RuntimeError(RuntimeError::Overflow);
+        field.choiceListCount = static_cast<std::int16_t>(list.elements.size());
+    } else if (several || field.choiceListCount != 0) {
         field.choiceList = emptyList();
         field.choiceListCount = 0;
     }
-    if (!several) return;
-    const std::string text = field.value.textOrEmpty();
-    if (trim(text).empty()) return;
-    std::vector<Variant> entries = split(text);
-    if (entries.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
-        throw RuntimeError(RuntimeError::Overflow);
-    field.choiceListCount = static_cast<std::int16_t>(entries.size());
-    field.choiceList = VariantArray{0, std::move(entries)};
 }
 
 std::string joinChoices(const FieldRecord& field) {

@@ -59,22 +59,21 @@ bool hasInitialValueRule(const GroupRecord& group) {
                        [](const FieldRecord& field) { return field.initialValueRule != 0; });
 }
 
-std::string encounterStatement(const FieldList& list, std::int32_t encounterID) {
-    return "Select " + list.columns + " From " + list.tableName +
-           " Where EncounterID=" + std::to_string(encounterID);
+void encounterStatement(const FieldList& list, std::int32_t encounterID, std::string& statement) {
+    statement.assign("Select ").append(list.columns).append(" From ").append(list.tableName);
+    statement.append(" Where EncounterID=").append(std::to_string(encounterID));
 }
 
-std::string latestEncounterStatement(const FieldList& list, std::string_view patientID,
-                                     std::int32_t encounterID) {
-    std::string statement = "Select Top 1 " + list.joinedColumns + " From " + list.tableName +
-                            " INNER JOIN Encounter ON Encounter.EncounterID=" + list.tableName +
-                            ".EncounterID Where ";
-    statement += list.hasPatientID ? "Encounter.PatientID" : "PatientID";
-    statement += "='" + escapeQuotes(patientID) + "'";
-    if (encounterID != -1) statement += " And Encounter.EncounterID<>" + std::to_string(encounterID);
-    statement += " Order By ";
-    statement += list.hasEncounterDate ? "Encounter.EncounterDate" : "EncounterDate";
-    return statement + " DESC";
+void latestEncounterStatement(const FieldList& list, std::string_view patientID, std::int32_t encounterID,
+                              std::string& statement) {
+    statement.assign("Select Top 1 ").append(list.joinedColumns).append(" From ").append(list.tableName);
+    statement.append(" INNER JOIN Encounter ON Encounter.EncounterID=").append(list.tableName);
+    statement.append(".EncounterID Where ").append(list.hasPatientID ? "Encounter.PatientID" : "PatientID");
+    statement.append("='").append(escapeQuotes(patientID)).append("'");
+    if (encounterID != -1)
+        statement.append(" And Encounter.EncounterID<>").append(std::to_string(encounterID));
+    statement.append(" Order By ");
+    statement.append(list.hasEncounterDate ? "Encounter.EncounterDate" : "EncounterDate").append(" DESC");
 }
 
 } // namespace Korvane

@@ -29,12 +29,14 @@ FieldList GetFieldList(const GroupRecord& group);
 /// Whether a field of the group has an initial value rule, so that a new encounter needs the latest one.
 bool hasInitialValueRule(const GroupRecord& group);
 
+// The statements are written into a text whose storage is reused: they are long, and a load makes many.
+
 /// The group's row of an encounter.
-std::string encounterStatement(const FieldList& list, std::int32_t encounterID);
+void encounterStatement(const FieldList& list, std::int32_t encounterID, std::string& statement);
 
 /// The group's row of the patient's latest encounter. An encounter that has an identifier (is not -1) is not
 /// its own predecessor.
-std::string latestEncounterStatement(const FieldList& list, std::string_view patientID,
-                                     std::int32_t encounterID);
+void latestEncounterStatement(const FieldList& list, std::string_view patientID, std::int32_t encounterID,
+                              std::string& statement);
 
 } // namespace Korvane

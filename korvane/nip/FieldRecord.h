@@ -9,6 +9,17 @@ namespace Korvane {
 
 /// One field of a Nip: its definition, its place, its value. See `cNIP`, which holds them.
 struct FieldRecord {
+    // What a load touches stands together: a big Nip is read as fast as its records come into the cache.
+    Variant value;
+    Variant previousValue; ///< as loaded
+    std::string displayType;
+    std::int16_t initialValueRule = 0;
+    std::int16_t choiceListCount = 0;
+    bool initialised = false;
+    bool changed = false;
+    bool pending = false;
+    Variant choiceList;
+
     std::int32_t id = 0;
     std::string tableName;
     std::string groupName;
@@ -18,23 +29,14 @@ struct FieldRecord {
     std::string caption;
     std::int16_t maxLength = 0; ///< characters; 0: no limit
     std::string dataType;
-    std::string displayType;
-    std::int16_t initialValueRule = 0;
     float ordinal = 0;
     std::int16_t controlIndex = 0;
     std::int16_t controlIndexLabel = 0;
     std::int16_t rowIndex = 0;
     std::int16_t colIndex = 0; ///< 1, or 2 for a comment beside its field
-    Variant value;
-    Variant choiceList;
-    std::int16_t choiceListCount = 0;
     Variant defaultValue;
-    Variant previousValue; ///< as loaded
     Variant valueList;
     std::int16_t valueListCount = 0;
-    bool changed = false;
-    bool pending = false;
-    bool initialised = false;
 };
 
 } // namespace Korvane

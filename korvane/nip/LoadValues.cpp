@@ -8,20 +8,19 @@ namespace Korvane {
 
 namespace {
 
-/// A group that is to be read, and whether the patient's latest encounter is wanted too.
-struct GroupRead {
-    GroupRecord* group;
-    bool carriesForward;
-};
+/// Copies into the storage that a text has already.
+void keep(Variant& kept, const Variant& value) {
+    if (value.isText())
+        kept.setText(value.asText());
+    else
+        kept = value;
+}
 
-/// Takes over a column joined to an empty text, in the storage that the value has.
+/// Takes over a column joined to an empty text.
 void takeText(Variant& value, SQLData& row, std::int16_t column) {
     if (column == FieldList::noColumn) return value.setText("");
-    const Variant& read = row.DataView(column);
-    if (read.isText())
-        value.setText(read.asText());
-    else
-        value.setText(read.textOrEmpty());
+    row.DataInto(column, value);
+    if (!value.isText()) value.setText(value.textOrEmpty());
 }
 
 void forget(GroupRecord& group) {
@@ -58,34 +57,47 @@ const FieldList& cNIP::fieldListOf(GroupRecord& group) {
     return *group.fieldList;
 }
 
+/// Writes the statements that a load runs, in their order, into the storage of those of the last one.
+void cNIP::writeLoadStatements() {
+    std::size_t count = 0;
+    const auto next = [&]() -> std::string& {
+        if (count == mStatements.size()) mStatements.emplace_back();
+        return mStatements[count++];
+    };
+    for (std::size_t i = 1; i < mGroups.size(); ++i) {
+        const FieldList& list = fieldListOf(mGroups[i]);
+        if (list.columns.empty()) continue;
+        encounterStatement(list, mEncounterID, next());
+        if (carriesForward(mGroups[i])) latestEncounterStatement(list, mPatientID, mEncounterID, next());
+    }
+    mStatements.resize(count);
+}
+
+bool cNIP::carriesForward(const GroupRecord& group) const {
+    return mNewEncounter && hasInitialValueRule(group);
+}
+
 void cNIP::loadValues() {
-    std::vector<GroupRead> reads;
-    std::vector<std::string> statements;
+    writeLoadStatements();
+    Snapshot snapshot(*mConnection);
+    mConnection->Announce(mStatements);
+    auto statement = mStatements.cbegin();
+    SQLData current;
+    SQLData latest;
     for (std::size_t i = 1; i < mGroups.size(); ++i) {
         GroupRecord& group = mGroups[i];
-        const FieldList& list = fieldListOf(group);
-        if (list.columns.empty()) {
+        if (fieldListOf(group).columns.empty()) {
             forget(group);
             continue;
         }
-        reads.push_back({&group, mNewEncounter && hasInitialValueRule(group)});
-        statements.push_back(encounterStatement(list, mEncounterID));
-        if (reads.back().carriesForward)
-            statements.push_back(latestEncounterStatement(list, mPatientID, mEncounterID));
-    }
-
-    Snapshot snapshot(*mConnection);
-    mConnection->Announce(statements);
-    auto statement = statements.cbegin();
-    for (const GroupRead& read : reads) {
-        SQLData current;
-        SQLData latest;
         run(current, mConnection, *statement++);
-        if (read.carriesForward) run(latest, mConnection, *statement++);
-        fillGroup(*read.group, current, latest);
+        if (carriesForward(group)) run(latest, mConnection, *statement++);
+        fillGroup(group, current, latest);
         raiseFailure(current);
         raiseFailure(latest);
     }
+    current.CloseRS();
+    latest.CloseRS();
     snapshot.end();
 }
 
@@ -99,8 +111,8 @@ void cNIP::fillGroup(GroupRecord& group, SQLData& current, SQLData& latest) {
         else if (field.initialValueRule >= 1)
             takeText(field.value, latest, columnOf[i]);
         else
-            field.value = field.defaultValue;
-        field.previousValue = field.value;
+            keep(field.value, field.defaultValue);
+        keep(field.previousValue, field.value);
         splitChoices(field);
     }
 }

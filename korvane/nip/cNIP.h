@@ -121,6 +121,8 @@ class cNIP {
     void placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex& index);
 
     const FieldList& fieldListOf(GroupRecord& group);
+    bool carriesForward(const GroupRecord& group) const;
+    void writeLoadStatements();
     void loadValues();
     void fillGroup(GroupRecord& group, SQLData& current, SQLData& latest);
     void forgetValues();
@@ -134,6 +136,7 @@ class cNIP {
     std::int32_t mEncounterID = -1;
     std::string mPatientID;
     bool mNewEncounter = false;
+    std::vector<std::string> mStatements; ///< of the last load, kept for their storage
 };
 
 } // namespace Korvane

@@ -11,6 +11,18 @@ namespace Korvane {
 
 namespace {
 
+std::string encounter(const FieldList& list, std::int32_t id) {
+    std::string statement = "left from before";
+    encounterStatement(list, id, statement);
+    return statement;
+}
+
+std::string latest(const FieldList& list, std::string_view patient, std::int32_t id) {
+    std::string statement = "left from before";
+    latestEncounterStatement(list, patient, id, statement);
+    return statement;
+}
+
 GroupRecord groupOf(std::string_view table, std::initializer_list<std::string_view> fieldNames) {
     GroupRecord group;
     group.tableName = table;
@@ -36,14 +48,13 @@ TEST(FieldList, SkipsABlankFieldAndSaysSo) {
 
 TEST(FieldList, ShapesTheStatementsOfAGroup) {
     const FieldList plain = GetFieldList(groupOf("NIP_Custom1", {"Pulse", "description", "Order"}));
-    EXPECT_EQ(encounterStatement(plain, -1),
-              "Select Pulse,description,[Order] From NIP_Custom1 Where EncounterID=-1");
-    EXPECT_EQ(latestEncounterStatement(plain, "O'Neil", -1),
+    EXPECT_EQ(encounter(plain, -1), "Select Pulse,description,[Order] From NIP_Custom1 Where EncounterID=-1");
+    EXPECT_EQ(latest(plain, "O'Neil", -1),
               "Select Top 1 Pulse,NIP_Custom1.description,[Order] From NIP_Custom1 INNER JOIN Encounter ON "
               "Encounter.EncounterID=NIP_Custom1.EncounterID Where PatientID='O''Neil' Order By "
               "EncounterDate DESC");
     const FieldList clashing = GetFieldList(groupOf("My Nip", {"PatientID", "EncounterDate"}));
-    EXPECT_EQ(latestEncounterStatement(clashing, "P1", 12),
+    EXPECT_EQ(latest(clashing, "P1", 12),
               "Select Top 1 [My Nip].PatientID,[My Nip].EncounterDate From [My Nip] INNER JOIN Encounter ON "
               "Encounter.EncounterID=[My Nip].EncounterID Where Encounter.PatientID='P1' And "
               "Encounter.EncounterID<>12 Order By Encounter.EncounterDate DESC");
