@@ -11,6 +11,7 @@
 
 #include <korvane/controls/container/Busy.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QSettings>
@@ -105,7 +106,7 @@ void MainWindow::connectActions() {
 }
 
 void MainWindow::fitIcons() {
-    const int size = fontMetrics().height() * 3 / 2;
+    const int size = QFontMetrics(QApplication::font()).height() * 3 / 2;
     setIconSize(QSize(size, size));
 }
 
