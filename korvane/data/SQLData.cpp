@@ -5,8 +5,6 @@
 #include <korvane/runtime/Clock.h>
 #include <korvane/runtime/Interaction.h>
 
-#include <array>
-#include <charconv>
 #include <limits>
 
 namespace Korvane {
@@ -21,13 +19,6 @@ constexpr std::string_view kClosed = "Attempt to read data from a closed Records
 
 constexpr std::int32_t kCountNotSupported = -2;
 constexpr std::int32_t kOpen = 1;
-
-/// The key as text, without allocating: an ordinal is written into `digits`.
-std::string_view keyText(const ado::FieldKey& key, std::array<char, 12>& digits) {
-    if (!key.isOrdinal()) return key.name();
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), key.ordinal()).ptr;
-    return {digits.data(), static_cast<std::size_t>(end - digits.data())};
-}
 
 bool differs(const Variant& a, const Variant& b) {
     if (a.isNull() || b.isNull()) return a.isNull() != b.isNull();
@@ -117,12 +108,11 @@ bool SQLData::readable(std::string_view withoutRecordset) {
 const Variant& SQLData::DataView(const ado::FieldKey& key) {
     static const Variant empty;
     if (!readable(kNothingToRead)) return empty;
-    std::array<char, 12> digits{};
-    const std::string_view name = keyText(key, digits);
-    if (name == mCachedKey) return mCachedValue;
+    if (isCached(key)) return mCachedValue;
     try {
         readField(key, mCachedValue);
-        mCachedKey = name;
+        mCachedKey = key.name();
+        mCachedOrdinal = key.isOrdinal() ? std::optional(key.ordinal()) : std::nullopt;
         return mCachedValue;
     } catch (...) {
         emptyCache();
@@ -171,9 +161,8 @@ void SQLData::writeField(const ado::FieldKey& key, const Variant& value) {
         mRecordset->SetValue(key, value);
         emptyCache();
     }
-    std::array<char, 12> digits{};
     // A null that was written over a null keeps the stand-in it is read as.
-    if (keyText(key, digits) == mCachedKey && !value.isNull()) mCachedValue = value;
+    if (isCached(key) && !value.isNull()) mCachedValue = value;
 }
 
 std::int32_t SQLData::State() const {
@@ -236,9 +225,15 @@ std::int32_t SQLData::RecordCount() {
     return 0;
 }
 
+bool SQLData::isCached(const ado::FieldKey& key) const {
+    if (key.isOrdinal()) return mCachedOrdinal == key.ordinal();
+    return !mCachedOrdinal && key.name() == mCachedKey;
+}
+
 /// Both parts empty, as at the start; the storage of a text is kept for the next one.
 void SQLData::emptyCache() {
     mCachedKey.clear();
+    mCachedOrdinal.reset();
     mCachedValue.setText("");
 }
 

@@ -109,6 +109,7 @@ class SQLData {
     void openRecordset(const std::shared_ptr<ado::Connection>& connection, std::string_view statement);
     void readField(const ado::FieldKey& key, Variant& value) const;
     void writeField(const ado::FieldKey& key, const Variant& value);
+    bool isCached(const ado::FieldKey& key) const;
     void emptyCache();
 
     std::shared_ptr<ado::Recordset> mRecordset;
@@ -121,6 +122,7 @@ class SQLData {
     bool mReported = false;
     std::optional<RuntimeError> mLastError;
     std::string mCachedKey;
+    std::optional<int> mCachedOrdinal; ///< in place of the key, when the field was asked for by ordinal
     Variant mCachedValue;
     std::string mInsertColumns;
     std::string mInsertValues;
