@@ -60,13 +60,12 @@ void setText(std::string& text, const Variant& value) {
         text = value.textOrEmpty();
 }
 
+/// All but its name and its table, which decide where it belongs.
 void fillField(FieldRecord& field, SQLData& row) {
-    setText(field.fieldName, row.DataView(fieldFieldName));
     field.id = row.DataView(fieldID).toInt32();
     setText(field.caption, row.DataView(fieldCaption));
     setText(field.groupName, row.DataView(fieldGroupName));
     field.groupID = row.DataView(fieldGroupID).toInt32();
-    setText(field.tableName, row.DataView(fieldTable));
     setText(field.displayType, row.DataView(fieldDisplayType));
     field.maxLength = row.DataView(fieldMaxLength).toInt16();
     field.initialValueRule = row.DataView(fieldInitialValueRule).toInt16();
@@ -76,8 +75,11 @@ void fillField(FieldRecord& field, SQLData& row) {
 }
 
 void addAllowedValue(FieldRecord& field, const Variant& value, bool byDefault) {
+    constexpr std::size_t usualCount = 8;
+    std::vector<Variant>& values = field.valueList.array().elements;
+    if (field.valueListCount == 0) values.reserve(usualCount);
     field.valueListCount = raised(field.valueListCount);
-    field.valueList.array().elements.push_back(value);
+    values.push_back(value);
     if (byDefault) field.defaultValue = value;
 }
 
@@ -138,6 +140,8 @@ void cNIP::loadFields(FieldIndex& index) {
         }
         GroupRecord& group = mGroups[static_cast<std::size_t>(place)];
         FieldRecord& field = appendField(group);
+        field.fieldName = name;
+        field.tableName = table;
         fillField(field, row);
         raiseFailure(row);
         placeInGrid(group, field, index);
