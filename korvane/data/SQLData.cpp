@@ -226,8 +226,10 @@ std::int32_t SQLData::RecordCount() {
 }
 
 bool SQLData::isCached(const ado::FieldKey& key) const {
-    if (key.isOrdinal()) return mCachedOrdinal == key.ordinal();
-    return !mCachedOrdinal && key.name() == mCachedKey;
+    if (key.isOrdinal() && mCachedOrdinal) return *mCachedOrdinal == key.ordinal();
+    if (!key.isOrdinal() && !mCachedOrdinal) return key.name() == mCachedKey;
+    // An ordinal and a name are one key when they read the same.
+    return key.text() == (mCachedOrdinal ? std::to_string(*mCachedOrdinal) : mCachedKey);
 }
 
 /// Both parts empty, as at the start; the storage of a text is kept for the next one.
