@@ -1,14 +1,12 @@
 #include <korvane/controls/nippanel/EncounterPane.h>
 
 #include <korvane/controls/container/Text.h>
-#include <korvane/controls/container/Twips.h>
 #include <korvane/data/SQLData.h>
 
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QEvent>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -33,7 +31,7 @@ QComboBox* makeProviderCombo(QWidget* parent) {
     auto* combo = new QComboBox(parent);
     combo->setPlaceholderText("Choose a provider");
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(20);
+    combo->setMinimumContentsLength(24);
     combo->setFocusPolicy(Qt::StrongFocus);
     return combo;
 }
@@ -65,7 +63,7 @@ readProviders(const std::shared_ptr<ado::Connection>& connection) {
 
 EncounterPane::EncounterPane(QWidget* parent)
     : QWidget(parent), mDescription(new QLineEdit(this)), mDate(makeDateEdit(this)),
-      mProvider(makeProviderCombo(this)), mGrid(new QGridLayout(this)) {
+      mProvider(makeProviderCombo(this)) {
     setObjectName("paneEncounter");
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     mLabels[0] = makeLabel("&Description:", *mDescription, "txtEncounterInfo");
@@ -74,7 +72,6 @@ EncounterPane::EncounterPane(QWidget* parent)
     setTabOrder(mDescription, mDate);
     setTabOrder(mDate, mProvider);
     setFocusProxy(mDescription);
-    mGrid->setContentsMargins(0, 0, 0, 0);
     arrange();
 
     connect(mDescription, &QLineEdit::textChanged, this, &EncounterPane::edited);

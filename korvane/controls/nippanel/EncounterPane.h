@@ -4,6 +4,7 @@
 #include <korvane/records/Encounter.h>
 
 #include <QDateTime>
+#include <QPoint>
 #include <QWidget>
 
 #include <cstdint>
@@ -13,7 +14,6 @@
 
 class QComboBox;
 class QDateTimeEdit;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 
@@ -62,22 +62,24 @@ class EncounterPane : public QWidget {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     using Provider = std::pair<QString, std::int32_t>;
 
     void offer(std::vector<Provider> providers);
+    struct Measures;
     void arrange();
-    int neededWidth(int rows) const;
+    void arrangeOneRow(const Measures& measures);
+    void arrangeTwoRows(const Measures& measures);
+    void arrangeThreeRows(const Measures& measures);
+    int place(int pair, QPoint at, int labelWidth, int controlWidth, const Measures& measures);
 
     QLabel* mLabels[3];
     QLineEdit* mDescription;
     QDateTimeEdit* mDate;
     QComboBox* mProvider;
-    QGridLayout* mGrid;
-    int mRows = 0;
     std::vector<Provider> mProviders;
 
     std::string mOriginalDescription;

@@ -1,5 +1,6 @@
 #include <korvane/controls/nippanel/PanelForm.h>
 
+#include <korvane/controls/container/Twips.h>
 #include <korvane/controls/nippanel/ButtonRow.h>
 #include <korvane/controls/nippanel/CustomizePane.h>
 #include <korvane/controls/nippanel/EncounterPane.h>
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -20,7 +20,7 @@ namespace {
 QToolButton* makeCloseButton(QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setObjectName("cmdCloseNip");
-    button->setIcon(parent->style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, button));
+    button->setText(QString::fromUtf8("\u00d7"));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
     button->setToolTip("Close the Nip");
@@ -66,6 +66,8 @@ QSplitter* PanelForm::makeSplitter() {
     splitter->addWidget(mCustomize);
     splitter->setStretchFactor(1, 1);
     splitter->setStretchFactor(2, 1);
+    splitter->setHandleWidth(Twips(*this).px(100));
+    splitter->handle(1)->setEnabled(false); // the encounter pane is as high as its rows
     return splitter;
 }
 

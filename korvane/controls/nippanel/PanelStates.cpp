@@ -51,7 +51,7 @@ void ucNIPPanel::Members::initialize(const std::shared_ptr<ado::Connection>& hos
 }
 
 void ucNIPPanel::Members::buildControls() {
-    routine("Error in ucNipPanel.CreateNipControls: ", [&] { form->tabs().CreateNipControls(*nip); });
+    form->tabs().CreateNipControls(*nip);
     if (mode == customizing) form->customizePane().showStructure(nip.get());
 }
 
