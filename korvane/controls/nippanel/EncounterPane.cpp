@@ -32,6 +32,7 @@ QComboBox* makeProviderCombo(QWidget* parent) {
     combo->setPlaceholderText("Choose a provider");
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(24);
+    combo->setIconSize(QSize(0, 0)); // none are shown, but room for them would be kept
     combo->setFocusPolicy(Qt::StrongFocus);
     return combo;
 }

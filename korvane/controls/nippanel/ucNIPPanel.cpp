@@ -7,11 +7,23 @@
 #include <korvane/controls/nippanel/PanelForm.h>
 #include <korvane/controls/nippanel/PanelMembers.h>
 
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace Korvane {
+
+namespace {
+
+/// They search by any key that is typed, also by those that mean something to the panel.
+bool swallowsKeys(const QObject* watched) {
+    return qobject_cast<const QComboBox*>(watched) || qobject_cast<const QAbstractItemView*>(watched);
+}
+
+} // namespace
 
 ucNIPPanel::ucNIPPanel(QWidget* parent) : UserControl(parent), m(std::make_unique<Members>(*this)) {
     auto* layout = new QVBoxLayout(this);
@@ -24,6 +36,7 @@ ucNIPPanel::ucNIPPanel(QWidget* parent) : UserControl(parent), m(std::make_uniqu
     connect(&m->form->buttons(), &ButtonRow::clicked, this, [this](int button) { m->click(button); });
     connect(&m->form->tabs(), &NipTabs::edited, this, [this] { m->edited(); });
     connect(&m->form->encounterPane(), &EncounterPane::edited, this, [this] { m->edited(); });
+    qApp->installEventFilter(this);
     m->arrange();
 }
 
@@ -102,13 +115,22 @@ void ucNIPPanel::showEvent(QShowEvent* event) {
     m->arrange();
 }
 
-/// Here rather than as shortcuts, so that a host's own keys come first.
 void ucNIPPanel::keyPressEvent(QKeyEvent* event) {
-    const bool save = event->matches(QKeySequence::Save);
+    if (!pressed(*event)) UserControl::keyPressEvent(event);
+}
+
+bool ucNIPPanel::eventFilter(QObject* watched, QEvent* event) {
+    return event->type() == QEvent::KeyPress && swallowsKeys(watched) &&
+           isAncestorOf(static_cast<QWidget*>(watched)) && pressed(*static_cast<QKeyEvent*>(event));
+}
+
+/// Here rather than as shortcuts, so that a host's own keys come first.
+bool ucNIPPanel::pressed(const QKeyEvent& key) {
+    const bool save = key.matches(QKeySequence::Save);
     QPushButton& button = m->form->buttons().button(save ? ButtonRow::Save : ButtonRow::Cancel);
-    if ((!save && !event->matches(QKeySequence::Cancel)) || !button.isVisible())
-        return UserControl::keyPressEvent(event);
+    if ((!save && !key.matches(QKeySequence::Cancel)) || !button.isVisible()) return false;
     button.click();
+    return true;
 }
 
 } // namespace Korvane

@@ -89,8 +89,11 @@ class ucNIPPanel : public UserControl {
   protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    bool pressed(const QKeyEvent& key);
+
     struct Members;
     std::unique_ptr<Members> m;
 };

@@ -1,0 +1,215 @@
+#include "support/PanelDesk.h"
+
+#include <korvane/ado/sqlite/SqliteConnection.h>
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+
+namespace Korvane {
+
+using namespace Testing;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+const ShownBox notSaved{
+    "This Nip could not be saved. Everything you entered is still here; please try again.",
+    MsgBoxStyle::Exclamation, ""};
+
+/// A way in which the database refuses a save, and how it comes round.
+struct Hindrance {
+    const char* name;
+    std::function<void(PanelDesk&)> begin;
+    std::function<void(PanelDesk&)> end;
+};
+
+Hindrance trigger(const char* name, const std::string& when) {
+    return {name,
+            [when](PanelDesk& desk) {
+                desk.db->quietly("Create Trigger refuse Before " + when +
+                                 " Begin Select Raise(Abort, 'refused'); End");
+            },
+            [](PanelDesk& desk) { desk.db->quietly("Drop Trigger refuse"); }};
+}
+
+Hindrance lock() {
+    auto other = std::make_shared<std::shared_ptr<ado::Connection>>();
+    return {"another writer holds the file",
+            [other](PanelDesk& desk) {
+                ado::sqlite::setBusyTimeout(*desk.db->real(), std::chrono::milliseconds(20));
+                *other = ado::open(desk.address());
+                (*other)->BeginTrans();
+            },
+            [other](PanelDesk&) { (*other)->RollbackTrans(); }};
+}
+
+} // namespace
+
+TEST(SavingANip, ANewOneIsStoredAndToldOnce) {
+    PanelDesk desk;
+    desk.enterNewNip();
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("created 8", "closed"));
+    EXPECT_THAT(desk.user->boxes, IsEmpty());
+    EXPECT_EQ(
+        desk.rows("Select PatientID,ProviderID,EncounterDate,Description From Encounter Where EncounterID=8"),
+        "P2|1|11/15/2026 5:21:51 PM|First visit");
+    EXPECT_EQ(desk.rows("Select EncounterID,Pulse From NIP_Custom1 Order By EncounterID"), "7|72 8|80");
+
+    desk.heard.clear();
+    ASSERT_TRUE(desk.panel.LoadNipInfo(8, "P2"));
+    desk.type(desk.pulse(), "81");
+    desk.panel.SaveNipInfo();
+    EXPECT_THAT(desk.heard, IsEmpty()) << "neither new nor renamed";
+    EXPECT_FALSE(desk.panel.isModified());
+    desk.type(desk.description(), "Second visit");
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("renamed 8 Second visit 11/15/2026 5:21:51 PM", "closed"));
+    EXPECT_EQ(desk.rows("Select Pulse,Description From Encounter INNER JOIN NIP_Custom1 ON "
+                        "Encounter.EncounterID=NIP_Custom1.EncounterID Where Encounter.EncounterID=8"),
+              "81|Second visit");
+}
+
+TEST(SavingANip, TheHostsOwnSaveTellsOfANewNipOnlyOnce) {
+    PanelDesk desk;
+    desk.panel.LoadNipInfo(7, "P1");
+    desk.type(desk.description(), "Edited");
+    desk.panel.SaveNipInfo();
+    EXPECT_TRUE(desk.panel.isModified()) << "the encounter pane is not saved by it";
+    EXPECT_EQ(desk.rows("Select Description From Encounter"), "Visit");
+
+    desk.user->answers = {Answer::Yes};
+    desk.panel.CreateNip("P2");
+    desk.panel.SaveNipInfo();
+    EXPECT_EQ(desk.user->boxes.back(), notSaved) << "there is no encounter yet to save for";
+    EXPECT_THAT(desk.heard, IsEmpty());
+}
+
+TEST(SavingANip, ADateThatIsEditedIsARenameAndKeepsItsSecondsOtherwise) {
+    PanelDesk desk;
+    desk.panel.LoadNipInfo(7, "P1");
+    desk.date().setSelectedSection(QDateTimeEdit::DaySection);
+    QTest::keyClick(&desk.date(), Qt::Key_Up);
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("renamed 7 Visit 1/3/2026 3:04:05 PM", "closed"));
+    EXPECT_EQ(desk.rows("Select EncounterDate From Encounter"), "1/3/2026 3:04:05 PM");
+}
+
+TEST(SavingANip, WhatWasNotTouchedGoesBackAsItWas) {
+    PanelDesk desk;
+    const std::string described = "two\nlines, it's\ttabbed " + std::string(3000, 'x');
+    desk.insert("Encounter", {{"EncounterID", 20},
+                              {"EncounterMethodID", 3},
+                              {"PatientID", "P1"},
+                              {"ProviderID", 99},
+                              {"ForeignProviderID", 5},
+                              {"LocationID", 6},
+                              {"EncounterDate", "3/29/2026 2:30:59 AM"},
+                              {"Outgoing", false},
+                              {"Description", described},
+                              {"Transport", 4}});
+    const auto stored = [&] { return desk.rows("Select * From Encounter Where EncounterID=20"); };
+    const std::string before = stored();
+    ASSERT_THAT(before, HasSubstr(described));
+    ASSERT_TRUE(desk.panel.LoadNipInfo(20, "P1"));
+    EXPECT_EQ(desk.providers().currentIndex(), -1) << "a provider that is not in the table";
+    desk.type(desk.pulse(), "60");
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("closed"));
+    EXPECT_EQ(stored(), before);
+}
+
+TEST(SavingANip, AFailedFirstSaveKeepsEverythingAndTheNextInsertsAnew) {
+    for (const Hindrance& c : {trigger("values refused", "Insert On NIP_Custom1"),
+                               trigger("encounter refused", "Insert On Encounter"), lock()}) {
+        SCOPED_TRACE(c.name);
+        PanelDesk desk;
+        desk.enterNewNip();
+        c.begin(desk);
+        desk.save();
+        EXPECT_THAT(desk.heard, IsEmpty());
+        EXPECT_EQ(desk.user->boxes.back(), notSaved);
+        EXPECT_TRUE(desk.panel.isModified());
+        EXPECT_EQ(desk.pulse().text() + desk.description().text(), "80First visit");
+        EXPECT_EQ(desk.db->transactionLevel(), 0);
+        c.end(desk);
+        EXPECT_EQ(desk.rows("Select EncounterID From Encounter"), "7") << "nothing is left half-saved";
+
+        desk.encounter(8, "P5", "1/1/2026"); // somebody else takes the number meanwhile
+        desk.save();
+        EXPECT_THAT(desk.heard, ElementsAre("created 9", "closed"));
+        EXPECT_EQ(desk.rows("Select EncounterID,PatientID,Description From Encounter Where EncounterID>7"),
+                  "8|P5|Visit 9|P2|First visit");
+        EXPECT_EQ(desk.rows("Select EncounterID,Pulse From NIP_Custom1 Where EncounterID>7"), "9|80");
+    }
+}
+
+TEST(SavingANip, AFailedRenameIsToldOnlyOnceItIsStored) {
+    for (const Hindrance& c : {trigger("values refused", "Update On NIP_Custom1"),
+                               trigger("encounter refused", "Update On Encounter"), lock()}) {
+        SCOPED_TRACE(c.name);
+        PanelDesk desk;
+        desk.panel.LoadNipInfo(7, "P1");
+        desk.type(desk.description(), "Renamed");
+        c.begin(desk);
+        desk.save();
+        EXPECT_THAT(desk.heard, IsEmpty());
+        EXPECT_EQ(desk.user->boxes.back(), notSaved);
+        EXPECT_EQ(desk.state(), "Saved Nip with changes that are not saved");
+        c.end(desk);
+        EXPECT_EQ(desk.rows("Select Description From Encounter"), "Visit");
+        desk.save();
+        EXPECT_THAT(desk.heard, ElementsAre("renamed 7 Renamed 1/2/2026 3:04:05 PM", "closed"));
+    }
+}
+
+TEST(SavingANip, AnEncounterThatIsGoneIsNotSavedAndSaidSo) {
+    PanelDesk desk;
+    desk.panel.LoadNipInfo(7, "P1");
+    desk.type(desk.pulse(), "99");
+    desk.db->quietly("Delete From Encounter");
+    desk.save();
+    EXPECT_THAT(desk.user->boxes, Contains(notSaved));
+    EXPECT_THAT(desk.heard, IsEmpty());
+    EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "72");
+}
+
+TEST(SavingANip, WithoutAProviderTheUserIsAskedForOne) {
+    PanelDesk desk;
+    desk.panel.CreateNip("P2");
+    desk.panel.activateWindow();
+    desk.save();
+    EXPECT_THAT(
+        desk.user->boxes,
+        ElementsAre(ShownBox{"Please choose the provider of this encounter. It cannot be saved without one.",
+                             MsgBoxStyle::Information, ""}));
+    EXPECT_EQ(desk.panel.focusWidget(), &desk.providers());
+    EXPECT_EQ(desk.rows("Select EncounterID From Encounter"), "7");
+    QTest::keyClick(&desk.providers(), Qt::Key_Down);
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("created 8", "closed"));
+}
+
+TEST(SavingANip, AnIdentifierAbove32767OverflowsAtTheEventWithTheDataSaved) {
+    PanelDesk desk;
+    desk.encounter(32767, "P1", "1/1/2026");
+    desk.enterNewNip();
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("closed"));
+    EXPECT_EQ(desk.rows("Select Description From Encounter Where EncounterID=32768"), "First visit");
+    EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1 Where EncounterID=32768"), "80");
+    EXPECT_THAT(desk.errorLog(), HasSubstr(" Error in ucNipPanel.SaveNipInfo: 6:Overflow on line 0\n"));
+
+    desk.panel.LoadNipInfo(32768, "P2");
+    desk.type(desk.description(), "Renamed");
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("closed", "closed"));
+    EXPECT_EQ(desk.rows("Select Description From Encounter Where EncounterID=32768"), "Renamed");
+    EXPECT_THAT(desk.errorLog(), HasSubstr(" Error in ucNipPanel.SaveEncounterInfo: 6:Overflow on line 0\n"));
+}
+
+} // namespace Korvane
