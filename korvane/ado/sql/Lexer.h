@@ -81,7 +81,7 @@ class Lexer {
     Token next() {
         skipBlanks();
         const char* begin = mNext;
-        if (mNext == mEnd) return {TokenKind::End, {mEnd, 0}};
+        if (mNext == mEnd) return {};
         TokenKind kind = TokenKind::Symbol;
         if (Characters::is(*mNext, Characters::Letter)) {
             while (++mNext != mEnd && Characters::is(*mNext, Characters::InWord)) {
