@@ -3,11 +3,15 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <limits>
 
 namespace Korvane {
 
@@ -25,8 +29,9 @@ class PageCombo : public QComboBox {
     void showPopup() override {
         QAbstractItemView* list = view();
         list->setTextElideMode(Qt::ElideNone);
-        list->setMinimumWidth(std::max(width(), list->sizeHintForColumn(0) + 2 * list->frameWidth() +
-                                                    style()->pixelMetric(QStyle::PM_ScrollBarExtent)));
+        const int needed = list->sizeHintForColumn(0) + 2 * list->frameWidth() +
+                           style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        list->setMinimumWidth(std::clamp(needed, width(), std::max(width(), window()->width())));
         QComboBox::showPopup();
     }
 
@@ -34,6 +39,7 @@ class PageCombo : public QComboBox {
     /// item, and costs more than the box.
     void takeAnyText() {
         auto* text = new QLineEdit(this);
+        text->setMaxLength(std::numeric_limits<int>::max());
         QCompleter placeholder;
         text->setCompleter(&placeholder);
         setLineEdit(text);
@@ -41,7 +47,22 @@ class PageCombo : public QComboBox {
     }
 
   protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), isCut() ? currentText() : QString(),
+                           this);
+        return true;
+    }
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+  private:
+    bool isCut() const {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const QRect room =
+            style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+        return fontMetrics().horizontalAdvance(currentText()) > room.width();
+    }
 };
 
 } // namespace
@@ -62,21 +83,23 @@ QWidget* ComboEntry::widget() const {
 // The combo box keeps its own model: giving it another one, as much else that is said to it, makes the list
 // that drops down at once, which costs more than all the rest.
 void ComboEntry::fill() {
-    mShown = site().storedText();
-    const QStringList list = items();
+    const QString stored = site().storedText();
+    const QStringList list = itemsFor(stored);
     const QSignalBlocker quiet(mCombo);
     mCombo->clear();
     mCombo->addItems(list);
-    mCombo->setCurrentIndex(static_cast<int>(list.indexOf(mShown)));
-    if (mAccepts == ItemsOnly) return;
-    mCombo->setEditText(mShown);
-    mCombo->lineEdit()->setCursorPosition(0);
+    mCombo->setCurrentIndex(static_cast<int>(list.indexOf(stored)));
+    if (mAccepts == AnyText) {
+        mCombo->setEditText(stored);
+        mCombo->lineEdit()->setCursorPosition(0);
+    }
+    mShown = mCombo->currentText();
 }
 
-QStringList ComboEntry::items() const {
+QStringList ComboEntry::itemsFor(const QString& stored) const {
     QStringList list = site().allowedValues();
     if (mAccepts == ItemsOnly && !list.contains(QString())) list.prepend(QString());
-    if (!mShown.isEmpty() && !list.contains(mShown)) list.append(mShown);
+    if (!stored.isEmpty() && !list.contains(stored)) list.append(stored);
     return list;
 }
 

@@ -22,7 +22,7 @@ class ComboEntry : public EntryControl {
     void collect() override;
 
   private:
-    QStringList items() const;
+    QStringList itemsFor(const QString& stored) const;
 
     QComboBox* mCombo;
     Accepts mAccepts;

@@ -5,6 +5,7 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <limits>
 
 namespace Korvane {
 
@@ -34,8 +35,6 @@ class ShorteningOnly : public QValidator {
     int mLimit;
 };
 
-constexpr int longestText = 32767;
-
 } // namespace
 
 TextEntry::TextEntry(EntrySite entrySite)
@@ -49,11 +48,12 @@ QWidget* TextEntry::widget() const {
 }
 
 void TextEntry::fill() {
-    mShown = site().storedText();
+    const QString stored = site().storedText();
     const QSignalBlocker quiet(mBox);
-    limitLength(mShown);
-    mBox->setText(mShown);
+    limitLength(stored);
+    mBox->setText(stored);
     mBox->setCursorPosition(0);
+    mShown = mBox->text();
 }
 
 void TextEntry::limitLength(const QString& loaded) {
@@ -62,7 +62,7 @@ void TextEntry::limitLength(const QString& loaded) {
     const bool isLonger = limit > 0 && length > limit;
     delete mBox->validator();
     if (isLonger) mBox->setValidator(new ShorteningOnly(loaded, limit, mBox));
-    mBox->setMaxLength(limit > 0 ? std::max(limit, length) : std::max(longestText, length));
+    mBox->setMaxLength(limit > 0 ? std::max(limit, length) : std::numeric_limits<int>::max());
 }
 
 void TextEntry::collect() {
