@@ -15,7 +15,7 @@ constexpr Goal goals[] = {
     {"Load", "50x100", "prepared", 1.6},   {"Load", "", "QtSql", 0.2},
     {"Update", "50x100", "literal", 0.7},  {"Update", "", "literal", 1.0},
     {"Insert", "50x100", "literal", 0.7},  {"Insert", "", "literal", 1.0},
-    {"Panel", "50x100", "widgets", 0.06},  {"PanelMemory", "50x100", "widgets", 0.12},
+    {"Tabs", "50x100", "widgets", 0.06},   {"TabsMemory", "50x100", "widgets", 0.12},
 };
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "Memory.h"
 
-#include "ShownForms.h"
 #include "SyntheticClinic.h"
 
 #include <QCoreApplication>
@@ -24,12 +23,13 @@ std::size_t heapInUse() {
 
 } // namespace
 
-double formMemory(const std::string& by, const Size& size) {
+double formMemory(Maker maker, const Size& size) {
     QProcess child;
     child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     child.start(QCoreApplication::applicationFilePath(),
-                {QString::fromLatin1(option), QString::fromStdString(by), QString::number(size.groups),
-                 QString::number(size.fields), QString::fromStdString(databaseOf(size))});
+                {QString::fromLatin1(option), QString::number(static_cast<int>(maker)),
+                 QString::number(size.groups), QString::number(size.fields),
+                 QString::fromStdString(databaseOf(size))});
     constexpr int patience = 120'000;
     if (!child.waitForFinished(patience)) return 0;
     return child.readAllStandardOutput().toDouble() / (1024 * 1024);
@@ -39,10 +39,11 @@ std::optional<int> measureMemoryIfAsked(int argc, char** argv) {
     constexpr int argumentsNeeded = 6;
     if (argc != argumentsNeeded || std::strcmp(argv[1], option) != 0) return std::nullopt;
     const Size size{std::atoi(argv[3]), std::atoi(argv[4])};
-    const auto connection = ado::open(std::string("sqlite:") + argv[5]);
-    showForm("widgets", {1, 20}, connection); // fonts, styles and caches that any form shares
+    // Fonts, styles and caches that any form shares.
+    FormMaker(Maker::Widgets, {1, 20}, argv[5]).show();
+    FormMaker maker(static_cast<Maker>(std::atoi(argv[2])), size, argv[5]);
     const std::size_t before = heapInUse();
-    const auto form = showForm(argv[2], size, connection);
+    const auto form = maker.show();
     std::printf("%zu\n", heapInUse() - before);
     return 0;
 }

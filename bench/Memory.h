@@ -1,14 +1,15 @@
 #pragma once
 
+#include "ShownForms.h"
 #include "Size.h"
 
 #include <optional>
-#include <string>
 
 namespace Korvane::Bench {
 
-/// The heap that a shown form holds (`showForm`), in MiB, measured in a process of its own.
-double formMemory(const std::string& by, const Size& size);
+/// The heap that a shown form holds in MiB, without what it is made from; measured in a process of its
+/// own.
+double formMemory(Maker maker, const Size& size);
 
 /// What that process does: nothing unless it was started to measure, else its exit code. Needs an
 /// application.

@@ -3,6 +3,7 @@
 #include "Size.h"
 
 #include <korvane/ado/Connection.h>
+#include <korvane/nip/cNIP.h>
 
 #include <QWidget>
 
@@ -11,9 +12,28 @@
 
 namespace Korvane::Bench {
 
-/// Makes a form of that size, fills it and shows it, painted, on its first tab. `by` is "korvane", the Nip
-/// panel from an open connection to the loaded encounter, or "widgets", the bare widgets of Qt.
-std::unique_ptr<QWidget> showForm(const std::string& by, const Size& size,
-                                  const std::shared_ptr<ado::Connection>& connection);
+/// Who makes a form, and what it is made from.
+enum class Maker {
+    Tabs,    ///< the Nip's tabs, from a loaded model
+    Panel,   ///< the whole Nip panel, from an open connection
+    Widgets, ///< the bare widgets of Qt, all of them, from nothing
+};
+
+/// Makes forms of one size: filled with an encounter, shown and painted on their first tab.
+class FormMaker {
+  public:
+    /// Gets ready what the form is made from.
+    FormMaker(Maker maker, const Size& size, const std::string& database);
+
+    std::unique_ptr<QWidget> show();
+
+  private:
+    std::unique_ptr<QWidget> make();
+
+    Maker mMaker;
+    Size mSize;
+    std::shared_ptr<ado::Connection> mConnection;
+    cNIP mNip;
+};
 
 } // namespace Korvane::Bench

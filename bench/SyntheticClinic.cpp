@@ -12,6 +12,7 @@
 #include <iostream>
 #include <map>
 #include <stdexcept>
+#include <vector>
 
 namespace Korvane::Bench {
 
@@ -123,6 +124,9 @@ void make(const std::string& path, const Size& size) {
 const std::string& databaseOf(const Size& size) {
     static const Directory directory;
     static std::map<std::string, std::string> made;
+    // While one connection stays, the write-ahead log does too: as on any day in a clinic, no run begins with
+    // making a new one.
+    static std::vector<BareSqlite> open;
     std::string& path = made[size.name()];
     if (path.empty()) {
         const fs::path file = directory.path() / (size.name() + ".db");
@@ -133,6 +137,7 @@ const std::string& databaseOf(const Size& size) {
             fs::rename(unfinished, file);
         }
         path = file;
+        open.emplace_back(path);
     }
     return path;
 }

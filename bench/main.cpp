@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     std::vector<char*> arguments{argv[0]};
     char interleaving[] = "--benchmark_enable_random_interleaving=true";
     char repetitions[] = "--benchmark_repetitions=7";
-    char shortly[] = "--benchmark_min_time=0.1";
+    char shortly[] = "--benchmark_min_time=0.2";
     arguments.insert(arguments.end(), {interleaving, repetitions, shortly});
     arguments.insert(arguments.end(), argv + 1, argv + argc);
     int count = static_cast<int>(arguments.size());
