@@ -25,6 +25,16 @@ std::string amount(const std::string& work, double value) {
     return text;
 }
 
+// Work of the processor alone is timed by the processor's own clock, so that other processes do not count;
+// where the disk decides, the benchmark asks for real time.
+double figureOf(const benchmark::BenchmarkReporter::Run& run) {
+    const auto memory = run.counters.find("MiB");
+    if (memory != run.counters.end()) return memory->second.value;
+    const bool realTime = !run.run_name.time_type.empty();
+    const double seconds = realTime ? run.real_accumulated_time : run.cpu_accumulated_time;
+    return seconds / static_cast<double>(run.iterations);
+}
+
 } // namespace
 
 bool RatioTable::ReportContext(const Context&) {
@@ -39,10 +49,7 @@ void RatioTable::ReportRuns(const std::vector<Run>& runs) {
             std::fprintf(stderr, "%s: %s\n", name.c_str(), run.error_message.c_str());
             continue;
         }
-        const auto memory = run.counters.find("MiB");
-        mSeconds[name].push_back(memory != run.counters.end()
-                                     ? memory->second.value
-                                     : run.real_accumulated_time / static_cast<double>(run.iterations));
+        mFigures[name].push_back(figureOf(run));
         remember(name);
     }
 }
@@ -61,11 +68,11 @@ void RatioTable::remember(const std::string& name) {
 }
 
 double RatioTable::median(const std::string& work, const std::string& size, const std::string& by) const {
-    const auto found = mSeconds.find(fullName(work, size, by));
-    if (found == mSeconds.end()) return 0;
-    std::vector<double> seconds = found->second;
-    const auto middle = seconds.begin() + static_cast<std::ptrdiff_t>(seconds.size() / 2);
-    std::nth_element(seconds.begin(), middle, seconds.end());
+    const auto found = mFigures.find(fullName(work, size, by));
+    if (found == mFigures.end()) return 0;
+    std::vector<double> figures = found->second;
+    const auto middle = figures.begin() + static_cast<std::ptrdiff_t>(figures.size() / 2);
+    std::nth_element(figures.begin(), middle, figures.end());
     return *middle;
 }
 

@@ -28,7 +28,7 @@ class RatioTable : public benchmark::BenchmarkReporter {
     double median(const std::string& work, const std::string& size, const std::string& by) const;
 
     std::vector<Work> mWorks;
-    std::map<std::string, std::vector<double>> mSeconds; ///< by full name
+    std::map<std::string, std::vector<double>> mFigures; ///< by full name
 };
 
 } // namespace Korvane::Bench
