@@ -40,18 +40,21 @@ const Variant& emptyList() {
 
 void splitChoices(FieldRecord& field) {
     const bool several = holdsChoices(field.displayType);
-    if (several && field.value.isText() && !trim(field.value.asText()).empty()) {
-        if (!field.choiceList.isArray()) field.choiceList = emptyList();
-        VariantArray& list = field.choiceList.array();
-        list.lowerBound = 0;
-        split(field.value.asText(), list);
-        if (list.elements.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
-            throw RuntimeError(RuntimeError::Overflow);
-        field.choiceListCount = static_cast<std::int16_t>(list.elements.size());
-    } else if (several || field.choiceListCount != 0) {
+    if (!several && field.choiceListCount == 0) return;
+    const std::string converted = !several || field.value.isText() ? "" : field.value.textOrEmpty();
+    const std::string& text = field.value.isText() ? field.value.asText() : converted;
+    if (!several || trim(text).empty()) {
         field.choiceList = emptyList();
         field.choiceListCount = 0;
+        return;
     }
+    if (!field.choiceList.isArray()) field.choiceList = emptyList();
+    VariantArray& list = field.choiceList.array();
+    list.lowerBound = 0;
+    split(text, list);
+    if (list.elements.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
+        throw RuntimeError(RuntimeError::Overflow);
+    field.choiceListCount = static_cast<std::int16_t>(list.elements.size());
 }
 
 std::string joinChoices(const FieldRecord& field) {

@@ -55,8 +55,9 @@ FieldList GetFieldList(const GroupRecord& group) {
 }
 
 bool hasInitialValueRule(const GroupRecord& group) {
-    return std::any_of(group.fields.begin() + 1, group.fields.begin() + 1 + group.fieldCount,
-                       [](const FieldRecord& field) { return field.initialValueRule != 0; });
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(group.fieldCount); ++i)
+        if (group.fields[i].initialValueRule != 0) return true;
+    return false;
 }
 
 void encounterStatement(const FieldList& list, std::int32_t encounterID, std::string& statement) {

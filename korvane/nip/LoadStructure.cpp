@@ -151,10 +151,11 @@ void cNIP::loadFields(FieldIndex& index) {
 
 FieldRecord& cNIP::appendField(GroupRecord& group) {
     const std::int16_t count = raised(group.fieldCount);
-    group.fields.resize(static_cast<std::size_t>(count) + 1);
+    const auto index = static_cast<std::size_t>(count);
+    if (index >= group.fields.size()) group.fields.resize(index + 1);
     group.fieldCount = count;
     mFieldCountMax = std::max(mFieldCountMax, count);
-    return group.fields.back();
+    return group.fields[index];
 }
 
 /// A comment field stands beside the field that it comments, if that was loaded before; any other begins a

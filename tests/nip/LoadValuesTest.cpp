@@ -105,6 +105,9 @@ TEST_F(LoadValues, FillsANewEncounterFromDefaultsAndThePatientsLatestOne) {
     ASSERT_TRUE(nip.Load(-1, "P1", true));
     EXPECT_THAT(values(), ElementsAre("", "as usual", "x|y", "")) << "a negative rule means the default";
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 2);
+    nip.DefaultValue(1, 3, 7);
+    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant("7")));
     EXPECT_TRUE(nips.user->boxes.empty());
 }
 
