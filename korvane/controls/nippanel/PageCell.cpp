@@ -109,6 +109,7 @@ void measureCaptions(std::vector<PageCell>& cells, const QWidget& page) {
 
 int placeCells(const std::vector<PageCell>& cells, const QWidget& page, QSize viewport) {
     std::vector<const PageCell*> inOrder;
+    inOrder.reserve(cells.size());
     for (const PageCell& cell : cells)
         inOrder.push_back(&cell);
     std::stable_sort(inOrder.begin(), inOrder.end(), [](const PageCell* a, const PageCell* b) {
