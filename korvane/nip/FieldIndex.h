@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <ranges>
 #include <string_view>
 #include <unordered_set>
 #include <vector>
@@ -29,8 +28,8 @@ class FieldIndex {
 
     /// Every field of that name, in no particular order.
     auto find(std::int32_t groupID, std::string_view name) const {
-        const auto [begin, end] = mPlaces.equal_range(Key{groupID, name});
-        return std::ranges::subrange(begin, end);
+        const auto [first, last] = mPlaces.equal_range(Key{groupID, name});
+        return Found<decltype(first)>{first, last};
     }
 
     /// The first field of exactly that name (case counts); null when there is none.
@@ -47,6 +46,15 @@ class FieldIndex {
     }
 
   private:
+    template <typename Iterator>
+    struct Found {
+        Iterator first;
+        Iterator last;
+        Iterator begin() const { return first; }
+        Iterator end() const { return last; }
+        bool empty() const { return first == last; }
+    };
+
     struct Key {
         std::int32_t groupID;
         std::string_view name;
