@@ -257,6 +257,19 @@ TEST(ucNIPPanel, TheKeyboardSavesAndCancelsFromEveryControl) {
     }
 }
 
+TEST(ucNIPPanel, TabGoesFromTheEncounterThroughTheEntriesToTheButtons) {
+    PanelDesk desk;
+    desk.panel.LoadNipInfo(7, "P1");
+    std::vector<std::string> order;
+    for (QWidget* w = desk.description().nextInFocusChain(); w != &desk.description();
+         w = w->nextInFocusChain())
+        if (w->focusPolicy() & Qt::TabFocus && w->isVisible() && w->isEnabled() &&
+            !w->objectName().startsWith("qt_"))
+            order.push_back(utf8(w->objectName()));
+    EXPECT_THAT(order, ElementsAre("pvdateEncounter", "pvcEncounterInfo", "atNips", "txtNip(0)",
+                                   "cmdNipButton(0)", "cmdNipButton(1)", "cmdNipButton(2)", "cmdCloseNip"));
+}
+
 TEST(ucNIPPanel, DoesNothingWhileTheHostDesignsItsForm) {
     PanelDesk desk;
     desk.panel.LoadNipInfo(7, "P1");

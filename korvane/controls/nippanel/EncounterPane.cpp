@@ -31,7 +31,7 @@ QComboBox* makeProviderCombo(QWidget* parent) {
     auto* combo = new QComboBox(parent);
     combo->setPlaceholderText("Choose a provider");
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(24);
+    combo->setMinimumContentsLength(20);
     combo->setIconSize(QSize(0, 0)); // none are shown, but room for them would be kept
     combo->setFocusPolicy(Qt::StrongFocus);
     return combo;
