@@ -6,7 +6,7 @@ QDateTime qt(Date date) {
     const Date::Parts p = date.parts();
     const QDate day(p.year, p.month, p.day);
     const QTime time(p.hour, p.minute, p.second);
-    const QDateTime exact(day, time);
+    QDateTime exact(day, time);
     if (exact.isValid()) return exact;
     // Inside the hour that the local zone skips in spring: shown an hour on, as the zone's clock would.
     return QDateTime(day, time.addSecs(3600));
