@@ -66,7 +66,7 @@ void Actions::fillMenus(QMainWindow& window) const {
     nip->addActions({newNip, openNip, saveNip, closeNip});
     nip->addSeparator();
     nip->addAction(quit);
-    QMenu* patients = window.menuBar()->addMenu(tr("&Patients"));
+    QMenu* patients = window.menuBar()->addMenu(tr("P&atients"));
     patients->addActions({findPatient, reload});
     QMenu* view = window.menuBar()->addMenu(tr("&View"));
     view->addActions({largerText, smallerText, usualText});

@@ -27,6 +27,7 @@ void showKeys(QWidget& window) {
     }
     rows += line(tr("Down"), tr("From the search box into the list of patients"));
     rows += line(tr("Enter"), tr("On a patient: to the encounters. On an encounter: opens its Nip"));
+    rows += line(tr("Ctrl+Tab"), tr("In a Nip: to the next group"));
     rows += line(tr("Alt and a letter"),
                  tr("Opens the menu, or goes to the control, with that letter underlined"));
     QMessageBox box(QMessageBox::NoIcon, tr("Keyboard"), QStringLiteral("<table>%1</table>").arg(rows),

@@ -52,8 +52,9 @@ void MainWindow::build(const QString& databaseName) {
     mSides->setChildrenCollapsible(false);
     mLists->setChildrenCollapsible(false);
     setCentralWidget(mSides);
-    auto* database = new QLabel(databaseName, this);
+    auto* database = new QLabel(databaseName.section(u'/', -1), this);
     database->setTextFormat(Qt::PlainText);
+    database->setToolTip(databaseName);
     statusBar()->addPermanentWidget(database);
     fitIcons();
 }
@@ -141,11 +142,11 @@ void MainWindow::newNip() {
     if (mDesk->createNip()) mEncounters->choose(-1);
 }
 
-void MainWindow::nipClosed() {
+void MainWindow::nipClosed(bool hadFocus) {
     mEncounters->setOpen(-1);
     if (mDesk->hasPatient()) readEncountersOfPatient();
     refresh();
-    mEncounters->takeFocus();
+    if (hadFocus) mEncounters->takeFocus();
 }
 
 void MainWindow::refresh() {

@@ -45,7 +45,7 @@ class MainWindow : public QMainWindow {
     void openEncounter(qint32 encounterID);
     void newNip();
     void readEncountersOfPatient();
-    void nipClosed();
+    void nipClosed(bool hadFocus);
     void refresh();
     void say(const QString& message);
 

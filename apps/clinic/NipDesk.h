@@ -53,7 +53,8 @@ class NipDesk : public QWidget {
 
   signals:
     void nipOpened();
-    void nipClosed();
+    /// `hadFocus`: the user was in the Nip until then.
+    void nipClosed(bool hadFocus);
     void nipCreated(qint32 encounterID);
     void nipRenamed(qint32 encounterID, const QString& description, Korvane::Date date);
     void modifiedChanged();

@@ -34,7 +34,8 @@ Options readOptions(const QStringList& arguments) {
                                   tr("Drive the window through the main job by itself, on a fresh database, "
                                      "and leave a picture of each step in this directory."),
                                   QStringLiteral("dir"));
-    const QCommandLineOption scale(QStringLiteral("font-scale"), tr("Text size in percent, 70 to 300."),
+    const QCommandLineOption scale(QStringLiteral("font-scale"),
+                                   tr("Text size in percent, 70 to 300; kept for the next start."),
                                    QStringLiteral("percent"));
     parser.addOptions({database, tour, scale});
     parser.process(arguments);

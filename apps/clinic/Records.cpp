@@ -69,6 +69,7 @@ std::optional<std::vector<PatientLine>> readPatients(const Connection& connectio
     }
     std::sort(keyed.begin(), keyed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<PatientLine> patients;
+    patients.reserve(keyed.size());
     for (auto& [key, patient] : keyed)
         patients.push_back(std::move(patient));
     return patients;

@@ -82,6 +82,12 @@ void RowTable::paintEvent(QPaintEvent* event) {
                      Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap, mEmptyText);
 }
 
+// Home and End go to the first and the last row; a table's own go along the row.
+QModelIndex RowTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const bool alongTheRow = action == MoveHome || action == MoveEnd;
+    return QTableView::moveCursor(action, alongTheRow ? modifiers | Qt::ControlModifier : modifiers);
+}
+
 void RowTable::initViewItemOption(QStyleOptionViewItem* option) const {
     QTableView::initViewItemOption(option);
     if (hasFocus()) return;

@@ -1,7 +1,8 @@
 #include "ClinicWindow.h"
 
 #include <QComboBox>
-#include <QTabBar>
+#include <QMenuBar>
+#include <QSet>
 
 #include <gmock/gmock.h>
 
@@ -128,6 +129,49 @@ TEST_F(MainWindow, LetsTheKeyboardGoRoundThePanesAndComeBack) {
     EXPECT_EQ(round, (QStringList{"encounters", "txtEncounterInfo", "searchPatient"}));
     press(Qt::Key_F6, Qt::ShiftModifier);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtEncounterInfo");
+}
+
+TEST_F(MainWindow, LetsTheKeyboardWalkThroughThePatientsWhileANipIsOpen) {
+    openNewest("P-0007");
+    part<QTableView>("patients").setFocus();
+    press(Qt::Key_Home);
+    EXPECT_FALSE(isNipOpen());
+    EXPECT_EQ(chosen("patients", ID), "P-0001");
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "patients");
+    press(Qt::Key_Down);
+    EXPECT_NE(chosen("patients", ID), "P-0001");
+    EXPECT_THAT(header(), HasSubstr(chosen("patients", ID)));
+}
+
+TEST_F(MainWindow, GivesEveryUnderlinedLetterOnce) {
+    openNewest("P-0007");
+    QStringList letters;
+    const auto add = [&](const QString& text) {
+        const QKeySequence letter = QKeySequence::mnemonic(text);
+        if (!letter.isEmpty()) letters << letter.toString();
+    };
+    for (const auto* menu : window->menuBar()->actions())
+        add(menu->text());
+    for (const auto* label : window->findChildren<QLabel*>())
+        if (label->isVisible() && label->buddy()) add(label->text());
+    for (const auto* button : window->findChildren<QAbstractButton*>())
+        if (button->isVisible()) add(button->text());
+    EXPECT_GE(letters.size(), 8);
+    EXPECT_EQ(QSet<QString>(letters.begin(), letters.end()).size(), letters.size())
+        << letters.join(' ').toStdString();
+}
+
+TEST_F(MainWindow, FitsItsUsualSizeAtTwiceTheTextSizeWhateverTheName) {
+    const QFont usual = QApplication::font();
+    for (int i = 0; i < 5; ++i)
+        press(Qt::Key_Plus, Qt::ControlModifier);
+    for (const char* patient : {"P-0005", "P-0016"}) {
+        openNewest(patient);
+        QTest::qWait(10);
+        EXPECT_LE(window->minimumSizeHint().width(), 1280) << patient;
+        EXPECT_LE(window->minimumSizeHint().height(), 800) << patient;
+    }
+    QApplication::setFont(usual);
 }
 
 TEST_F(MainWindow, KeepsTextSizeAndPlaceForTheNextStart) {
