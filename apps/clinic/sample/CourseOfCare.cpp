@@ -72,6 +72,7 @@ double CourseOfCare::bodyMassIndex() const {
 
 std::vector<std::string> CourseOfCare::answers(const FormDefinition& form, Korvane::Date day) {
     mDay = day;
+    if (mVisits == 0) mEnrolled = day;
     if (form.group == "PHQ-9") return phq9(form);
     std::vector<std::string> values;
     for (const FieldDefinition& field : form.fields)
@@ -129,6 +130,7 @@ std::string CourseOfCare::vitalSign(const FieldDefinition& field) {
 std::string CourseOfCare::demographic(const FieldDefinition& field) {
     const std::string& name = field.name;
     if (name == "study_id") return "S" + mPatient.id.substr(2);
+    if (name == "date_enrolled") return isoDay(mEnrolled);
     if (name == "first_name") return mPatient.firstName;
     if (name == "last_name") return mPatient.lastName;
     if (name == "telephone_1") return mPatient.phone;
@@ -142,10 +144,7 @@ std::string CourseOfCare::demographic(const FieldDefinition& field) {
     if (name == "bmi") return oneDecimal(bodyMassIndex());
     if (name == "comments")
         return mRandom.chance(20) ? "Patient's daughter will call.\nNext visit in 6 weeks." : "";
-    if (std::string& kept = name == "race" ? mRace : mEthnicity; name == "race" || name == "ethnicity") {
-        if (kept.empty()) kept = mRandom.pick(field.values);
-        return kept;
-    }
+    if (name == "race" || name == "ethnicity") return field.values.back();
     return field.values.empty() ? std::string() : listed(field);
 }
 

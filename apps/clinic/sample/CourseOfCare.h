@@ -34,12 +34,12 @@ class CourseOfCare {
     const Patient& mPatient;
     Random& mRandom;
     Korvane::Date mDay;
+    Korvane::Date mEnrolled; ///< the day of the first encounter
     int mVisits = 0;
     int mHeightCm;
     double mWeightKg;
     int mSystolic;
     int mMood; ///< 0 well to 3 low
-    std::string mEthnicity, mRace;
     std::vector<std::string> mProblems;
     std::vector<std::string> mPhq9; ///< as last asked
 };

@@ -17,8 +17,8 @@ std::string text(const QJsonObject& object, const char* key) {
 }
 
 QJsonObject extension(const QJsonObject& item, QLatin1String name) {
-    for (const QJsonValue& each : item[QLatin1String("extension")].toArray()) {
-        const QJsonObject found = each.toObject();
+    for (const auto& each : item[QLatin1String("extension")].toArray()) {
+        QJsonObject found = each.toObject();
         if (found[QLatin1String("url")].toString().endsWith(name)) return found;
     }
     return {};
@@ -33,7 +33,7 @@ bool isDropDown(const QJsonObject& item) {
 
 std::string answerText(const QJsonObject& option) {
     const QJsonObject coding = option[QLatin1String("valueCoding")].toObject();
-    const std::string display = text(coding, "display");
+    std::string display = text(coding, "display");
     if (!display.empty()) return display;
     if (!coding.isEmpty()) return text(coding, "code");
     const QJsonValue number = option[QLatin1String("valueInteger")];
@@ -41,7 +41,7 @@ std::string answerText(const QJsonObject& option) {
 }
 
 void readAnswers(const QJsonObject& item, FieldDefinition& field) {
-    for (const QJsonValue& each : item[QLatin1String("answerOption")].toArray()) {
+    for (const auto& each : item[QLatin1String("answerOption")].toArray()) {
         const QJsonObject option = each.toObject();
         field.values.push_back(answerText(option));
         if (option[QLatin1String("initialSelected")].toBool()) field.defaultValue = field.values.back();
@@ -69,7 +69,7 @@ int maxLength(const QJsonObject& item) {
 }
 
 void readItems(const QJsonArray& items, FieldNames& names, FormDefinition& form) {
-    for (const QJsonValue& each : items) {
+    for (const auto& each : items) {
         const QJsonObject item = each.toObject();
         FieldDefinition field;
         field.displayType = displayType(item);

@@ -39,7 +39,7 @@ FieldDefinition question(const QJsonObject& item, FieldNames& names) {
     const QJsonArray answers = item[QLatin1String("answers")].toArray();
     if (!answers.isEmpty())
         field.displayType = text(item, "dataType") == "CWE" ? "COMBOBOX" : "COMBOBOX-RESTRICTED";
-    for (const QJsonValue& answer : answers)
+    for (const auto& answer : answers)
         field.values.push_back(text(answer.toObject(), "text"));
     return field;
 }
@@ -50,7 +50,7 @@ FieldDefinition unitChoice(const FieldDefinition& measured, const QJsonArray& un
     choice.name = measured.name + "_COMMENTS";
     choice.caption = "Unit";
     choice.displayType = "COMBOBOX";
-    for (const QJsonValue& each : units) {
+    for (const auto& each : units) {
         choice.values.push_back(unitText(each.toObject()));
         if (each[QLatin1String("default")].toBool()) choice.defaultValue = choice.values.back();
     }
@@ -58,7 +58,7 @@ FieldDefinition unitChoice(const FieldDefinition& measured, const QJsonArray& un
 }
 
 void readItems(const QJsonArray& items, FieldNames& names, FormDefinition& form) {
-    for (const QJsonValue& each : items) {
+    for (const auto& each : items) {
         const QJsonObject item = each.toObject();
         if (!item[QLatin1String("header")].toBool()) {
             const QJsonArray units = item[QLatin1String("units")].toArray();
