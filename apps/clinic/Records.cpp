@@ -64,7 +64,8 @@ std::optional<std::vector<PatientLine>> readPatients(const Connection& connectio
     for (; !query.Eof(); query.NextRow()) {
         PatientLine patient{text(query, "PatientID"), text(query, "LastName"), text(query, "FirstName"),
                             date(query, "BirthDate")};
-        const QString key = fold(patient.name()) + u'\n' + patient.id;
+        const QString key =
+            QStringList{fold(patient.lastName), fold(patient.firstName), patient.id}.join(u'\n');
         keyed.emplace_back(key, std::move(patient));
     }
     std::sort(keyed.begin(), keyed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
