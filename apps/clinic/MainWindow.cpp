@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
@@ -118,6 +119,7 @@ void MainWindow::reload() {
 }
 
 void MainWindow::choosePatient(const PatientLine& patient) {
+    const QScopedValueRollback choosing(mChoosingPatient, true);
     if (!mDesk->setPatient(patient)) return;
     mPatients->choose(patient.id);
     mEncounters->clear();
@@ -142,11 +144,12 @@ void MainWindow::newNip() {
     if (mDesk->createNip()) mEncounters->choose(-1);
 }
 
-void MainWindow::nipClosed(bool hadFocus) {
+// The focus goes on to the encounters, unless the user is walking through the patients.
+void MainWindow::nipClosed() {
     mEncounters->setOpen(-1);
-    if (mDesk->hasPatient()) readEncountersOfPatient();
+    if (!mChoosingPatient) readEncountersOfPatient();
     refresh();
-    if (hadFocus) mEncounters->takeFocus();
+    if (!mChoosingPatient) mEncounters->takeFocus();
 }
 
 void MainWindow::refresh() {

@@ -45,7 +45,7 @@ class MainWindow : public QMainWindow {
     void openEncounter(qint32 encounterID);
     void newNip();
     void readEncountersOfPatient();
-    void nipClosed(bool hadFocus);
+    void nipClosed();
     void refresh();
     void say(const QString& message);
 
@@ -58,6 +58,7 @@ class MainWindow : public QMainWindow {
     NipDesk* mDesk;
     PaneCycle* mPanes;
     std::unique_ptr<Actions> mActions;
+    bool mChoosingPatient = false;
 };
 
 } // namespace Clinic

@@ -126,10 +126,9 @@ bool NipDesk::show(bool done, qint32 encounterID) {
 
 // Also when a Nip could not be shown: the panel then shows none, and has told the user why.
 void NipDesk::leave() {
-    const bool hadFocus = mPanel->isAncestorOf(window()->focusWidget());
     mEncounter = -1;
     mStack->setCurrentIndex(0);
-    emit nipClosed(hadFocus);
+    emit nipClosed();
 }
 
 void NipDesk::saveNip() {

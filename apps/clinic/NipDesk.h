@@ -53,8 +53,7 @@ class NipDesk : public QWidget {
 
   signals:
     void nipOpened();
-    /// `hadFocus`: the user was in the Nip until then.
-    void nipClosed(bool hadFocus);
+    void nipClosed();
     void nipCreated(qint32 encounterID);
     void nipRenamed(qint32 encounterID, const QString& description, Korvane::Date date);
     void modifiedChanged();

@@ -37,6 +37,7 @@ TEST_F(MainWindow, ListsANewNipAndChoosesItOnceItIsSaved) {
     EXPECT_FALSE(isNipOpen());
     EXPECT_EQ(part<QTableView>("encounters").model()->rowCount(), before + 1);
     EXPECT_EQ(chosen("encounters", Description), "Brought a letter");
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "encounters");
     EXPECT_EQ(
         number("Select Count(*) From Encounter Where PatientID='P-0007' And Description='Brought a letter'"),
         1);
