@@ -23,17 +23,21 @@ void forEachColumn(const GroupRecord& group, Add&& add) {
     }
 }
 
-std::string updateStatement(const GroupRecord& group, std::int32_t encounterID) {
-    SQLData lists;
+// `lists` is one for all groups: long lists are made in storage that is there already.
+std::string updateStatement(SQLData& lists, const GroupRecord& group, std::int32_t encounterID) {
+    lists.UpdateListClear();
     forEachColumn(group,
                   [&](std::string_view column, const Variant& value) { lists.UpdateListAdd(column, value); });
     raiseFailure(lists);
-    return "Update " + group.fieldList->tableName + " Set " + lists.UpdateListGet() +
-           " Where EncounterID=" + std::to_string(encounterID);
+    const std::string& list = lists.UpdateListGet();
+    std::string statement;
+    statement.reserve(list.size() + group.fieldList->tableName.size() + 50);
+    statement.append("Update ").append(group.fieldList->tableName).append(" Set ").append(list);
+    return statement.append(" Where EncounterID=").append(std::to_string(encounterID));
 }
 
-std::string insertStatement(const GroupRecord& group, std::int32_t encounterID) {
-    SQLData lists;
+std::string insertStatement(SQLData& lists, const GroupRecord& group, std::int32_t encounterID) {
+    lists.InsertListClear();
     forEachColumn(group,
                   [&](std::string_view column, const Variant& value) { lists.InsertListAdd(column, value); });
     lists.InsertListAdd("EncounterID", encounterID);
@@ -59,17 +63,18 @@ bool cNIP::Save() {
 void cNIP::saveValues() {
     std::vector<const GroupRecord*> groups;
     std::vector<std::string> updates;
+    SQLData lists;
     for (std::size_t i = 1; i < mGroups.size(); ++i) {
         if (fieldListOf(mGroups[i]).columns.empty()) continue;
         groups.push_back(&mGroups[i]);
-        updates.push_back(updateStatement(mGroups[i], mEncounterID));
+        updates.push_back(updateStatement(lists, mGroups[i], mEncounterID));
     }
     mConnection->Announce(updates);
     for (std::size_t i = 0; i < groups.size(); ++i) {
         SQLData query;
         run(query, mConnection, updates[i], true);
         if (query.RecordsAffected() == 0)
-            run(query, mConnection, insertStatement(*groups[i], mEncounterID), true);
+            run(query, mConnection, insertStatement(lists, *groups[i], mEncounterID), true);
     }
 }
 
