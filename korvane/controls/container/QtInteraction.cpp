@@ -103,8 +103,9 @@ std::optional<std::string> QtInteraction::InputBox(std::string_view prompt, std:
 
 void QtInteraction::installOnce() {
     const auto before = Interaction::install(nullptr);
+    const Interaction& installed = before ? *before : Interaction::current();
     const Interaction& byDefault = Interaction::current();
-    const bool wasDefault = !before || typeid(*before) == typeid(byDefault);
+    const bool wasDefault = typeid(installed) == typeid(byDefault);
     Interaction::install(wasDefault ? std::make_shared<QtInteraction>() : before);
 }
 
