@@ -3,6 +3,7 @@
 #include <korvane/data/ErrLog.h>
 #include <korvane/nip/Choices.h>
 #include <korvane/nip/Query.h>
+#include <korvane/runtime/HeldMessages.h>
 #include <korvane/runtime/RuntimeError.h>
 
 namespace Korvane {
@@ -53,6 +54,7 @@ bool cNIP::Save() {
             throw RuntimeError(RuntimeError::InvalidProcedureCall, "The structure is not loaded");
         if (mEncounterID == -1)
             throw RuntimeError(RuntimeError::InvalidProcedureCall, "The encounter is not stored yet");
+        const HeldMessages messages;
         ado::Transaction work(*mConnection);
         saveValues();
         work.commit();

@@ -128,6 +128,9 @@ TEST(SavingANip, AFailedFirstSaveKeepsEverythingAndTheNextInsertsAnew) {
                                trigger("encounter refused", "Insert On Encounter"), lock()}) {
         SCOPED_TRACE(c.name);
         PanelDesk desk;
+        desk.user->whenShown = [&] {
+            EXPECT_EQ(desk.db->transactionLevel(), 0) << "others wait for the user";
+        };
         desk.enterNewNip();
         c.begin(desk);
         desk.save();

@@ -142,6 +142,7 @@ TEST(SaveValues, WritesNothingAtAllWhenAStatementFails) {
     nip.EncounterID(1);
     ASSERT_TRUE(nip.Save());
 
+    nips.user->whenShown = [&] { EXPECT_EQ(nips.db->transactionLevel(), 0) << "others wait for the user"; };
     setAll(nip, "new");
     nips.db->failOn = "Update NIP_Custom3";
     EXPECT_FALSE(nip.Save());

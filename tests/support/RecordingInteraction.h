@@ -3,6 +3,7 @@
 #include <korvane/runtime/Interaction.h>
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -35,9 +36,12 @@ class RecordingInteraction : public Interaction {
     std::vector<ShownInput> inputs;
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> texts;
+    /// Runs while a message box is up.
+    std::function<void()> whenShown;
 
     Answer MsgBox(std::string_view text, int style, std::string_view title) override {
         boxes.push_back({std::string(text), style, std::string(title)});
+        if (whenShown) whenShown();
         if (answers.empty()) return refusal(style);
         return takeFront(answers);
     }

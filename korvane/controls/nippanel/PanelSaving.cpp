@@ -7,6 +7,7 @@
 #include <korvane/controls/nippanel/NipTabs.h>
 #include <korvane/controls/nippanel/PanelForm.h>
 #include <korvane/controls/nippanel/Routine.h>
+#include <korvane/runtime/HeldMessages.h>
 #include <korvane/runtime/Interaction.h>
 #include <korvane/runtime/Variant.h>
 
@@ -62,6 +63,7 @@ bool ucNIPPanel::Members::storeAll() {
 
 bool ucNIPPanel::Members::storeEncounter() {
     return routine("Error in ucNipPanel.SaveEncounterInfo: ", false, [&] {
+        const HeldMessages messages;
         const Hourglass hourglass;
         ado::Transaction work(*connection);
         if (!mEncounter->Save() || !mEncounter->Stored() || !storeValues()) return false;
