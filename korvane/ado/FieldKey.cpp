@@ -9,8 +9,12 @@ FieldKey::FieldKey(const Variant& key) {
         mName = key.asText();
         return;
     }
-    if (key.isEmpty() || key.isNull()) throw RuntimeError(RuntimeError::TypeMismatch);
-    mOrdinal = key.toInt32();
+    if (key.isEmpty()) return; // would count as 0
+    try {
+        mOrdinal = key.toInt32();
+    } catch (const RuntimeError&) {
+        // No field has it: whoever looks it up says so.
+    }
 }
 
 std::string FieldKey::text() const {

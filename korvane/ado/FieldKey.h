@@ -14,11 +14,13 @@ namespace Korvane::ado {
 ///     rs.Value("PatientID");   rs.Value(2);
 class FieldKey {
   public:
-    FieldKey(const char* name) : mName(name) {}
+    /// A null pointer names no field.
+    FieldKey(const char* name) : mName(name ? std::string_view(name) : std::string_view()) {}
     FieldKey(std::string_view name) : mName(name) {}
     FieldKey(const std::string& name) : mName(name) {}
     FieldKey(int ordinal) : mOrdinal(ordinal) {}
-    /// Text is a name, any number an ordinal (rounded). TypeMismatch otherwise.
+    /// Text is a name, any number an ordinal (rounded). Anything else, and a number too large, names no
+    /// field: the look-up raises ItemNotFound.
     FieldKey(const Variant& key);
 
     bool isOrdinal() const { return mOrdinal >= 0 || mName.data() == nullptr; }

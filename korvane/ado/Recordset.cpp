@@ -98,7 +98,7 @@ bool Recordset::Supports(std::int32_t capabilities) const {
     const bool counted =
         open.cursor->cursorType() == CursorType::Static || open.cursor->cursorType() == CursorType::Keyset;
     std::int32_t there = counted ? Bookmark + ApproximatePosition : 0;
-    if (open.cursor->lockType() != LockType::ReadOnly) there += Update_;
+    if (open.cursor->lockType() != LockType::ReadOnly) there += Updating;
     return (capabilities & ~there) == 0;
 }
 
@@ -140,15 +140,15 @@ void Recordset::Value(const FieldKey& key, Variant& value) const {
     if (!ValueUnlessEof(key, value)) throw RuntimeError(RuntimeError::NoCurrentRecord);
 }
 
-bool Recordset::ValueUnlessEof(const FieldKey& key, Variant& value) const {
+std::optional<int> Recordset::ValueUnlessEof(const FieldKey& key, Variant& value) const {
     const Opened& open = opened();
-    if (open.cursor->atEnd()) return false;
+    if (open.cursor->atEnd()) return std::nullopt;
     const int ordinal = ordinalOf(*open.cursor, key);
     if (const FieldChange* change = open.pendingFor(ordinal))
         value = change->value;
     else
         open.cursor->value(ordinal, value);
-    return true;
+    return ordinal;
 }
 
 void Recordset::SetValue(const FieldKey& key, const Variant& value) {

@@ -50,7 +50,7 @@ class Field {
 class Recordset : public std::enable_shared_from_this<Recordset> {
   public:
     /// Codes of `Supports`.
-    enum Capability : std::int32_t { Update_ = 16777216, Bookmark = 8192, ApproximatePosition = 16384 };
+    enum Capability : std::int32_t { Updating = 16777216, Bookmark = 8192, ApproximatePosition = 16384 };
 
     static std::shared_ptr<Recordset> create();
     ~Recordset();
@@ -95,8 +95,9 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     Variant Value(const FieldKey& key) const;
     /// The same into a variant whose storage is reused: for walking many rows.
     void Value(const FieldKey& key, Variant& value) const;
-    /// The same, but at the end it gives false and leaves `value` alone.
-    bool ValueUnlessEof(const FieldKey& key, Variant& value) const;
+    /// The same, and the field's ordinal; at the end nothing, with `value` left alone. The key may be a view
+    /// of the text in `value`: it is done with by then.
+    std::optional<int> ValueUnlessEof(const FieldKey& key, Variant& value) const;
     /// Changes the current row; written by `Update`. ReadOnlyRecordset unless opened for writing.
     void SetValue(const FieldKey& key, const Variant& value);
 

@@ -2,6 +2,7 @@
 
 #include <korvane/runtime/RuntimeError.h>
 
+#include <iterator>
 #include <limits>
 
 namespace Korvane {
@@ -12,8 +13,9 @@ namespace {
 Variant extreme(const Variant& values, Comparison beaten) {
     using Bounds = std::numeric_limits<std::int16_t>;
     const VariantArray& array = values.array();
-    if (array.upperBound() == 0) return std::int16_t{-1};
-    if (array.lowerBound < Bounds::min() || array.upperBound() > Bounds::max())
+    const std::int64_t upperBound = std::int64_t{array.lowerBound} + std::ssize(array.elements) - 1;
+    if (upperBound == 0) return std::int16_t{-1};
+    if (array.lowerBound < Bounds::min() || upperBound > Bounds::max())
         throw RuntimeError(RuntimeError::Overflow);
     const Variant* kept = &array.at(array.lowerBound);
     for (const Variant& element : array.elements)

@@ -110,9 +110,10 @@ const Variant& SQLData::DataView(const ado::FieldKey& key) {
     if (!readable(kNothingToRead)) return empty;
     if (isCached(key)) return mCachedValue;
     try {
-        readField(key, mCachedValue);
+        // Kept first: the key may be a view of the value that is about to be replaced.
         mCachedKey = key.name();
         mCachedOrdinal = key.isOrdinal() ? std::optional(key.ordinal()) : std::nullopt;
+        readField(key, mCachedValue);
         return mCachedValue;
     } catch (...) {
         emptyCache();
@@ -131,12 +132,13 @@ void SQLData::DataInto(const ado::FieldKey& key, Variant& value) {
 }
 
 void SQLData::readField(const ado::FieldKey& key, Variant& value) const {
-    if (!mRecordset->ValueUnlessEof(key, value)) {
+    const std::optional<int> ordinal = mRecordset->ValueUnlessEof(key, value);
+    if (!ordinal) {
         value = Variant();
         return;
     }
     if (!value.isNull()) return;
-    if (ado::IsNumericField(mRecordset->FieldType(key)))
+    if (ado::IsNumericField(mRecordset->FieldType(*ordinal)))
         value = std::int16_t{0};
     else
         value.setText("");
@@ -160,9 +162,9 @@ void SQLData::writeField(const ado::FieldKey& key, const Variant& value) {
         mPendingEdit = true;
         mRecordset->SetValue(key, value);
         emptyCache();
+    } else if (isCached(key) && !value.isNull()) { // a null written over a null keeps its stand-in
+        mCachedValue = value;
     }
-    // A null that was written over a null keeps the stand-in it is read as.
-    if (isCached(key) && !value.isNull()) mCachedValue = value;
 }
 
 std::int32_t SQLData::State() const {
@@ -246,13 +248,18 @@ void SQLData::ReportError(std::string_view description) {
 void SQLData::ReportError(RuntimeError error) {
     mLastError = std::move(error);
     if (mReported) return;
-    const std::string failure = std::to_string(mLastError->Number()) + " " + mLastError->Description();
-    Interaction::current().MsgBox(failure + "\r\n\r\nIt is recommended that you restart the " +
-                                      App::FileDescription(),
-                                  MsgBoxStyle::Critical, "");
     mReported = true;
-    appendToAppFile("err.txt",
-                    Clock::now().text() + "-SQLData Class->" + failure + "\n\t" + mStatement + "\n");
+    const std::string failure = std::to_string(mLastError->Number()) + " " + mLastError->Description();
+    // All that is needed of this object is taken now: it may be used again while the box is up.
+    const std::string line = Clock::now().text() + "-SQLData Class->" + failure + "\n\t" + mStatement + "\n";
+    try {
+        Interaction::current().MsgBox(failure + "\r\n\r\nIt is recommended that you restart the " +
+                                          App::FileDescription(),
+                                      MsgBoxStyle::Critical, "");
+    } catch (...) {
+        // That the box failed is no failure of the query.
+    }
+    appendToAppFile("err.txt", line);
 }
 
 } // namespace Korvane

@@ -1,5 +1,7 @@
 #include <korvane/data/SQLData.h>
 
+#include <korvane/runtime/Text.h>
+
 #include <charconv>
 
 namespace Korvane {
@@ -24,15 +26,6 @@ void appendInteger(std::string& list, std::int32_t number) {
     list.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
 }
 
-/// Appends with every single quote doubled.
-void appendEscaped(std::string& list, std::string_view text) {
-    for (std::size_t quote; (quote = text.find('\'')) != std::string_view::npos;) {
-        list.append(text.substr(0, quote + 1)).push_back('\'');
-        text.remove_prefix(quote + 1);
-    }
-    list.append(text);
-}
-
 void appendBare(std::string& list, const Variant& value) {
     if (const auto* number = std::get_if<std::int32_t>(&value.storage()))
         appendInteger(list, *number);
@@ -42,12 +35,11 @@ void appendBare(std::string& list, const Variant& value) {
         list.append(value.textOrEmpty());
 }
 
+/// The text is taken before anything is appended: a value that has none must not leave an open quote.
 void appendQuoted(std::string& list, const Variant& value) {
+    const std::string converted = value.isText() ? std::string() : value.textOrEmpty();
     list.push_back('\'');
-    if (value.isText())
-        appendEscaped(list, value.asText());
-    else
-        appendEscaped(list, value.textOrEmpty());
+    appendEscaped(list, value.isText() ? value.asText() : converted);
     list.push_back('\'');
 }
 
@@ -75,8 +67,8 @@ const std::string& SQLData::UpdateListGet() const {
     return mUpdateList;
 }
 
-// A value without a text (an array) is reported and leaves its place empty, so that the statement made from
-// the list cannot run.
+// A value without a text (an array, a date out of range) is reported and leaves its place empty, so that the
+// statement made from the list cannot run.
 
 void SQLData::InsertListAdd(std::string_view column, const Variant& value, std::int32_t& quoting) {
     if (quoting == Quoting::Automatic) quoting = NeedsQuotes(value);

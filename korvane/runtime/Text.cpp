@@ -40,11 +40,16 @@ std::string_view trim(std::string_view text) {
 std::string escapeQuotes(std::string_view text) {
     std::string out;
     out.reserve(text.size());
-    for (const char c : text) {
-        if (c == '\'') out += c;
-        out += c;
-    }
+    appendEscaped(out, text);
     return out;
+}
+
+void appendEscaped(std::string& statement, std::string_view text) {
+    for (std::size_t quote; (quote = text.find('\'')) != std::string_view::npos;) {
+        statement.append(text.substr(0, quote + 1)).push_back('\'');
+        text.remove_prefix(quote + 1);
+    }
+    statement.append(text);
 }
 
 } // namespace Korvane

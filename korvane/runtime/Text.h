@@ -34,5 +34,7 @@ std::string numberText(float value);
 
 /// Every single quote doubled, for a value pasted between single quotes into a statement.
 std::string escapeQuotes(std::string_view text);
+/// The same, appended to a statement that is being written.
+void appendEscaped(std::string& statement, std::string_view text);
 
 } // namespace Korvane

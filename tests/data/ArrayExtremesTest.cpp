@@ -46,6 +46,7 @@ TEST(ArrayExtremes, RaiseForWhatIsNoArrayOfSixteenBitBounds) {
     EXPECT_EQ(errorOf(array(32767, {1})), 0);
     EXPECT_EQ(errorOf(array(32767, {1, 2})), RuntimeError::Overflow);
     EXPECT_EQ(errorOf(array(-32769, {1, 2})), RuntimeError::Overflow);
+    EXPECT_EQ(errorOf(array(2147483647, {1, 2})), RuntimeError::Overflow);
     EXPECT_EQ(errorOf(Variant(3)), RuntimeError::TypeMismatch);
     EXPECT_EQ(errorOf(array(0, {})), RuntimeError::SubscriptOutOfRange);
 }

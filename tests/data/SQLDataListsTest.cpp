@@ -68,7 +68,9 @@ TEST(SQLDataLists, ReportAValueThatHasNoText) {
     SQLData query;
     query.UpdateListAdd("a", VariantArray{});
     query.InsertListAdd("a", VariantArray{});
-    EXPECT_EQ(query.UpdateListGet(), "[a]='");
+    query.InsertListAdd("b", "it's");
+    EXPECT_EQ(query.UpdateListGet(), "[a]=");
+    EXPECT_EQ(query.InsertListGet(), "([a],[b])  values ('it''s')") << "cannot be run";
     EXPECT_EQ(user->boxes.size(), 1u);
     ASSERT_TRUE(query.LastError());
     EXPECT_EQ(query.LastError()->Number(), RuntimeError::TypeMismatch);

@@ -89,6 +89,21 @@ TEST_F(SQLDataTest, KeepsAFieldReadInARowUntilTheNext) {
     EXPECT_THAT(user->boxes, IsEmpty());
 }
 
+TEST_F(SQLDataTest, TakesTheNameOfAFieldFromAFieldJustRead) {
+    const std::string name = "ANameThatIsTooLongToBeKeptInPlace", text(500, 'x');
+    db->quietly("Create Table Named (FieldName VARCHAR(90), " + name + " TEXT, NullInstead" + name +
+                " SMALLINT)");
+    db->quietly("Insert Into Named Values ('" + name + "','" + text + "',Null)");
+    SQLData query;
+    ASSERT_TRUE(run(query, "Select * From Named"));
+    EXPECT_EQ(query.Data(query.DataView("FieldName")), Variant(text));
+    EXPECT_EQ(query.Data(name), Variant(text)) << "kept under its name";
+    Variant value = "NullInstead" + name;
+    query.DataInto(value, value);
+    EXPECT_EQ(value, Variant(std::int16_t{0}));
+    EXPECT_THAT(user->boxes, IsEmpty());
+}
+
 TEST_F(SQLDataTest, WritesChangesWhenItMovesOnClosesOrEnds) {
     const struct {
         std::function<void(SQLData&)> end;
@@ -146,6 +161,14 @@ TEST_F(SQLDataTest, ReportsAWriteThatFailsAndGoesOn) {
     EXPECT_THAT(user->boxes, SizeIs(1));
     query.CloseRS();
     EXPECT_EQ(rows("Select ID, Name From Sample Order By ID"), "1|Ada 2|NULL");
+
+    SQLData closing;
+    ASSERT_TRUE(run(closing, "Select * From Sample Where ID=2", AccessMode::Write));
+    closing.Data("Name", "Ada");
+    closing.CloseRS();
+    EXPECT_FALSE(closing.LastError()) << "closing tells nobody";
+    EXPECT_THAT(user->boxes, SizeIs(1));
+    EXPECT_EQ(closing.State(), 0);
 }
 
 TEST_F(SQLDataTest, CountsTheRowsThatAStatementTouched) {
@@ -160,6 +183,9 @@ TEST_F(SQLDataTest, CountsTheRowsThatAStatementTouched) {
     EXPECT_EQ(query.RecordCount(), 2);
     ASSERT_TRUE(run(query, everything, AccessMode::Write));
     EXPECT_EQ(query.RecordCount(), 2);
+    ASSERT_TRUE(run(query, everything));
+    ASSERT_TRUE(query.SQL(db, "Update Sample Set Small=1", true, AccessMode::Read));
+    EXPECT_EQ(query.State(), 0) << "the rows of the query before are closed";
     ASSERT_TRUE(run(query, everything));
     EXPECT_EQ(query.RecordCount(), 0);
     EXPECT_EQ(shown(), box("0 Attempt to get RecordCount from a query that does not support that property"));
@@ -220,6 +246,25 @@ TEST_F(SQLDataTest, ShowsAndLogsOnlyItsFirstFailure) {
     EXPECT_EQ(unknownField.LastError()->Number(), RuntimeError::ItemNotFound);
     EXPECT_EQ(unknownField.Data("Name"), Variant("Ada"));
     EXPECT_THROW(unknownField.Fields("Nickname"), RuntimeError);
+    const char* const nowhere = nullptr;
+    for (const ado::FieldKey& key : {ado::FieldKey(Variant()), ado::FieldKey(Variant::null()),
+                                     ado::FieldKey(Variant(1e300)), ado::FieldKey(nowhere)}) {
+        SQLData noField;
+        ASSERT_TRUE(run(noField, everything));
+        EXPECT_TRUE(noField.Data(key).isEmpty());
+        EXPECT_EQ(noField.LastError()->Number(), RuntimeError::ItemNotFound);
+    }
+}
+
+TEST_F(SQLDataTest, LogsAFailureWhateverItsBoxDoes) {
+    SQLData query;
+    user->whenShown = [&] {
+        EXPECT_FALSE(run(query, "Select * From Elsewhere")); // no second box
+        throw RuntimeError(RuntimeError::OutOfMemory);
+    };
+    EXPECT_FALSE(run(query, "Select * From Nowhere"));
+    EXPECT_THAT(user->boxes, SizeIs(1));
+    EXPECT_THAT(dir.read("err.txt"), ::testing::EndsWith("Nowhere\n\tSelect * From Nowhere\n"));
 }
 
 TEST_F(SQLDataTest, RefusesAConnectionThatIsNotOpen) {

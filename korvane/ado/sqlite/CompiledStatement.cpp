@@ -5,11 +5,14 @@
 
 #include <sqlite3.h>
 
+#include <limits>
 #include <utility>
 
 namespace Korvane::ado::sqlite {
 
 CompiledStatement::CompiledStatement(sqlite3* handle, std::string_view text, bool keep) {
+    if (text.size() > std::size_t{std::numeric_limits<int>::max()})
+        throw RuntimeError(RuntimeError::InvalidArgument, "The statement is too long.");
     const char* tail = nullptr;
     const unsigned flags = keep ? SQLITE_PREPARE_PERSISTENT : 0U;
     // A string_view need not end in a NUL; the length says where it ends.

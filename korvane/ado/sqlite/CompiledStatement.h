@@ -11,7 +11,8 @@ namespace Korvane::ado::sqlite {
 class CompiledStatement {
   public:
     CompiledStatement() = default;
-    /// Null inside when the text holds no statement. InvalidArgument when it holds a second one.
+    /// Null inside when the text holds no statement. InvalidArgument when it holds a second one
+    /// or is longer than the engine takes.
     CompiledStatement(sqlite3* handle, std::string_view text, bool keep = false);
     ~CompiledStatement();
     CompiledStatement(CompiledStatement&& other) noexcept;
