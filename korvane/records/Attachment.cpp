@@ -154,20 +154,12 @@ void Attachment::AttachmentID(const Variant& id) {
 
 void Attachment::LoadObjectFromDatabase(std::string_view id) {
     mAttachmentID.setText(id);
-    mUnread = false;
-    if (const auto number = wholeNumber(id)) {
-        SQLData query;
-        mUnread = !query.SQL(mConnection, "select * from Attachment Where AttachmentID=" + *number, false,
-                             AccessMode::Read);
-        loadColumns(mUnread ? nullptr : &query, *this, columns(), kLoading);
-    } else {
-        loadColumns<Attachment>(nullptr, *this, columns(), kLoading);
-    }
+    mRow.load(*this, mConnection, wholeNumber(id), kLoading);
     mChanged = false;
 }
 
 bool Attachment::Save() {
-    mStored = false;
+    mRow.beginSave();
     const bool saved = guarded(kSaving, false, [this] { return SaveObjectToDatabase(); });
     mChanged = false;
     return saved;
@@ -178,33 +170,13 @@ bool Attachment::SaveObjectToDatabase() {
         ErrLog(std::string(kSaving) + "Invalid EncounterID, aborting!");
         return false;
     }
-    if (mAttachmentID.textOrEmpty().empty()) return insertRow();
-    if (mUnread) {
+    const std::string id = mAttachmentID.textOrEmpty();
+    if (id.empty() || mRow.insertFailed()) return mRow.insert(*this, mConnection, kSaving);
+    if (mRow.unread()) {
         ErrLog(std::string(kSaving) + "The stored row could not be read, aborting!");
         return false;
     }
-    updateRow();
-    return true;
-}
-
-void Attachment::updateRow() {
-    const auto id = wholeNumber(mAttachmentID.text());
-    if (!id) return;
-    SQLData query;
-    fillUpdateList(query, *this, columns());
-    query.SQL(mConnection, "Update Attachment Set " + query.UpdateListGet() + " Where AttachmentID=" + *id,
-              true, AccessMode::Read);
-    mStored = query.RecordsAffected() == 1;
-}
-
-bool Attachment::insertRow() {
-    const auto id = nextIdentifier(mConnection, "Select Max(AttachmentID) as MaxID From Attachment", kSaving);
-    if (!id) return false;
-    mAttachmentID = *id;
-    SQLData query;
-    fillInsertList(query, *this, columns());
-    query.SQL(mConnection, "Insert into Attachment " + query.InsertListGet(), true, AccessMode::Read);
-    mStored = query.RecordsAffected() == 1;
+    if (const auto number = wholeNumber(id)) mRow.update(*this, mConnection, *number);
     return true;
 }
 
@@ -218,10 +190,8 @@ bool Attachment::Delete() {
 bool Attachment::DeleteObjectFromDatabase(std::string_view id) {
     SQLData query;
     const auto number = wholeNumber(id);
-    if (number && !query.SQL(mConnection, "select * from Attachment Where AttachmentID=" + *number, false,
-                             AccessMode::Read))
-        return false;
-    if (!number || query.Eof()) {
+    if (number && !mRow.find(query, mConnection, *number)) return false;
+    if (!number || query.Eof() || mRow.insertFailed()) {
         vLogAdd("Attachment:DeleteObjectFromDatabase", "AttachmentID doesn't exist, aborting!", 2);
         return false;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <korvane/ado/Connection.h>
-#include <korvane/records/RecordColumn.h>
+#include <korvane/records/RecordRow.h>
 #include <korvane/runtime/Variant.h>
 
 #include <cstdint>
@@ -31,8 +31,8 @@ class Attachment {
     const Variant& AttachmentID() const { return mAttachmentID; }
     /// Stores the identifier and loads its row; without a row every field is empty. An identifier that is not
     /// a whole number finds nothing. A column whose value does not fit its property is written to the error
-    /// log and reads as if empty. When the row could not be read at all, `Save` refuses until a load
-    /// succeeds.
+    /// log and reads as if empty. Such a column, and one that is null, keeps what is stored until its
+    /// property is changed. When the row could not be read at all, `Save` refuses until a load succeeds.
     void AttachmentID(const Variant& id);
 
     const std::string& Archived() const { return mArchived; }
@@ -72,16 +72,19 @@ class Attachment {
     /// more than the matching `CategoryID`.
     Variant ListCategories() const;
 
-    /// Inserts with the next free identifier, or updates. False, with a line in the error log, when
-    /// `EncounterID` is below 0, when no next identifier could be found, or when the row it would overwrite
-    /// could not be read before. The outcome of the statement itself is not told: see `Stored`.
+    /// Inserts with the next free identifier (the highest plus 1, at least 1), or updates. False, with a line
+    /// in the error log, when `EncounterID` is below 0, when no next identifier could be found, or when the
+    /// row it would overwrite could not be read before. The outcome of the statement itself is not told: see
+    /// `Stored`. After an insert that failed the next `Save` inserts again, with an identifier that is then
+    /// free.
     bool Save();
 
     /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
     /// an update of a row that is gone, and before any `Save`. For use within the library.
-    bool Stored() const { return mStored; }
+    bool Stored() const { return mRow.stored(); }
 
-    /// False, with a message of level 2 in the message log, when there is no such row. The file itself stays.
+    /// False, with a message of level 2 in the message log, when there is no such row of its own. The file
+    /// itself stays.
     bool Delete();
 
   private:
@@ -89,8 +92,6 @@ class Attachment {
     void change(std::string& property, std::string_view value);
     void changeDate(std::string& property, std::string_view value);
     bool SaveObjectToDatabase();
-    bool insertRow();
-    void updateRow();
     bool DeleteObjectFromDatabase(std::string_view id);
     void LoadObjectFromDatabase(std::string_view id);
 
@@ -101,9 +102,8 @@ class Attachment {
     bool mDeleted = false;
     bool mLocked = false;
     bool mChanged = false;
-    bool mStored = false;
-    bool mUnread = false;
     std::shared_ptr<ado::Connection> mConnection;
+    RecordRow<Attachment> mRow{"Attachment", columns()};
 };
 
 } // namespace Korvane

@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::string_view kSaving = "Error in Encounter.SaveObjectToDatabase: ";
 constexpr std::string_view kLoading = "Error in Encounter.LoadObjectFromDatabase: ";
+constexpr std::string_view kLoadingAttachments = "Error in Encounter.LoadAttachments: ";
 
 } // namespace
 
@@ -38,22 +39,28 @@ void Encounter::EncounterID(std::int32_t id) {
 }
 
 void Encounter::LoadObjectFromDatabase() {
-    SQLData query;
-    mUnread =
-        !query.SQL(mConnection, "select * from Encounter Where EncounterID=" + std::to_string(mEncounterID),
-                   false, AccessMode::Read);
-    loadColumns(mUnread ? nullptr : &query, *this, columns(), kLoading);
+    mRow.load(*this, mConnection, std::to_string(mEncounterID), kLoading);
 }
 
 bool Encounter::Save() {
-    const bool isNew = mEncounterID == -1;
-    mStored = false;
+    const std::int32_t before = mEncounterID;
+    const bool inserts = isNew();
+    mRow.beginSave();
     if (!guarded(kSaving, false, [this] { return SaveObjectToDatabase(); })) {
-        if (isNew) mEncounterID = -1;
+        mEncounterID = before;
         return false;
     }
-    if (isNew) SavedNewEncounter.raise();
+    if (inserts)
+        guarded(kSaving, false, [this] {
+            SavedNewEncounter.raise();
+            return true;
+        });
     return true;
+}
+
+/// Also after an insert that failed: the row that has its identifier is not its own.
+bool Encounter::isNew() const {
+    return mEncounterID == -1 || mRow.insertFailed();
 }
 
 /// What keeps it from being saved; empty when nothing does.
@@ -62,7 +69,7 @@ std::string_view Encounter::invalidity() const {
     if (mPatientID.empty()) return "Invalid PatientID, aborting!";
     if (mProviderID < 0) return "Invalid ProviderID, aborting!";
     if (mLocationID < 0) return "Invalid LocationID, aborting!";
-    if (mUnread && mEncounterID != -1) return "The stored row could not be read, aborting!";
+    if (mRow.unread() && !isNew()) return "The stored row could not be read, aborting!";
     return {};
 }
 
@@ -71,25 +78,8 @@ bool Encounter::SaveObjectToDatabase() {
         ErrLog(std::string(kSaving).append(reason));
         return false;
     }
-    if (mEncounterID == -1) return insertRow();
-    SQLData query;
-    fillUpdateList(query, *this, columns());
-    query.SQL(mConnection,
-              "Update Encounter Set " + query.UpdateListGet() +
-                  " Where EncounterID=" + std::to_string(mEncounterID),
-              true, AccessMode::Read);
-    mStored = query.RecordsAffected() == 1;
-    return true;
-}
-
-bool Encounter::insertRow() {
-    const auto id = nextIdentifier(mConnection, "Select Max(EncounterID) as MaxID From Encounter", kSaving);
-    if (!id) return false;
-    mEncounterID = *id;
-    SQLData query;
-    fillInsertList(query, *this, columns());
-    query.SQL(mConnection, "Insert into Encounter " + query.InsertListGet(), true, AccessMode::Read);
-    mStored = query.RecordsAffected() == 1;
+    if (isNew()) return mRow.insert(*this, mConnection, kSaving);
+    mRow.update(*this, mConnection, std::to_string(mEncounterID));
     return true;
 }
 
@@ -99,13 +89,12 @@ bool Encounter::Delete() {
 
 bool Encounter::DeleteObjectFromDatabase(std::string_view id) {
     SQLData query;
-    const std::string key(id);
-    if (!query.SQL(mConnection, "select * from Encounter Where EncounterID=" + key, false, AccessMode::Read))
-        return false;
-    if (query.Eof())
+    if (!mRow.find(query, mConnection, id)) return false;
+    if (query.Eof() || mRow.insertFailed())
         ErrLog("Error in Encounter.DeleteObjectFromDatabase: EncounterID doesn't exist, aborting!");
     else
-        query.SQL(mConnection, "delete From Encounter WHERE EncounterID=" + key, true, AccessMode::Read);
+        query.SQL(mConnection, "delete From Encounter WHERE EncounterID=" + std::string(id), true,
+                  AccessMode::Read);
     return false;
 }
 
@@ -116,13 +105,21 @@ void Encounter::LoadAttachments() {
         false, AccessMode::Read);
     mAttachments.clear();
     if (!ran) return;
-    guarded("Error in Encounter.LoadAttachments: ", false, [&] {
-        for (; !query.Eof(); query.NextRow()) {
-            auto attachment = std::make_shared<Attachment>();
-            attachment->Connection(mConnection);
-            attachment->AttachmentID(query.DataView("AttachmentID"));
-            AttachmentLet(std::move(attachment));
-        }
+    const bool walked = guarded(kLoadingAttachments, false, [&] {
+        for (; !query.Eof(); query.NextRow())
+            addStored(query.DataView("AttachmentID"));
+        return !query.LastError();
+    });
+    if (!walked) mAttachments.clear();
+}
+
+/// One that is there already is passed over.
+void Encounter::addStored(const Variant& id) {
+    guarded(kLoadingAttachments, false, [&] {
+        auto attachment = std::make_shared<Attachment>();
+        attachment->Connection(mConnection);
+        attachment->AttachmentID(id);
+        AttachmentLet(std::move(attachment));
         return true;
     });
 }

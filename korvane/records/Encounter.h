@@ -2,7 +2,7 @@
 
 #include <korvane/ado/Connection.h>
 #include <korvane/records/Attachment.h>
-#include <korvane/records/RecordColumn.h>
+#include <korvane/records/RecordRow.h>
 #include <korvane/runtime/Clock.h>
 #include <korvane/runtime/Event.h>
 
@@ -30,14 +30,16 @@ class Encounter {
     Encounter() = default;
 
     /// Raised when a new row has been inserted and `EncounterID` is its identifier; also when that insert
-    /// failed.
+    /// failed. What a listener throws is written to the error log ("Error in Encounter.SaveObjectToDatabase:
+    /// " and its description); the listeners behind it are not called.
     Event<> SavedNewEncounter;
 
     std::int32_t EncounterID() const { return mEncounterID; }
     /// Stores the identifier and loads its row; without a row numbers are 0, texts empty and the date the
     /// zero date. A column whose value does not fit its property is written to the error log and reads as
-    /// if empty; the other columns are loaded all the same. When the row could not be read at all, `Save`
-    /// refuses until a load succeeds.
+    /// if empty; the other columns are loaded all the same. Such a column, and one that is null, keeps what
+    /// is stored until its property is changed. When the row could not be read at all, `Save` refuses until a
+    /// load succeeds.
     void EncounterID(std::int32_t id);
     /// Overflow above 32767.
     std::int16_t AttachmentCount() const;
@@ -59,21 +61,23 @@ class Encounter {
     void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
 
     /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
-    /// an update of a row that is gone, and before any `Save`. Who wants to try a failed insert again keeps a
-    /// copy from before, which still has no identifier. For use within the library.
-    bool Stored() const { return mStored; }
+    /// an update of a row that is gone, and before any `Save`. It does not know of a transaction that is
+    /// rolled back later: keep a copy from before to go back to. For use within the library.
+    bool Stored() const { return mRow.stored(); }
 
-    /// Deletes the row, or writes a line to the error log when there is none. Always false. Attachments stay.
+    /// Deletes the row, or writes a line to the error log when there is none of its own. Always false.
+    /// Attachments stay.
     bool Delete();
 
-    /// Inserts with the next free identifier, or updates. False, with a line in the error log, when the
-    /// method, patient, provider or location is invalid (in this order), when no next identifier could be
-    /// found, or when the row it would overwrite could not be read before. The outcome of the statement
-    /// itself is not told: see `Stored`.
+    /// Inserts with the next free identifier (the highest plus 1, at least 1), or updates. False, with a line
+    /// in the error log, when the method, patient, provider or location is invalid (in this order), when no
+    /// next identifier could be found, or when the row it would overwrite could not be read before. The
+    /// outcome of the statement itself is not told: see `Stored`. After an insert that failed the next `Save`
+    /// inserts again, with an identifier that is then free, and raises the event again.
     bool Save();
 
     /// Replaces the collection by the attachments stored for this encounter; by an empty one when they cannot
-    /// be read.
+    /// be read. A second one with the same identifier is passed over with a line in the error log.
     void LoadAttachments();
 
     /// The attachment at an index counted from 1. True, and nothing in `attachment`, when the index is above
@@ -84,7 +88,8 @@ class Encounter {
     static std::span<const RecordColumn<Encounter>> columns();
     std::string_view invalidity() const;
     bool SaveObjectToDatabase();
-    bool insertRow();
+    bool isNew() const;
+    void addStored(const Variant& id);
     bool DeleteObjectFromDatabase(std::string_view id);
     void LoadObjectFromDatabase();
 
@@ -106,8 +111,7 @@ class Encounter {
     std::int32_t mTransport = 0;
     std::shared_ptr<ado::Connection> mConnection;
     std::vector<KeyedAttachment> mAttachments;
-    bool mStored = false;
-    bool mUnread = false;
+    RecordRow<Encounter> mRow{"Encounter", columns()};
 };
 
 } // namespace Korvane

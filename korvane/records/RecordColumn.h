@@ -4,9 +4,6 @@
 #include <korvane/runtime/Variant.h>
 
 #include <cstdint>
-#include <optional>
-#include <span>
-#include <string>
 #include <string_view>
 
 namespace Korvane {
@@ -49,44 +46,21 @@ constexpr auto recordColumn(std::string_view name, std::int32_t quoting) {
     return recordColumn<Member>(name, quoting, quoting);
 }
 
-/// Fills the query's insert list with every column. What a value's conversion raises goes to the caller.
-template <typename Record>
-void fillInsertList(SQLData& query, const Record& record, std::span<const RecordColumn<Record>> columns) {
-    query.InsertListClear();
-    for (const auto& column : columns)
-        query.InsertListAdd(column.name, column.get(record), std::int32_t{column.insertQuoting});
-}
-
-/// Fills the query's update list with every column but the first, which is the key.
-template <typename Record>
-void fillUpdateList(SQLData& query, const Record& record, std::span<const RecordColumn<Record>> columns) {
-    query.UpdateListClear();
-    for (const auto& column : columns.subspan(1))
-        query.UpdateListAdd(column.name, column.get(record), std::int32_t{column.updateQuoting});
-}
-
 /// Writes the exception being handled to the error log, behind `prefix`. Call inside a `catch`.
 void logColumnFailure(std::string_view prefix);
 
-/// Sets every column but the key from the query's current row; from Empty without a query. A value that does
-/// not fit is written to the error log behind `prefix` and reads as Empty.
+/// Sets the member from the query's current row. False when that is not what is stored: a null, or a value
+/// that does not fit, which is written to the error log behind `prefix` and reads as Empty.
 template <typename Record>
-void loadColumns(SQLData* query, Record& record, std::span<const RecordColumn<Record>> columns,
-                 std::string_view prefix) {
-    for (const auto& column : columns.subspan(1)) {
-        try {
-            column.set(record, query ? query->DataView(column.name) : Variant());
-        } catch (...) {
-            logColumnFailure(prefix);
-            column.set(record, Variant());
-        }
+bool loadColumn(SQLData& query, Record& record, const RecordColumn<Record>& column, std::string_view prefix) {
+    try {
+        column.set(record, query.DataView(column.name));
+        return !query.Fields(column.name).value().Value().isNull();
+    } catch (...) {
+        logColumnFailure(prefix);
+        column.set(record, Variant());
+        return false;
     }
 }
-
-/// The identifier of a new row: the "MaxID" that the statement reads, plus 1. Nothing, with a line in the
-/// error log made of `prefix`, the error's number, a blank and its description, when the statement fails, or
-/// the number does not fit 32 bits.
-std::optional<std::int32_t> nextIdentifier(const std::shared_ptr<ado::Connection>& connection,
-                                           std::string_view statement, std::string_view prefix);
 
 } // namespace Korvane

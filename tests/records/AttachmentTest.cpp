@@ -62,6 +62,12 @@ TEST_F(AttachmentTest, InsertsOnceAndUpdatesFromThenOn) {
     EXPECT_TRUE(again.Locked());
     EXPECT_TRUE(again.Save());
     EXPECT_TRUE(again.Stored());
+    db->quietly("Insert Into Attachment (AttachmentID) Values (2)");
+    again.AttachmentID(2);
+    EXPECT_TRUE(again.Save());
+    EXPECT_TRUE(again.Stored());
+    EXPECT_EQ(rows("Select EncounterID, Description, EntryDate, Locked From Attachment Where AttachmentID=2"),
+              "NULL|NULL|NULL|NULL");
 }
 
 TEST_F(AttachmentTest, IsLockedUnlessPlainlyNot) {
@@ -152,6 +158,9 @@ TEST_F(AttachmentTest, DoesNotSaveWhatIsInvalidOrCouldNotBeRead) {
     attachment.EncounterID(12);
     db->failOn = "Max(";
     EXPECT_FALSE(attachment.Save());
+    db->failOn.clear();
+    db->failOn = "Insert";
+    ASSERT_TRUE(attachment.Save());
     db->failOn.clear();
     ASSERT_TRUE(attachment.Save());
     db->failOn = "select *";

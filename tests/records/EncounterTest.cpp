@@ -124,19 +124,51 @@ TEST_F(EncounterTest, NeverTakesAnIdentifierThatItCouldNotFind) {
     EXPECT_EQ(rows("Select EncounterID From Encounter"), "2147483647");
 }
 
+TEST_F(EncounterTest, NumbersFromOneWhateverTheTableHolds) {
+    db->quietly("Insert Into Encounter (EncounterID) Values (-2)");
+    encounter.Save();
+    EXPECT_EQ(encounter.EncounterID(), 1);
+    db->quietly("Drop Table Encounter");
+    db->quietly("Create Table Encounter (EncounterID BIGINT PRIMARY KEY, EncounterMethodID INTEGER, "
+                "PatientID TEXT, ProviderID INTEGER, ForeignProviderID INTEGER, LocationID INTEGER, "
+                "EncounterDate TIMESTAMP, Outgoing BOOLEAN, Description TEXT, Transport INTEGER)");
+    Encounter first;
+    first.Connection(db);
+    first.PatientID("P");
+    first.ProviderID(1);
+    EXPECT_TRUE(first.Save());
+    EXPECT_EQ(rows("Select EncounterID From Encounter"), "1");
+}
+
+TEST_F(EncounterTest, KeepsAListenersErrorToItself) {
+    const auto failing =
+        encounter.SavedNewEncounter.connect([] { throw RuntimeError(RuntimeError::Overflow); });
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_TRUE(encounter.Stored());
+    EXPECT_EQ(errors(), "Error in Encounter.SaveObjectToDatabase: Overflow\n");
+}
+
 TEST_F(EncounterTest, TellsApartWhatIsStoredAndWhatIsNot) {
-    const Encounter before = encounter;
+    encounter.EncounterDate(Date(3e6)); // beyond what has a text
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_FALSE(encounter.Stored());
+    EXPECT_EQ(db->statements.size(), 1u) << "an insert list that is not whole was run";
+    encounter.EncounterDate(Date(1));
     db->failOn = "Insert";
     EXPECT_TRUE(encounter.Save());
     EXPECT_FALSE(encounter.Stored());
-    EXPECT_EQ(raised, 1);
-    EXPECT_THAT(user->boxes, SizeIs(1));
+    EXPECT_EQ(raised, 2);
+    EXPECT_THAT(user->boxes, SizeIs(2));
 
+    // Somebody else has taken the number meanwhile.
     db->failOn.clear();
-    encounter = before;
+    db->quietly("Insert Into Encounter (EncounterID, PatientID) Values (1, 'other')");
+    encounter.Delete();
     EXPECT_TRUE(encounter.Save());
     EXPECT_TRUE(encounter.Stored());
-    EXPECT_EQ(rows("Select EncounterID, PatientID From Encounter"), "1|P-0042");
+    EXPECT_EQ(raised, 3);
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_EQ(rows("Select EncounterID, PatientID From Encounter Order By EncounterID"), "1|other 2|P-0042");
 
     db->quietly("Delete From Encounter");
     EXPECT_TRUE(encounter.Save());
@@ -174,6 +206,18 @@ TEST_F(EncounterTest, ReadsAForeignRowAsFarAsItFits) {
     EXPECT_EQ(encounter.Description(), "last");
     std::string line = "Error in Encounter.LoadObjectFromDatabase: [^\n]+\n";
     EXPECT_THAT(errors(), ::testing::MatchesRegex(line + line + line));
+
+    encounter.Description("new");
+    EXPECT_TRUE(encounter.Save());
+    const std::string columns =
+        "Select EncounterMethodID, ProviderID, EncounterDate, Outgoing, Description From ";
+    EXPECT_EQ(rows(columns + "Encounter"), "odd|9000000000|never|NULL|new");
+    encounter.ProviderID(4);
+    encounter.Save();
+    encounter.ProviderID(0);
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_TRUE(encounter.Stored());
+    EXPECT_EQ(rows(columns + "Encounter"), "odd|0|never|NULL|new") << "0 is a value of its own by now";
 }
 
 TEST_F(EncounterTest, DoesNotOverwriteARowThatItCouldNotRead) {
@@ -228,4 +272,13 @@ TEST_F(EncounterTest, HoldsItsAttachmentsByTheirIdentifiers) {
     db->failOn = "Select AttachmentID";
     encounter.LoadAttachments();
     EXPECT_EQ(encounter.AttachmentCount(), 0);
+
+    db->failOn.clear();
+    db->quietly("Drop Table Attachment");
+    db->quietly("Create Table Attachment (AttachmentID INTEGER, EncounterID INTEGER)");
+    for (const char* id : {"4", "4", "9"})
+        db->quietly("Insert Into Attachment (AttachmentID, EncounterID) Values (" + std::string(id) + ", 1)");
+    encounter.LoadAttachments();
+    EXPECT_EQ(encounter.AttachmentCount(), 2) << "one of the two, and what stands behind them";
+    EXPECT_THAT(errors(), HasSubstr("Error in Encounter.LoadAttachments: This key is already in use\n"));
 }
