@@ -6,7 +6,9 @@
 #include <korvane/ado/Connection.h>
 #include <korvane/data/Tables.h>
 
+#include <fcntl.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <iostream>
@@ -105,6 +107,13 @@ void writeEncounters(const BareSqlite& db) {
     db.run("Insert Into Provider Values (1,'Physician','Anna','Köhler','MD')");
 }
 
+// Until all of it is on the disk, every save that is measured would wait for it.
+void flush(const std::string& path) {
+    const int file = ::open(path.c_str(), O_RDWR);
+    if (file < 0 || fsync(file) != 0) throw std::runtime_error("cannot flush " + path);
+    ::close(file);
+}
+
 void make(const std::string& path, const Size& size) {
     std::cerr << "making " << path << " ..." << std::endl;
     installTables(*ado::open("sqlite:" + path));
@@ -117,6 +126,7 @@ void make(const std::string& path, const Size& size) {
     db.run("Commit");
     db.run("Pragma wal_checkpoint(truncate)");
     db.run("Analyze");
+    flush(path);
 }
 
 } // namespace
