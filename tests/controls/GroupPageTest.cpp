@@ -1,6 +1,7 @@
 #include "support/NipForm.h"
 
 #include <korvane/controls/container/Twips.h>
+#include <korvane/controls/nippanel/GroupPage.h>
 
 #include <QLabel>
 #include <QScrollArea>
@@ -41,6 +42,7 @@ void manyFields(NipForm& form) {
             const std::string name = "F" + std::to_string(++number);
             form.field(2, "T", name, {.displayType = type});
             form.field(2, "T", name + "_COMMENTS");
+            if (number == 1) form.field(2, "T", name + "_COMMENTS_COMMENTS"); // of the same row and column
             form.db->quietly("Update DBFields Set FieldCaption='" + std::string(caption) +
                              "' Where FieldName='" + name + "'");
         }
@@ -59,7 +61,7 @@ TEST(GroupPage, ClipsAndOverlapsNothingAtAnyWidthAndFontSize) {
             manyFields(form);
             form.open({width, 600});
             const auto placed = placedOn(form);
-            ASSERT_EQ(placed.size(), 16U * 4 + 8);
+            ASSERT_EQ(placed.size(), 16U * 4 + 8 + 2);
             const QRect page(QPoint(0, 0), QSize(scrollArea(form)->viewport()->width(),
                                                  scrollArea(form)->widget()->height()));
             for (std::size_t i = 0; i < placed.size(); ++i) {
@@ -132,6 +134,31 @@ TEST(GroupPage, ScrollsToTheControlThatGetsTheFocusAndStaysThereWhenItIsRebuilt)
     EXPECT_GT(scrolled, 0);
     form.tabs.CreateNipControls(form.nip);
     EXPECT_EQ(bar->value(), scrolled);
+    form.reload();
+    EXPECT_EQ(bar->value(), 0) << "another encounter begins at the top";
+}
+
+TEST(GroupPage, IsMirroredWhereOneReadsFromTheRight) {
+    NipForm form;
+    manyFields(form);
+    form.open({1300, 600});
+    const auto before = placedOn(form);
+    const int width = scrollArea(form)->widget()->width();
+    form.window.setLayoutDirection(Qt::RightToLeft);
+    for (const auto& [widget, area] : before) {
+        const QRect mirrored(width - area.x() - area.width(), area.y(), area.width(), area.height());
+        EXPECT_EQ(widget->geometry(), mirrored) << utf8(widget->objectName());
+    }
+}
+
+TEST(GroupPage, ForgetsTheModelWhenItIsCleared) {
+    NipForm form;
+    form.oneField({}, "x");
+    GroupPage page(nullptr);
+    page.plan(form.nip, 1, {});
+    page.clear();
+    page.make(&page);
+    EXPECT_FALSE(page.isMade());
 }
 
 } // namespace Korvane

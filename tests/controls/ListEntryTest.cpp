@@ -7,6 +7,24 @@ namespace Korvane {
 using Testing::NipForm;
 using Testing::shownRows;
 
+namespace {
+
+/// A user who does not answer before something else has happened.
+struct SlowUser : Testing::RecordingInteraction {
+    std::function<void()> meanwhile;
+
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+        meanwhile();
+        return "late";
+    }
+};
+
+bool isInView(const QListView* list, int row) {
+    return list->viewport()->rect().contains(list->visualRect(list->model()->index(row, 0)));
+}
+
+} // namespace
+
 TEST(ListEntry, ChecksTheStoredValueAndKeepsOneThatIsNotInTheList) {
     const struct {
         const char* type;
@@ -77,6 +95,46 @@ TEST(ListEntry, RefusesAValueThatWouldComeBackAsTwo) {
     EXPECT_EQ(form.edits, 0);
 }
 
+TEST(ListEntry, HasTheFirstCheckedRowInViewAndUnderTheKeys) {
+    for (const char* type : {"LIST", "LIST-MULTIPLE"}) {
+        NipForm form;
+        form.group(2, "Group", "T");
+        form.field(2, "T", "Field", {.displayType = type});
+        for (int i = 0; i < 20; ++i)
+            form.allowed(2, "Field", "choice " + std::to_string(i), static_cast<float>(i));
+        form.store("T", {{"Field", "choice 15"}});
+        form.open();
+        auto* list = form.control<QListView>("gridNip(0)");
+        EXPECT_TRUE(isInView(list, 15)) << type;
+        list->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(list, Qt::Key_Space);
+        EXPECT_EQ(form.saved(), "") << type << ": that answer was taken back";
+        form.reload();
+        EXPECT_TRUE(isInView(list, 0)) << type << ": without an answer the list begins at its top";
+        form.db->quietly("Update T Set Field='choice 9'");
+        form.reload();
+        EXPECT_TRUE(isInView(list, 9)) << type;
+    }
+}
+
+TEST(ListEntry, LeavesInTheModelWhatIsStored) {
+    const struct {
+        const char* type;
+        const char* value;
+    } cases[] = {{"LIST", "C"}, {"LIST-MULTIPLE", "A|C"}, {"LIST-EDITCONTENT", "A|new"}};
+    for (const auto& c : cases) {
+        NipForm form;
+        form.oneField({.displayType = c.type}, "A");
+        form.user->texts = {"new"};
+        if (std::string_view(c.type) == "LIST-EDITCONTENT")
+            form.click("cmdNip(0)");
+        else
+            form.click(form.control<QListView>("gridNip(0)"), 2);
+        EXPECT_EQ(form.saved(), c.value);
+        EXPECT_EQ(form.nip.value(1, 1), Variant(c.value)) << c.type;
+    }
+}
+
 TEST(EditContentEntry, ShowsTheEntriesWithoutCheckBoxesAndSavesThemAsTheyAreLeft) {
     NipForm form;
     form.oneField({.displayType = "LIST-EDITCONTENT"}, "x|y|y|");
@@ -130,6 +188,22 @@ TEST(EditContentEntry, RemovesUntilNothingIsLeft) {
     form.control<QListView>("gridNip(0)")->setFocus();
     QTest::keyClick(form.control<QListView>("gridNip(0)"), Qt::Key_Delete);
     EXPECT_FALSE(remove->isEnabled());
+}
+
+TEST(EditContentEntry, DropsAnAnswerThatComesWhenOtherEntriesAreShown) {
+    NipForm form;
+    form.oneField({.displayType = "LIST-EDITCONTENT"}, "x");
+    auto user = std::make_shared<SlowUser>();
+    const std::function<void()> others[] = {[&] { form.reload(); },
+                                            [&] { form.tabs.CreateNipControls(form.nip); }};
+    const auto before = Interaction::install(user);
+    for (const auto& other : others) {
+        user->meanwhile = other;
+        form.click("cmdNip(0)");
+        EXPECT_EQ(shownRows(form.control<QListView>("gridNip(0)")), "x");
+    }
+    Interaction::install(before);
+    EXPECT_EQ(form.edits, 0);
 }
 
 } // namespace Korvane

@@ -164,4 +164,30 @@ TEST(NipTabs, GoThroughTheControlsByTabInTheOrderOfTheFields) {
     EXPECT_EQ(focusName(), "txtNip(0)") << "the focus goes along";
 }
 
+TEST(NipTabs, StopOnceAtTheTabBarAlsoWhereItScrolls) {
+    NipForm form;
+    for (int id = 2; id < 40; ++id) {
+        const std::string number = std::to_string(id);
+        form.group(id, "Group number " + number, "T" + number);
+        form.field(id, "T" + number, "F");
+    }
+    form.open();
+    form.before.setFocus();
+    QTest::keyClick(&form.before, Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(focusName(), "txtNip(0)");
+}
+
+TEST(NipTabs, StayAtTheSecondOfTwoGroupsOfOneName) {
+    NipForm form;
+    for (const int id : {2, 3}) {
+        form.group(id, "Same", "T" + std::to_string(id));
+        form.field(id, "T" + std::to_string(id), "F");
+    }
+    form.open();
+    form.tabs.setCurrentIndex(1);
+    form.tabs.CreateNipControls(form.nip);
+    EXPECT_EQ(form.tabs.currentIndex(), 1);
+}
+
 } // namespace Korvane

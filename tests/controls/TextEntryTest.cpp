@@ -1,5 +1,6 @@
 #include "support/NipForm.h"
 
+#include <QClipboard>
 #include <QLineEdit>
 
 namespace Korvane {
@@ -52,6 +53,32 @@ TEST(TextEntry, ShowsALongerTextWholeAndLetsItOnlyBeShortened) {
     QTest::keyClicks(box, "xyz");
     EXPECT_EQ(form.saved(), "1234x");
     EXPECT_GT(form.edits, 0);
+}
+
+TEST(TextEntry, TakesOfAPasteWhatFitsInWholeCharacters) {
+    const QString smile = QString::fromUtf8("\U0001F600");
+    const struct {
+        const char* about;
+        QString loaded;
+        int from, to; ///< what is selected
+        QString pasted;
+        QString left;
+    } cases[] = {
+        {"a half would fit", "aaaa", 4, 4, smile, "aaaa"},
+        {"one and a half would fit", "aab", 2, 2, smile + smile, "aa" + smile + "b"},
+        {"over a text that is too long", "abcdefgh", 0, 8, "123456", "12345"},
+        {"over one, and a half would fit", "abcdefgh", 0, 8, "1234" + smile, "1234"},
+        {"into one that is still too long", "abcdefgh", 3, 4, "123", "abcefgh"},
+    };
+    for (const auto& c : cases) {
+        NipForm form;
+        form.oneField({.maxLength = 5}, utf8(c.loaded));
+        auto* box = form.control<QLineEdit>("txtNip(0)");
+        box->setSelection(c.from, c.to - c.from);
+        QApplication::clipboard()->setText(c.pasted);
+        box->paste();
+        EXPECT_EQ(form.saved(), utf8(c.left)) << c.about;
+    }
 }
 
 } // namespace Korvane

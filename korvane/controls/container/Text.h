@@ -18,6 +18,11 @@ inline std::string utf8(const QString& text) {
     return text.toStdString();
 }
 
+/// For a tab or a label, where an ampersand marks a shortcut: each one shows as an ampersand.
+inline QString withoutShortcut(QString text) {
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 /// To the second, local time as it stands (no time zone arithmetic). A time in the hour that the local zone
 /// skips in spring does not exist as a `QDateTime`: it becomes the one an hour later.
 QDateTime qt(Date date);

@@ -16,8 +16,6 @@ namespace Korvane {
 
 namespace {
 
-constexpr double oneLine = 285.0;
-
 int naturalHeight(QWidget& probe, QFont font, QStyle& style) {
     font.setResolveMask(QFont::AllPropertiesResolved);
     probe.setStyle(&style);
@@ -41,7 +39,7 @@ double pixelsPerTwip(const QFont& font, QStyle& style, int dotsPerInch) {
     const QString key = style.name() + '/' + QString::number(dotsPerInch) + '/' + font.key();
     const auto found = known.constFind(key);
     if (found != known.constEnd()) return *found;
-    return known[key] = oneLineHeight(font, style) / oneLine;
+    return known[key] = static_cast<double>(oneLineHeight(font, style)) / Twips::oneLine;
 }
 
 } // namespace

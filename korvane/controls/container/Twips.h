@@ -12,6 +12,9 @@ namespace Korvane {
 ///     box->setFixedHeight(twips.px(285));
 class Twips {
   public:
+    /// The height of a one-line control.
+    static constexpr int oneLine = 285;
+
     explicit Twips(const QWidget& widget);
     explicit Twips(const QFont& font);
 

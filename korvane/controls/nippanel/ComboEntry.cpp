@@ -82,7 +82,7 @@ QWidget* ComboEntry::widget() const {
 
 // The combo box keeps its own model: giving it another one, as much else that is said to it, makes the list
 // that drops down at once, which costs more than all the rest.
-void ComboEntry::fill() {
+void ComboEntry::showValue() {
     const QString stored = site().storedText();
     const QStringList list = itemsFor(stored);
     const QSignalBlocker quiet(mCombo);
@@ -93,7 +93,6 @@ void ComboEntry::fill() {
         mCombo->setEditText(stored);
         mCombo->lineEdit()->setCursorPosition(0);
     }
-    mShown = mCombo->currentText();
 }
 
 QStringList ComboEntry::itemsFor(const QString& stored) const {
@@ -103,11 +102,8 @@ QStringList ComboEntry::itemsFor(const QString& stored) const {
     return list;
 }
 
-void ComboEntry::collect() {
-    const QString text = mCombo->currentText();
-    if (text == mShown) return;
-    site().store(text);
-    mShown = text;
+QStringList ComboEntry::content() const {
+    return {mCombo->currentText()};
 }
 
 } // namespace Korvane

@@ -18,15 +18,14 @@ class ComboEntry : public EntryControl {
     ComboEntry(EntrySite entrySite, Accepts accepts);
 
     QWidget* widget() const override;
-    void fill() override;
-    void collect() override;
 
   private:
+    void showValue() override;
+    QStringList content() const override;
     QStringList itemsFor(const QString& stored) const;
 
     QComboBox* mCombo;
     Accepts mAccepts;
-    QString mShown;
 };
 
 } // namespace Korvane

@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -16,7 +17,7 @@ namespace Korvane {
 namespace {
 
 constexpr int buttonWidth = 855;
-constexpr int buttonHeight = 285;
+constexpr int buttonHeight = Twips::oneLine;
 constexpr int buttonGap = 60;
 
 } // namespace
@@ -46,21 +47,18 @@ QList<QWidget*> EditContentEntry::tabOrder() const {
     return {&grid(), mAdd, mRemove};
 }
 
-void EditContentEntry::fill() {
-    mShown = choices();
+void EditContentEntry::showValue() {
+    mFilling = std::make_shared<const int>();
     std::vector<ChoiceRow> entries;
-    for (const QString& entry : mShown)
+    for (const QString& entry : storedEntries())
         entries.push_back({false, entry, static_cast<int>(entries.size()) + 1});
     rows().show(std::move(entries));
     grid().setCurrentIndex(rows().index(0));
     updateRemove();
 }
 
-void EditContentEntry::collect() {
-    const QStringList entries = rows().contents();
-    if (entries == mShown) return;
-    choices(entries);
-    mShown = entries;
+QStringList EditContentEntry::content() const {
+    return rows().contents();
 }
 
 int EditContentEntry::height(const Twips& twips, int tabHeight) const {
@@ -70,16 +68,22 @@ int EditContentEntry::height(const Twips& twips, int tabHeight) const {
 
 void EditContentEntry::place(const QRect& area, const Twips& twips) {
     const int top = area.bottom() + 1 - twips.px(buttonHeight);
-    QRect button(area.left(), top, twips.px(buttonWidth), twips.px(buttonHeight));
+    const QRect button(area.left(), top, twips.px(buttonWidth), twips.px(buttonHeight));
     grid().setGeometry(QRect(area.topLeft(), QSize(area.width(), top - twips.px(buttonGap) - area.top())));
-    mAdd->setGeometry(button);
-    mRemove->setGeometry(button.translated(button.width() + twips.px(buttonGap), 0));
+    const auto inReadingOrder = [&](const QRect& r) {
+        return QStyle::visualRect(grid().layoutDirection(), area, r);
+    };
+    mAdd->setGeometry(inReadingOrder(button));
+    mRemove->setGeometry(inReadingOrder(button.translated(button.width() + twips.px(buttonGap), 0)));
 }
 
+// While the user is asked, the host may show another encounter or delete the controls: the answer is then
+// for nothing that is in view.
 void EditContentEntry::add() {
+    const std::weak_ptr<const int> asked = mFilling;
     const auto answer = Interaction::current().InputBox(
         utf8(QLatin1String("Please enter the content for ") + site().caption() + QLatin1Char(':')), "");
-    if (!answer) return;
+    if (!answer || asked.expired()) return;
     const QString entry = qt(*answer);
     // A list of nothing but blanks is stored as no list at all.
     if (entry.trimmed().isEmpty() || !canBeListEntry(entry)) return;

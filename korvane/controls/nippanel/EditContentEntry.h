@@ -2,6 +2,8 @@
 
 #include <korvane/controls/nippanel/GridEntry.h>
 
+#include <memory>
+
 class QPushButton;
 
 namespace Korvane {
@@ -13,12 +15,13 @@ class EditContentEntry : public GridEntry {
     explicit EditContentEntry(EntrySite entrySite);
 
     QList<QWidget*> tabOrder() const override;
-    void fill() override;
-    void collect() override;
     int height(const Twips& twips, int tabHeight) const override;
     void place(const QRect& area, const Twips& twips) override;
 
   private:
+    void showValue() override;
+    QStringList content() const override;
+    void store(const QStringList& entries) override { storeEntries(entries); }
     QPushButton* makeButton(const QString& text, int offset);
     void add();
     void remove();
@@ -26,7 +29,9 @@ class EditContentEntry : public GridEntry {
 
     QPushButton* mAdd;
     QPushButton* mRemove;
-    QStringList mShown;
+    /// Made anew with every fill, so that one who waits for the user sees whether the entries are still those
+    /// that he asked for.
+    std::shared_ptr<const int> mFilling;
 };
 
 } // namespace Korvane

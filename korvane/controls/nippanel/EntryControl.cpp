@@ -36,9 +36,24 @@ QString EntrySite::elementName(const char* controlArray, int element) {
     return QLatin1String(controlArray) + QLatin1Char('(') + QString::number(element) + QLatin1Char(')');
 }
 
+void EntryControl::fill() {
+    showValue();
+    mShown = content();
+}
+
+void EntryControl::collect() {
+    QStringList now = content();
+    if (now == mShown) return;
+    store(now);
+    mShown = std::move(now);
+}
+
+void EntryControl::store(const QStringList& content) {
+    mSite.store(content.value(0));
+}
+
 int EntryControl::height(const Twips& twips, int) const {
-    constexpr int oneLine = 285;
-    return twips.px(oneLine);
+    return twips.px(Twips::oneLine);
 }
 
 void EntryControl::place(const QRect& area, const Twips&) {

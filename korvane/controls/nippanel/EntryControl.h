@@ -59,10 +59,10 @@ class EntryControl {
     virtual QList<QWidget*> tabOrder() const { return {widget()}; }
 
     /// Shows the model's value. Does not call `edited`.
-    virtual void fill() = 0;
+    void fill();
 
     /// Copies the content into the model where it is not what was last shown or collected.
-    virtual void collect() = 0;
+    void collect();
 
     /// In pixels; `tabHeight` is the height there is for the entries of a tab.
     virtual int height(const Twips& twips, int tabHeight) const;
@@ -78,8 +78,15 @@ class EntryControl {
     /// Gives the field's widget its name, tag and accessible name.
     void identify(QWidget& fieldWidget) const;
 
+    virtual void showValue() = 0;
+    /// What the control holds now: its text, or its entries.
+    virtual QStringList content() const = 0;
+    /// Puts a content into the model; here its first text, empty when there is none, as the value.
+    virtual void store(const QStringList& content);
+
   private:
     EntrySite mSite;
+    QStringList mShown;
 };
 
 } // namespace Korvane

@@ -57,7 +57,18 @@ std::vector<ChoiceRow> GridEntry::rowsFor(const QStringList& chosen) const {
     return rows;
 }
 
-QStringList GridEntry::choices() const {
+// Current, but not selected: what is chosen is seen from the check box.
+void GridEntry::showChoices(const QStringList& chosen) {
+    std::vector<ChoiceRow> choices = rowsFor(chosen);
+    const auto checked =
+        std::find_if(choices.begin(), choices.end(), [](const ChoiceRow& row) { return row.checked; });
+    const int current = checked == choices.end() ? -1 : checked->index - 1;
+    mRows->show(std::move(choices));
+    mGrid->scrollToTop();
+    mGrid->selectionModel()->setCurrentIndex(mRows->index(current), QItemSelectionModel::NoUpdate);
+}
+
+QStringList GridEntry::storedEntries() const {
     const auto& nip = site().nip;
     const int count = nip.ChoiceListCount(site().group, site().field);
     QStringList entries;
@@ -66,13 +77,14 @@ QStringList GridEntry::choices() const {
     return entries;
 }
 
-void GridEntry::choices(const QStringList& entries) {
+void GridEntry::storeEntries(const QStringList& entries) const {
     if (entries.size() > std::numeric_limits<std::int16_t>::max()) throw RuntimeError(RuntimeError::Overflow);
     VariantArray list;
     for (const QString& entry : entries)
         list.elements.emplace_back(utf8(entry));
     site().nip.ChoiceList(site().group, site().field, Variant(std::move(list)));
     site().nip.ChoiceListCount(site().group, site().field, static_cast<std::int16_t>(entries.size()));
+    site().store(entries.join(QLatin1Char('|')));
 }
 
 } // namespace Korvane

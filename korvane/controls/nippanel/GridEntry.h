@@ -23,15 +23,19 @@ class GridEntry : public EntryControl {
     QListView& grid() const { return *mGrid; }
     ChoiceModel& rows() const { return *mRows; }
 
-    /// The field's allowed values as rows, those of `chosen` checked; an entry of `chosen` that is not among
-    /// them stands at the end. Each entry checks one row.
-    std::vector<ChoiceRow> rowsFor(const QStringList& chosen) const;
+    /// Shows the field's allowed values, those of `chosen` checked; an entry of `chosen` that is not among
+    /// them stands at the end. Each entry checks one row. The first row checked becomes the current one and
+    /// is in view.
+    void showChoices(const QStringList& chosen);
 
     /// The field's `ChoiceList`.
-    QStringList choices() const;
-    void choices(const QStringList& entries);
+    QStringList storedEntries() const;
+    /// Makes the entries the field's `ChoiceList`, and its value as it will be stored.
+    void storeEntries(const QStringList& entries) const;
 
   private:
+    std::vector<ChoiceRow> rowsFor(const QStringList& chosen) const;
+
     QListView* mGrid;
     ChoiceModel* mRows;
     bool mFillsTab;

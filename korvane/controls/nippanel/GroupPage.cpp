@@ -42,7 +42,7 @@ QLabel* makeLabel(const QString& caption, int element, QWidget* buddy, QWidget* 
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->setText(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")));
+    label->setText(withoutShortcut(caption));
     label->setBuddy(buddy);
     return label;
 }
@@ -66,6 +66,8 @@ void GroupPage::plan(cNIP& nip, std::int16_t group, std::vector<PlannedField> fi
 void GroupPage::clear() {
     delete std::exchange(mContent, nullptr);
     mCells.clear();
+    mPlan.clear();
+    mNip = nullptr;
 }
 
 void GroupPage::make(QWidget* before) {
@@ -118,6 +120,7 @@ void GroupPage::chain(QWidget* before) {
 void GroupPage::fill() {
     for (const PageCell& cell : mCells)
         cell.entry->fill();
+    scrollTo(0);
 }
 
 void GroupPage::collect() {
@@ -151,8 +154,15 @@ void GroupPage::resizeEvent(QResizeEvent* event) {
 
 void GroupPage::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
-    if (isMade()) measure();
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::LayoutDirectionChange:
+        if (isMade()) measure();
+        break;
+    default:
+        break;
+    }
 }
 
 void GroupPage::showEvent(QShowEvent* event) {

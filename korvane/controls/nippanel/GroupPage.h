@@ -34,9 +34,10 @@ class GroupPage : public QWidget {
     bool isMade() const { return mContent != nullptr; }
     /// Makes and fills the controls unless they are there. They follow `before` in the tab order.
     void make(QWidget* before);
+    /// Forgets the plan and its model; the controls are gone afterwards.
     void clear();
 
-    /// Both pass over a page that is not made.
+    /// Both pass over a page that is not made. A page that is filled begins at its top again.
     void fill();
     void collect();
 

@@ -2,16 +2,12 @@
 
 namespace Korvane {
 
-void ListEntry::fill() {
-    rows().show(rowsFor({site().storedText()}));
-    mShown = rows().checkedContents();
+void ListEntry::showValue() {
+    showChoices({site().storedText()});
 }
 
-void ListEntry::collect() {
-    const QStringList checked = rows().checkedContents();
-    if (checked == mShown) return;
-    site().store(checked.value(0));
-    mShown = checked;
+QStringList ListEntry::content() const {
+    return rows().checkedContents();
 }
 
 } // namespace Korvane

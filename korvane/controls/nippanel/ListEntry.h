@@ -9,11 +9,9 @@ class ListEntry : public GridEntry {
   public:
     explicit ListEntry(EntrySite entrySite) : GridEntry(std::move(entrySite), ChoiceModel::One) {}
 
-    void fill() override;
-    void collect() override;
-
   private:
-    QStringList mShown;
+    void showValue() override;
+    QStringList content() const override;
 };
 
 } // namespace Korvane

@@ -2,16 +2,12 @@
 
 namespace Korvane {
 
-void MultipleListEntry::fill() {
-    rows().show(rowsFor(choices()));
-    mShown = rows().checkedContents();
+void MultipleListEntry::showValue() {
+    showChoices(storedEntries());
 }
 
-void MultipleListEntry::collect() {
-    const QStringList checked = rows().checkedContents();
-    if (checked == mShown) return;
-    choices(checked);
-    mShown = checked;
+QStringList MultipleListEntry::content() const {
+    return rows().checkedContents();
 }
 
 } // namespace Korvane

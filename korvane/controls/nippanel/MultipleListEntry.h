@@ -9,11 +9,10 @@ class MultipleListEntry : public GridEntry {
   public:
     explicit MultipleListEntry(EntrySite entrySite) : GridEntry(std::move(entrySite), ChoiceModel::Many) {}
 
-    void fill() override;
-    void collect() override;
-
   private:
-    QStringList mShown;
+    void showValue() override;
+    QStringList content() const override;
+    void store(const QStringList& entries) override { storeEntries(entries); }
 };
 
 } // namespace Korvane

@@ -10,17 +10,13 @@
 #include <QApplication>
 #include <QSignalBlocker>
 #include <QTabBar>
+#include <QToolButton>
 
 #include <algorithm>
 
 namespace Korvane {
 
 namespace {
-
-/// The text of a tab: an ampersand in a name is an ampersand.
-QString tabTitle(const std::string& group) {
-    return qt(group).replace(QLatin1Char('&'), QLatin1String("&&"));
-}
 
 constexpr auto routineName = "Error in ucNipPanel.CreateNipControls: ";
 
@@ -29,6 +25,8 @@ constexpr auto routineName = "Error in ucNipPanel.CreateNipControls: ";
 NipTabs::NipTabs(QWidget* parent) : QTabWidget(parent) {
     setObjectName(QStringLiteral("atNips"));
     setElideMode(Qt::ElideNone);
+    for (auto* scrollButton : tabBar()->findChildren<QToolButton*>())
+        scrollButton->setFocusPolicy(Qt::NoFocus);
     connect(this, &QTabWidget::currentChanged, this, &NipTabs::makePageInView);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { reveal(now); });
 }
@@ -61,7 +59,7 @@ std::string NipTabs::rebuild(cNIP& nip) {
         resizeTo(static_cast<int>(plan.groups.size()));
         for (std::size_t i = 0; i < mPages.size(); ++i) {
             const auto group = static_cast<std::int16_t>(i + 1);
-            setTabText(static_cast<int>(i), tabTitle(nip.GroupName(group)));
+            setTabText(static_cast<int>(i), withoutShortcut(qt(nip.GroupName(group))));
             mPages[i]->plan(nip, group, std::move(plan.groups[i]));
         }
         setCurrentIndex(indexOfTitle(title, currentIndex()));
@@ -86,10 +84,12 @@ void NipTabs::resizeTo(int count) {
     }
 }
 
-int NipTabs::indexOfTitle(const QString& title, int otherwise) const {
+/// Of several groups with that name, the one at `preferred`, which is also the answer when there is none.
+int NipTabs::indexOfTitle(const QString& title, int preferred) const {
+    if (tabText(preferred) == title) return preferred;
     for (int i = 0; i < count(); ++i)
         if (tabText(i) == title) return i;
-    return otherwise;
+    return preferred;
 }
 
 GroupPage* NipTabs::pageInView() const {

@@ -44,7 +44,7 @@ class NipTabs : public QTabWidget {
   private:
     std::string rebuild(cNIP& nip);
     void resizeTo(int count);
-    int indexOfTitle(const QString& title, int otherwise) const;
+    int indexOfTitle(const QString& title, int preferred) const;
     GroupPage* pageInView() const;
     void makePageInView();
     void reveal(QWidget* focus);

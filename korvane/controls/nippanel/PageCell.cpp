@@ -5,6 +5,7 @@
 
 #include <QFontMetrics>
 #include <QLabel>
+#include <QStyle>
 
 #include <algorithm>
 #include <limits>
@@ -18,6 +19,7 @@ class Placement {
   public:
     Placement(const std::vector<PageCell>& cells, const QWidget& page, QSize viewport)
         : mTwips(page), mFont(page.fontMetrics()), mColumns(columnsFor(cells, viewport.width())),
+          mDirection(page.layoutDirection()), mWidth(viewport.width()),
           mMargin(mTwips.px(PageSpacing::margin)), mTabHeight(viewport.height() - 2 * mMargin),
           mTop(mMargin) {}
 
@@ -68,19 +70,23 @@ class Placement {
         if (mColumns.labelsAbove)
             above = captionHeight + mTwips.px(PageSpacing::belowLabel);
         else
-            labelTop += std::max((mTwips.px(oneLine) - mFont.height()) / 2, 0);
+            labelTop += std::max((mTwips.px(Twips::oneLine) - mFont.height()) / 2, 0);
         const int height = cell.entry->height(mTwips, mTabHeight - above);
         const int width = cell.entry->isWide() ? column.wideWidth : column.entryWidth;
-        cell.label->setGeometry(column.labelX, labelTop, column.labelWidth, captionHeight);
-        cell.entry->place(QRect(column.entryX, mTop + above, width, height), mTwips);
+        cell.label->setGeometry(inReadingOrder({column.labelX, labelTop, column.labelWidth, captionHeight}));
+        cell.entry->place(inReadingOrder({column.entryX, mTop + above, width, height}), mTwips);
         return std::max(labelTop + captionHeight, mTop + above + height) - mTop;
     }
 
-    static constexpr int oneLine = 285;
+    QRect inReadingOrder(const QRect& area) const {
+        return QStyle::visualRect(mDirection, QRect(0, 0, mWidth, 0), area);
+    }
 
     Twips mTwips;
     QFontMetrics mFont;
     PageColumns mColumns;
+    Qt::LayoutDirection mDirection;
+    int mWidth;
     int mMargin;
     int mTabHeight;
     int mTop;
