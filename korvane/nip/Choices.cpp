@@ -53,11 +53,13 @@ void splitChoices(FieldRecord& field) {
     list.lowerBound = 0;
     split(text, list);
     if (list.elements.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
-        throw RuntimeError(RuntimeError::Overflow);
+        throw RuntimeError(RuntimeError::Overflow,
+                           "The field " + field.fieldName + " holds more than 32767 entries");
     field.choiceListCount = static_cast<std::int16_t>(list.elements.size());
 }
 
 std::string joinChoices(const FieldRecord& field) {
+    if (field.choiceListCount < 0) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
     std::string joined;
     for (std::int16_t i = 0; i < field.choiceListCount; ++i) {
         joined += field.choiceList.array().at(i).textOrEmpty();

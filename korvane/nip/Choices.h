@@ -16,7 +16,8 @@ const Variant& emptyList();
 /// value of a field that holds no choices, gives none. Overflow for more than 32767 entries.
 void splitChoices(FieldRecord& field);
 
-/// The choices of a field joined with "|", as they are stored.
+/// The choices of a field joined with "|", as they are stored. SubscriptOutOfRange when there are fewer than
+/// its count says, or the count is negative.
 std::string joinChoices(const FieldRecord& field);
 
 } // namespace Korvane

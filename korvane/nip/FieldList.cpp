@@ -3,35 +3,19 @@
 #include <korvane/data/ErrLog.h>
 #include <korvane/nip/GroupRecord.h>
 #include <korvane/nip/SqlName.h>
+#include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
 
 #include <algorithm>
-#include <array>
+#include <set>
 
 namespace Korvane {
 
 namespace {
 
-using namespace std::string_view_literals;
-
-bool isColumnOfEncounter(std::string_view name) {
-    constexpr std::array columns = {
-        "EncounterID"sv, "EncounterMethodID"sv, "PatientID"sv, "ProviderID"sv,  "ForeignProviderID"sv,
-        "LocationID"sv,  "EncounterDate"sv,     "Outgoing"sv,  "Description"sv, "Transport"sv};
-    return std::ranges::any_of(columns, [&](std::string_view column) { return sameName(column, name); });
-}
-
-void appendColumn(FieldList& list, std::string_view fieldName) {
-    if (!list.columns.empty()) {
-        list.columns += ',';
-        list.joinedColumns += ',';
-    }
-    const std::string column = sqlName(fieldName);
-    list.columns += column;
-    if (isColumnOfEncounter(fieldName)) list.joinedColumns += list.tableName + '.';
-    list.joinedColumns += column;
-    list.hasPatientID = list.hasPatientID || sameName(fieldName, "PatientID");
-    list.hasEncounterDate = list.hasEncounterDate || sameName(fieldName, "EncounterDate");
+void append(std::string& columns, std::string_view column) {
+    if (!columns.empty()) columns += ',';
+    columns += column;
 }
 
 } // namespace
@@ -41,6 +25,7 @@ FieldList GetFieldList(const GroupRecord& group) {
     list.columnOf.assign(static_cast<std::size_t>(group.fieldCount) + 1, FieldList::noColumn);
     if (group.fieldCount == 0) return list;
     list.tableName = sqlName(group.tableName);
+    std::set<std::string> names;
     std::int16_t column = 0;
     for (std::size_t i = 1; i < list.columnOf.size(); ++i) {
         const std::string& fieldName = group.fields[i].fieldName;
@@ -48,10 +33,27 @@ FieldList GetFieldList(const GroupRecord& group) {
             ErrLog("cNip.GetFieldList-Trying to add a blank field to a select list");
             continue;
         }
-        appendColumn(list, fieldName);
+        if (!names.insert(lowerCase(fieldName)).second)
+            throw RuntimeError(RuntimeError::InvalidArgument,
+                               "Two fields of the table " + group.tableName + " have the name " + fieldName);
+        append(list.columns, sqlName(fieldName));
         list.columnOf[i] = column++;
     }
+    list.hasPatientID = names.contains("patientid");
+    list.hasEncounterDate = names.contains("encounterdate");
     return list;
+}
+
+void qualifyColumns(FieldList& list, const GroupRecord& group,
+                    const std::vector<std::string>& columnsOfEncounter) {
+    list.joinedColumns.clear();
+    for (std::size_t i = 1; i < list.columnOf.size(); ++i) {
+        if (list.columnOf[i] == FieldList::noColumn) continue;
+        const std::string& name = group.fields[i].fieldName;
+        const bool isShared = std::ranges::any_of(
+            columnsOfEncounter, [&](const std::string& column) { return sameName(column, name); });
+        append(list.joinedColumns, (isShared ? list.tableName + '.' : "") + sqlName(name));
+    }
 }
 
 bool hasInitialValueRule(const GroupRecord& group) {

@@ -15,16 +15,22 @@ struct FieldList {
 
     std::string tableName; ///< as it is written into a statement
     std::string columns;   ///< "Pulse,[Temp-1]", in field order; empty when there is nothing to read or write
-    /// `columns` for a statement that joins the table `Encounter`: a name that both have is qualified.
+    /// `columns` for a statement that joins the table `Encounter`; empty until `qualifyColumns`.
     std::string joinedColumns;
     std::vector<std::int16_t> columnOf; ///< by field index: its place in `columns`, or `noColumn`
-    bool hasPatientID = false;          ///< a field is named like that column of `Encounter`
+    std::vector<bool> keepsText; ///< by field index: it is a text column; empty until a result has told
+    bool hasPatientID = false;   ///< a field is named like that column of `Encounter`
     bool hasEncounterDate = false;
 };
 
 /// A field whose name is blank has no column; it is left out, with a line in the error log. Raises
-/// InvalidArgument for a field or table whose name no statement can hold.
+/// InvalidArgument for a field or table whose name no statement can hold, and for two fields whose names
+/// differ in case only: they would share one column.
 FieldList GetFieldList(const GroupRecord& group);
+
+/// Makes `joinedColumns`: a name that is also one of these columns of `Encounter` is qualified.
+void qualifyColumns(FieldList& list, const GroupRecord& group,
+                    const std::vector<std::string>& columnsOfEncounter);
 
 /// Whether a field of the group has an initial value rule, so that a new encounter needs the latest one.
 bool hasInitialValueRule(const GroupRecord& group);

@@ -18,6 +18,7 @@ struct FieldRecord {
     bool initialised = false;
     bool changed = false;
     bool pending = false;
+    bool asStored = false; ///< the column is no text column and holds what `previousValue` was read from
     Variant choiceList;
 
     std::int32_t id = 0;

@@ -48,8 +48,11 @@ enum ValueColumn { allowedValue, isDefault, valueFieldName, valueGroupID };
 constexpr std::string_view commentSuffix = "_COMMENTS";
 
 /// The counters of the model are 16-bit.
-std::int16_t raised(std::int16_t count) {
-    if (count == std::numeric_limits<std::int16_t>::max()) throw RuntimeError(RuntimeError::Overflow);
+std::int16_t raised(std::int16_t count, std::string_view what, const std::string& where = {}) {
+    constexpr std::int16_t most = std::numeric_limits<std::int16_t>::max();
+    if (count == most)
+        throw RuntimeError(RuntimeError::Overflow,
+                           "More than " + std::to_string(most) + ' ' + std::string(what) + where);
     return static_cast<std::int16_t>(count + 1);
 }
 
@@ -60,16 +63,30 @@ void setText(std::string& text, const Variant& value) {
         text = value.textOrEmpty();
 }
 
+/// A cell as the number that the model keeps; a failure says which cell of which field it was.
+template <typename Number>
+Number numberAt(SQLData& row, int column, Number (Variant::*convert)() const, const std::string& fieldName) {
+    try {
+        return (row.DataView(column).*convert)();
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.Number(), row.Fields(column)->Name() + " of the field " + fieldName + ": " +
+                                               error.Description());
+    }
+}
+
 /// All but its name and its table, which decide where it belongs.
 void fillField(FieldRecord& field, SQLData& row) {
-    field.id = row.DataView(fieldID).toInt32();
+    const auto number = [&](int column, auto convert) {
+        return numberAt(row, column, convert, field.fieldName);
+    };
+    field.id = number(fieldID, &Variant::toInt32);
     setText(field.caption, row.DataView(fieldCaption));
     setText(field.groupName, row.DataView(fieldGroupName));
-    field.groupID = row.DataView(fieldGroupID).toInt32();
+    field.groupID = number(fieldGroupID, &Variant::toInt32);
     setText(field.displayType, row.DataView(fieldDisplayType));
-    field.maxLength = row.DataView(fieldMaxLength).toInt16();
-    field.initialValueRule = row.DataView(fieldInitialValueRule).toInt16();
-    field.ordinal = row.DataView(fieldOrdinal).toSingle();
+    field.maxLength = number(fieldMaxLength, &Variant::toInt16);
+    field.initialValueRule = number(fieldInitialValueRule, &Variant::toInt16);
+    field.ordinal = number(fieldOrdinal, &Variant::toSingle);
     field.valueList = emptyList();
     field.choiceList = emptyList();
 }
@@ -78,7 +95,7 @@ void addAllowedValue(FieldRecord& field, const Variant& value, bool byDefault) {
     constexpr std::size_t usualCount = 8;
     std::vector<Variant>& values = field.valueList.array().elements;
     if (field.valueListCount == 0) values.reserve(usualCount);
-    field.valueListCount = raised(field.valueListCount);
+    field.valueListCount = raised(field.valueListCount, "values of the field ", field.fieldName);
     values.push_back(value);
     if (byDefault) field.defaultValue = value;
 }
@@ -90,6 +107,8 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
     return guarded("Error in cNip.LoadStructure: ", false, [&] {
         mConnection = connection;
         mStructureLoaded = false;
+        mEncounterID = -1; // its values go with the structure: a save must not write empty ones over them
+        mColumnsOfEncounter.clear();
         mFieldCountMax = 0;
         mRowCountMax = 0;
         mGroups.clear();
@@ -110,7 +129,7 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
 void cNIP::loadGroups() {
     SQLData row;
     for (run(row, mConnection, structureStatements[0]); !row.Eof(); row.NextRow()) {
-        raised(GroupCount());
+        raised(GroupCount(), "groups");
         GroupRecord& group = mGroups.emplace_back();
         setText(group.tableName, row.DataView(groupTable));
         setText(group.groupName, row.DataView(groupName));
@@ -150,7 +169,7 @@ void cNIP::loadFields(FieldIndex& index) {
 }
 
 FieldRecord& cNIP::appendField(GroupRecord& group) {
-    const std::int16_t count = raised(group.fieldCount);
+    const std::int16_t count = raised(group.fieldCount, "fields in the group ", group.groupName);
     const auto index = static_cast<std::size_t>(count);
     if (index >= group.fields.size()) group.fields.resize(index + 1);
     group.fieldCount = count;
@@ -170,7 +189,7 @@ void cNIP::placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex&
             return;
         }
     }
-    group.rowCount = raised(group.rowCount);
+    group.rowCount = raised(group.rowCount, "rows in the group ", group.groupName);
     field.colIndex = 1;
     field.rowIndex = group.rowCount;
     mRowCountMax = std::max(mRowCountMax, group.rowCount);
@@ -181,9 +200,9 @@ void cNIP::loadAllowedValues(const FieldIndex& index) {
     SQLData row;
     for (run(row, mConnection, structureStatements[2]); !row.Eof(); row.NextRow()) {
         setText(name, row.DataView(valueFieldName));
-        const auto fields = index.find(row.DataView(valueGroupID).toInt32(), name);
+        const auto fields = index.find(numberAt(row, valueGroupID, &Variant::toInt32, name), name);
         if (fields.empty()) continue;
-        const bool byDefault = row.DataView(isDefault).toBoolean();
+        const bool byDefault = numberAt(row, isDefault, &Variant::toBoolean, name);
         const Variant& value = row.DataView(allowedValue);
         for (const FieldPlace& place : fields)
             addAllowedValue(at(place.group, place.field), value, byDefault);

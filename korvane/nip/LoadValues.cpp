@@ -20,13 +20,26 @@ void keep(Variant& kept, const Variant& value) {
 void takeText(Variant& value, SQLData& row, std::int16_t column) {
     if (column == FieldList::noColumn) return value.setText("");
     row.DataInto(column, value);
-    if (!value.isText()) value.setText(value.textOrEmpty());
+    if (value.isText()) return;
+    // A null number reads as 0; nothing was entered all the same.
+    const bool zero = value == Variant(std::int16_t{0});
+    value.setText(zero && row.Fields(column)->Value().isNull() ? "" : value.textOrEmpty());
+}
+
+void noteTextColumns(FieldList& list, const SQLData& row) {
+    if (!list.keepsText.empty()) return;
+    for (const std::int16_t column : list.columnOf) {
+        const ado::DataType type =
+            column == FieldList::noColumn ? ado::DataType::Empty : row.Fields(column)->Type();
+        list.keepsText.push_back(type == ado::DataType::VarWChar || type == ado::DataType::LongVarWChar);
+    }
 }
 
 void forget(GroupRecord& group) {
     for (FieldRecord& field : group.fields) {
         field.value = Variant();
         field.previousValue = Variant();
+        field.asStored = false;
         splitChoices(field);
     }
 }
@@ -34,11 +47,11 @@ void forget(GroupRecord& group) {
 } // namespace
 
 bool cNIP::Load(std::int32_t encounterID, std::string_view patientID, bool newEncounter) {
-    mEncounterID = encounterID;
-    mPatientID = patientID;
-    mNewEncounter = newEncounter;
     const bool loaded = guarded("Error in cNip.Load: ", false, [&] {
         if (!mStructureLoaded && !LoadStructure(mConnection)) return false;
+        mEncounterID = encounterID;
+        mPatientID = patientID;
+        mNewEncounter = newEncounter;
         loadValues();
         return true;
     });
@@ -52,9 +65,20 @@ void cNIP::forgetValues() {
         forget(group);
 }
 
-const FieldList& cNIP::fieldListOf(GroupRecord& group) {
+FieldList& cNIP::fieldListOf(GroupRecord& group) {
     if (!group.fieldList) group.fieldList = GetFieldList(group);
     return *group.fieldList;
+}
+
+/// Of the database in hand: a host may have given the table columns of its own.
+const std::vector<std::string>& cNIP::columnsOfEncounter() {
+    if (mColumnsOfEncounter.empty()) {
+        SQLData row;
+        run(row, mConnection, "Select * From Encounter Where 1=0");
+        for (std::int16_t i = 0; i < row.FieldCount(); ++i)
+            mColumnsOfEncounter.push_back(row.Fields(i)->Name());
+    }
+    return mColumnsOfEncounter;
 }
 
 /// Writes the statements that a load runs, in their order, into the storage of those of the last one.
@@ -65,16 +89,19 @@ void cNIP::writeLoadStatements() {
         return mStatements[count++];
     };
     for (std::size_t i = 1; i < mGroups.size(); ++i) {
-        const FieldList& list = fieldListOf(mGroups[i]);
+        FieldList& list = fieldListOf(mGroups[i]);
         if (list.columns.empty()) continue;
         encounterStatement(list, mEncounterID, next());
-        if (carriesForward(mGroups[i])) latestEncounterStatement(list, mPatientID, mEncounterID, next());
+        if (!carriesForward(mGroups[i])) continue;
+        if (list.joinedColumns.empty()) qualifyColumns(list, mGroups[i], columnsOfEncounter());
+        latestEncounterStatement(list, mPatientID, mEncounterID, next());
     }
     mStatements.resize(count);
 }
 
+/// Encounters without a patient are nobody's: they are not taken for those of one person.
 bool cNIP::carriesForward(const GroupRecord& group) const {
-    return mNewEncounter && hasInitialValueRule(group);
+    return mNewEncounter && !mPatientID.empty() && hasInitialValueRule(group);
 }
 
 void cNIP::loadValues() {
@@ -102,17 +129,20 @@ void cNIP::loadValues() {
 }
 
 void cNIP::fillGroup(GroupRecord& group, SQLData& current, SQLData& latest) {
-    const std::vector<std::int16_t>& columnOf = fieldListOf(group).columnOf;
-    for (std::size_t i = 1; i < columnOf.size(); ++i) {
+    FieldList& list = fieldListOf(group);
+    noteTextColumns(list, current);
+    for (std::size_t i = 1; i < list.columnOf.size(); ++i) {
         FieldRecord& field = group.fields[i];
+        const std::int16_t column = list.columnOf[i];
         field.initialised = mNewEncounter;
         if (!mNewEncounter)
-            takeText(field.value, current, columnOf[i]);
+            takeText(field.value, current, column);
         else if (field.initialValueRule >= 1)
-            takeText(field.value, latest, columnOf[i]);
+            takeText(field.value, latest, mPatientID.empty() ? FieldList::noColumn : column);
         else
             keep(field.value, field.defaultValue);
         keep(field.previousValue, field.value);
+        field.asStored = !mNewEncounter && !list.keepsText[i];
         splitChoices(field);
     }
 }

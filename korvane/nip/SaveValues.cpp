@@ -10,25 +10,31 @@ namespace Korvane {
 
 namespace {
 
-/// Calls `add(column, value)` for every field of a group that has a column.
-template <typename Add>
-void forEachColumn(const GroupRecord& group, Add&& add) {
+/// Calls `add(field, value)` for every field of a group that has a column.
+template <typename Group, typename Add>
+void forEachColumn(Group& group, Add&& add) {
     const std::vector<std::int16_t>& columnOf = group.fieldList->columnOf;
     for (std::size_t i = 1; i < columnOf.size(); ++i) {
         if (columnOf[i] == FieldList::noColumn) continue;
-        const FieldRecord& field = group.fields[i];
+        auto& field = group.fields[i];
         if (holdsChoices(field.displayType))
-            add(field.fieldName, Variant(joinChoices(field)));
+            add(field, Variant(joinChoices(field)));
         else
-            add(field.fieldName, field.value);
+            add(field, field.value);
     }
 }
 
 // `lists` is one for all groups: long lists are made in storage that is there already.
-std::string updateStatement(SQLData& lists, const GroupRecord& group, std::int32_t encounterID) {
+std::string updateStatement(SQLData& lists, GroupRecord& group, std::int32_t encounterID) {
     lists.UpdateListClear();
-    forEachColumn(group,
-                  [&](std::string_view column, const Variant& value) { lists.UpdateListAdd(column, value); });
+    forEachColumn(group, [&](FieldRecord& field, const Variant& value) {
+        // Once written it stays written: the transaction may be rolled back, and the value be changed back.
+        field.asStored = field.asStored && value == field.previousValue;
+        if (field.asStored)
+            lists.UpdateListAdd(field.fieldName, "[" + field.fieldName + "]", Quoting::Bare);
+        else
+            lists.UpdateListAdd(field.fieldName, value);
+    });
     raiseFailure(lists);
     const std::string& list = lists.UpdateListGet();
     std::string statement;
@@ -39,8 +45,9 @@ std::string updateStatement(SQLData& lists, const GroupRecord& group, std::int32
 
 std::string insertStatement(SQLData& lists, const GroupRecord& group, std::int32_t encounterID) {
     lists.InsertListClear();
-    forEachColumn(group,
-                  [&](std::string_view column, const Variant& value) { lists.InsertListAdd(column, value); });
+    forEachColumn(group, [&](const FieldRecord& field, const Variant& value) {
+        lists.InsertListAdd(field.fieldName, value);
+    });
     lists.InsertListAdd("EncounterID", encounterID);
     raiseFailure(lists);
     return "Insert Into " + group.fieldList->tableName + lists.InsertListGet();

@@ -26,7 +26,8 @@ FieldRecord& cNIP::at(std::int16_t group, std::int16_t field) {
 }
 
 const GroupRecord& cNIP::groupAt(std::int16_t group) const {
-    if (group < 0) return mGroups.front();
+    static const GroupRecord nothing;
+    if (group < 0) return nothing;
     if (group > GroupCount()) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
     return mGroups[static_cast<std::size_t>(group)];
 }
@@ -48,7 +49,12 @@ const std::string& cNIP::GroupName(std::int16_t group) const {
     return groupAt(group).groupName;
 }
 void cNIP::EncounterID(std::int32_t id) {
+    if (id == mEncounterID) return;
     mEncounterID = id;
+    // The values were read from another encounter's rows.
+    for (GroupRecord& group : mGroups)
+        for (FieldRecord& field : group.fields)
+            field.asStored = false;
 }
 
 const std::string& cNIP::TableName(std::int16_t group, std::int16_t field) const {

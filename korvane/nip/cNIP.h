@@ -89,7 +89,7 @@ class cNIP {
     void ChoiceListCount(std::int16_t group, std::int16_t field, std::int16_t count);
 
     /// The encounter whose rows `Save` writes: set once a new encounter has been given its identifier. -1,
-    /// none yet, in a new model and after a `Load` that failed.
+    /// none yet, in a new model, after `LoadStructure` and after a `Load` that failed.
     void EncounterID(std::int32_t id);
 
     /// Loads groups, fields and allowed values; what was held before is lost, values included. False without
@@ -98,13 +98,15 @@ class cNIP {
     bool LoadStructure(const std::shared_ptr<ado::Connection>& connection);
 
     /// Fills every field's value for an encounter; for a new one from the defaults or, where the field says
-    /// so, from the patient's latest other encounter. Values read from the database are text; a group without
-    /// a row gives empty texts. Loads the structure first if that has not been done. False, with a line in
-    /// the error log, after a failure: the model then holds no values and no encounter, so that nothing of
-    /// another encounter is taken for this one's.
+    /// so, from the patient's latest other encounter (an empty patient ID has none). Values read from the
+    /// database are text; Null, and a group without a row, give empty texts. Loads the structure first if
+    /// that has not been done. False, with a line in the error log, after a failure: the model then holds no
+    /// values and no encounter, so that nothing of another encounter is taken for this one's.
     bool Load(std::int32_t encounterID, std::string_view patientID, bool newEncounter);
 
-    /// Writes every group's row for the encounter, updating or inserting it, all in one transaction. False,
+    /// Writes every group's row for the encounter, updating or inserting it, all in one transaction. A value
+    /// that is still as it was loaded leaves a column that is no text column as it is, so that what its text
+    /// does not show (further digits, a fraction of a second, another program's notes) is not lost. False,
     /// with a line in the error log and nothing written, after a failure; a model without a structure or
     /// without an encounter (-1) is such a failure.
     bool Save();
@@ -120,7 +122,8 @@ class cNIP {
     FieldRecord& appendField(GroupRecord& group);
     void placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex& index);
 
-    const FieldList& fieldListOf(GroupRecord& group);
+    FieldList& fieldListOf(GroupRecord& group);
+    const std::vector<std::string>& columnsOfEncounter();
     bool carriesForward(const GroupRecord& group) const;
     void writeLoadStatements();
     void loadValues();
@@ -133,6 +136,7 @@ class cNIP {
     std::int16_t mFieldCountMax = 0;
     std::int16_t mRowCountMax = 0;
     bool mStructureLoaded = false;
+    std::vector<std::string> mColumnsOfEncounter; ///< of that table; empty until they are needed
     std::int32_t mEncounterID = -1;
     std::string mPatientID;
     bool mNewEncounter = false;

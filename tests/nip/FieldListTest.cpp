@@ -17,7 +17,9 @@ std::string encounter(const FieldList& list, std::int32_t id) {
     return statement;
 }
 
-std::string latest(const FieldList& list, std::string_view patient, std::int32_t id) {
+std::string latest(const GroupRecord& group, std::string_view patient, std::int32_t id) {
+    FieldList list = GetFieldList(group);
+    qualifyColumns(list, group, {"PatientID", "EncounterDate", "Description"});
     std::string statement = "left from before";
     latestEncounterStatement(list, patient, id, statement);
     return statement;
@@ -47,13 +49,14 @@ TEST(FieldList, SkipsABlankFieldAndSaysSo) {
 }
 
 TEST(FieldList, ShapesTheStatementsOfAGroup) {
-    const FieldList plain = GetFieldList(groupOf("NIP_Custom1", {"Pulse", "description", "Order"}));
-    EXPECT_EQ(encounter(plain, -1), "Select Pulse,description,[Order] From NIP_Custom1 Where EncounterID=-1");
+    const GroupRecord plain = groupOf("NIP_Custom1", {"Pulse", "description", "Order"});
+    EXPECT_EQ(encounter(GetFieldList(plain), -1),
+              "Select Pulse,description,[Order] From NIP_Custom1 Where EncounterID=-1");
     EXPECT_EQ(latest(plain, "O'Neil", -1),
               "Select Top 1 Pulse,NIP_Custom1.description,[Order] From NIP_Custom1 INNER JOIN Encounter ON "
               "Encounter.EncounterID=NIP_Custom1.EncounterID Where PatientID='O''Neil' Order By "
               "EncounterDate DESC");
-    const FieldList clashing = GetFieldList(groupOf("My Nip", {"PatientID", "EncounterDate"}));
+    const GroupRecord clashing = groupOf("My Nip", {"PatientID", "EncounterDate"});
     EXPECT_EQ(latest(clashing, "P1", 12),
               "Select Top 1 [My Nip].PatientID,[My Nip].EncounterDate From [My Nip] INNER JOIN Encounter ON "
               "Encounter.EncounterID=[My Nip].EncounterID Where Encounter.PatientID='P1' And "

@@ -145,6 +145,23 @@ TEST(LoadStructure, EndsWithFalseAndALineWhenAStatementFails) {
     EXPECT_EQ(nips.db->transactionLevel(), 0);
 }
 
+TEST(LoadStructure, NamesTheCellThatIsNoSuchNumber) {
+    NipDatabase nips;
+    nips.group(2, "Vitals", "NIP_Custom1");
+    nips.define(2, "Pulse");
+    nips.allowed(2, "Pulse", "72", 1);
+    for (const auto& [change, line] : {std::pair("Update DBFields Set InitialValueRuleID=40000-1+1",
+                                                 "InitialValueRuleID of the field Pulse: Overflow"),
+                                       std::pair("Update DBFieldValues Set DefaultValue='per'||'haps'",
+                                                 "DefaultValue of the field Pulse: Type mismatch")}) {
+        nips.db->quietly("Update DBFields Set InitialValueRuleID=0");
+        nips.db->quietly(change);
+        cNIP nip;
+        EXPECT_FALSE(nip.LoadStructure(nips.db));
+        EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.LoadStructure: " + std::string(line)));
+    }
+}
+
 TEST(LoadStructure, CountsNoFurtherThan16Bits) {
     NipDatabase nips;
     nips.group(2, "Huge", "NIP_Custom1");
@@ -160,7 +177,7 @@ TEST(LoadStructure, CountsNoFurtherThan16Bits) {
     cNIP nip;
     EXPECT_FALSE(nip.LoadStructure(ado::open(nips.address())));
     EXPECT_EQ(nip.FieldCount(1), 32767);
-    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.LoadStructure: "));
+    EXPECT_THAT(nips.errorLog(), HasSubstr("More than 32767 fields in the group Huge"));
     ASSERT_EQ(sqlite3_exec(file, "delete from DBFields where ID=1", nullptr, nullptr, nullptr), SQLITE_OK);
     EXPECT_TRUE(nip.LoadStructure(ado::open(nips.address())));
     EXPECT_EQ(nip.fieldName(1, 32767), "F32768");

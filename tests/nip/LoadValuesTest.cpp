@@ -73,6 +73,10 @@ TEST_F(LoadValues, ReadsEveryGroupsRowOfAnEncounter) {
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 0);
     EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant()));
 
+    nips.db->quietly("Update NIP_Custom1 Set Rank=Null, Description=Null Where EncounterID=3");
+    ASSERT_TRUE(nip.Load(3, "P1", false));
+    EXPECT_THAT(values(), ElementsAre("38.3", "", "  ", "")) << "a null number is nothing entered";
+
     ASSERT_TRUE(nip.Load(99, "P1", false));
     EXPECT_THAT(values(), ElementsAre("", "", "", "")) << "an encounter without a row";
     EXPECT_EQ(nips.db->transactionLevel(), 0);
@@ -81,12 +85,15 @@ TEST_F(LoadValues, ReadsEveryGroupsRowOfAnEncounter) {
 
 TEST_F(LoadValues, FillsANewEncounterFromDefaultsAndThePatientsLatestOne) {
     ASSERT_TRUE(nip.LoadStructure(nips.db));
+    nips.insert(vitals, {{"EncounterID", 5}, {"Temp-1", "nobody's"}});
+    nips.encounter(5, "", "12/1/2025");
     nips.db->statements.clear();
     ASSERT_TRUE(nip.Load(-1, "P1", true));
     EXPECT_THAT(values(), ElementsAre("37.2", "as usual", "a|b|", ""));
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 3);
     EXPECT_THAT(nips.db->statements,
-                ElementsAre("Select [Temp-1],Description,Chosen,Rank From NIP_Custom1 Where EncounterID=-1",
+                ElementsAre("Select * From Encounter Where 1=0",
+                            "Select [Temp-1],Description,Chosen,Rank From NIP_Custom1 Where EncounterID=-1",
                             "Select Top 1 [Temp-1],NIP_Custom1.Description,Chosen,Rank From NIP_Custom1 "
                             "INNER JOIN Encounter ON Encounter.EncounterID=NIP_Custom1.EncounterID Where "
                             "PatientID='P1' Order By EncounterDate DESC"));
@@ -108,7 +115,20 @@ TEST_F(LoadValues, FillsANewEncounterFromDefaultsAndThePatientsLatestOne) {
     nip.DefaultValue(1, 3, 7);
     ASSERT_TRUE(nip.Load(-1, "P1", true));
     EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant("7")));
+    nip.InitialValueRule(1, 4, 1);
+    ASSERT_TRUE(nip.Load(3, "P1", true));
+    EXPECT_EQ(nip.value(1, 4), Variant("2"));
+    nips.db->quietly("Update NIP_Custom1 Set Rank=Null Where EncounterID=2");
+    ASSERT_TRUE(nip.Load(3, "P1", true));
+    EXPECT_EQ(nip.value(1, 4), Variant("")) << "nothing carried forward is no 0";
     EXPECT_TRUE(nips.user->boxes.empty());
+}
+
+TEST_F(LoadValues, TellsTheColumnsOfAHostsEncounterFromItsOwn) {
+    nips.db->quietly("Alter Table Encounter Add Column [Temp-1] TEXT");
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    EXPECT_EQ(nip.value(1, 1), Variant("37.2"));
 }
 
 TEST_F(LoadValues, HoldsNothingOfAnEncounterAfterAFailure) {
@@ -143,14 +163,20 @@ TEST_F(LoadValues, LoadsTheStructureItselfWhenItIsNotThere) {
     EXPECT_THAT(nips.user->boxes[0].text, HasSubstr("Attempt to query while ADO Connection not open"));
 }
 
-TEST_F(LoadValues, RefusesAFieldThatNoStatementCanName) {
-    nips.define(2, "a] From Encounter --");
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
-    EXPECT_FALSE(nip.Load(2, "P1", false));
-    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.Load: \"a] From Encounter --\" cannot be"));
-    nip.EncounterID(2);
-    EXPECT_FALSE(nip.Save());
-    EXPECT_EQ(nips.rows("Select Description From NIP_Custom1 Where EncounterID=2"), "two");
+TEST_F(LoadValues, RefusesFieldsThatNoStatementCanTellApart) {
+    for (const auto& [name, line] :
+         {std::pair("a] From Encounter --", "Error in cNip.Load: \"a] From Encounter --\" cannot be"),
+          std::pair("TEMP-1",
+                    "Error in cNip.Load: Two fields of the table NIP_Custom1 have the name TEMP-1")}) {
+        nips.define(2, name);
+        ASSERT_TRUE(nip.LoadStructure(nips.db));
+        EXPECT_FALSE(nip.Load(2, "P1", false));
+        EXPECT_THAT(nips.errorLog(), HasSubstr(line));
+        nip.EncounterID(2);
+        EXPECT_FALSE(nip.Save());
+        EXPECT_EQ(nips.rows("Select Description From NIP_Custom1 Where EncounterID=2"), "two");
+        nips.db->quietly("Delete From DBFields Where FieldName='" + std::string(name) + "'");
+    }
 }
 
 } // namespace Korvane

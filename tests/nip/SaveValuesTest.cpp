@@ -2,11 +2,19 @@
 
 #include "support/NipDatabase.h"
 
+#include <korvane/ado/Transaction.h>
+#include <korvane/ado/sqlite/SqliteConnection.h>
+
 #include <gmock/gmock.h>
+#include <sqlite3.h>
 
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
 
 namespace Korvane {
 
@@ -127,6 +135,131 @@ TEST(SaveValues, BringsEveryTextBackByteForByte) {
             EXPECT_EQ(writer.value(2, field), reader.value(2, field));
     }
     EXPECT_TRUE(nips.user->boxes.empty());
+}
+
+TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
+    NipDatabase nips;
+    nips.group(2, "Group", "NIP_Custom1");
+    // Parts joined with || meet no column: they are stored as another program might.
+    const std::array<std::pair<const char*, const char*>, 9> cells = {
+        {{"REAL", "1.0/3"},
+         {"REAL", "Null"},
+         {"INTEGER", "Null"},
+         {"INTEGER", "'a '||'few'"},
+         {"SMALLINT", "99999+1"},
+         {"BOOLEAN", "'per'||'haps'"},
+         {"TIMESTAMP", "'2026-11-15 '||'10:00:00.5'"},
+         {"TIMESTAMP", "'unk'||'nown'"},
+         {"VARCHAR(9)", "'text'"}}};
+    std::string columns;
+    std::string stored;
+    for (const auto& [type, value] : cells) {
+        const std::string name = "F" + std::to_string(std::ranges::count(columns, ','));
+        nips.field(2, "NIP_Custom1", name, {.columnType = type});
+        columns += "," + name;
+        stored += "," + std::string(value);
+    }
+    for (const char* id : {"1", "2"})
+        nips.db->quietly("Insert Into NIP_Custom1(EncounterID" + columns + ") Select " + id + stored);
+    const auto rows = [&] { return nips.rows("Select *, F0*3=1 From NIP_Custom1"); };
+    const std::string before = rows();
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    ASSERT_TRUE(nip.Load(1, "P1", false));
+    nips.db->statements.clear();
+    EXPECT_TRUE(nip.Save()) << nips.errorLog();
+    EXPECT_EQ(rows(), before);
+    EXPECT_THAT(nips.db->statements[0], testing::StartsWith("Update NIP_Custom1 Set [F0]=[F0],"));
+    EXPECT_THAT(nips.db->statements[0], HasSubstr("='text' Where EncounterID=1"));
+
+    // A value that was changed and changed back is the user's own, also when the first save came to nothing.
+    const std::string shown = nip.value(1, 1).text();
+    nip.value(1, 1, "5");
+    {
+        ado::Transaction givenUp(*nips.db);
+        EXPECT_TRUE(nip.Save());
+    }
+    EXPECT_TRUE(nip.Save());
+    EXPECT_EQ(nips.rows("Select F0 From NIP_Custom1 Where EncounterID=1"), "5");
+    nip.value(1, 1, shown);
+    EXPECT_TRUE(nip.Save());
+    EXPECT_EQ(nips.rows("Select F0 From NIP_Custom1 Where EncounterID=1"), shown);
+
+    // Values for another encounter are written whatever that one holds.
+    ASSERT_TRUE(nip.Load(1, "P1", false));
+    nip.EncounterID(2);
+    EXPECT_FALSE(nip.Save()) << "some of them cannot be written";
+    for (const int field : {4, 5, 6, 8})
+        nip.value(1, static_cast<std::int16_t>(field), "");
+    EXPECT_TRUE(nip.Save());
+    EXPECT_EQ(nips.rows("Select F0*3=1 From NIP_Custom1 Where EncounterID=2"), "0");
+}
+
+TEST(SaveValues, WritesNothingForAStructureThatWasLoadedAnew) {
+    NipDatabase nips;
+    makeGroups(nips, 1);
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    nip.EncounterID(1);
+    setAll(nip, "kept");
+    ASSERT_TRUE(nip.Save());
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    EXPECT_FALSE(nip.Save());
+    ASSERT_TRUE(nip.Load(1, "P1", false));
+    nip.ChoiceListCount(1, 3, -1);
+    EXPECT_FALSE(nip.Save()) << "no count";
+    EXPECT_EQ(nips.rows("Select [Temp-1], Chosen From NIP_Custom1"), "kept|kept||kept");
+}
+
+TEST(SaveValues, WaitsForTheLockOfAnotherProgramThenFails) {
+    NipDatabase nips;
+    makeGroups(nips, 1);
+    const auto db = ado::open(nips.address());
+    ado::sqlite::setBusyTimeout(*db, std::chrono::milliseconds(20));
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(db));
+    nip.EncounterID(1);
+    setAll(nip, "old");
+    ASSERT_TRUE(nip.Save());
+    setAll(nip, "new");
+    ado::Transaction other(*nips.db);
+    EXPECT_FALSE(nip.Save());
+    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.Save: "));
+    EXPECT_EQ(db->transactionLevel(), 0);
+    cNIP reader;
+    ASSERT_TRUE(reader.LoadStructure(db));
+    EXPECT_TRUE(reader.Load(1, "P1", false)) << "reading goes on";
+    EXPECT_EQ(reader.value(1, 1), Variant("old"));
+    other.commit();
+    EXPECT_TRUE(nip.Save()) << "nothing of the entries is lost";
+    EXPECT_EQ(nips.rows("Select [Temp-1] From NIP_Custom1"), "new");
+}
+
+TEST(SaveValues, JoinsTheTransactionOfAHostThatLentItsHandle) {
+    NipDatabase nips;
+    makeGroups(nips, 2);
+    nips.field(2, "NIP_Custom1", "Count", {.columnType = "INTEGER"});
+    sqlite3* handle = nullptr;
+    ASSERT_EQ(sqlite3_open(nips.dir.file("clinic.db").c_str(), &handle), SQLITE_OK);
+    sqlite3_exec(handle, "begin; insert into NIP_Custom1(EncounterID, Count) values (1, 50)", nullptr,
+                 nullptr, nullptr);
+    {
+        cNIP nip;
+        ASSERT_TRUE(nip.LoadStructure(ado::sqlite::adopt(handle)));
+        ASSERT_TRUE(nip.Load(1, "P1", false));
+        EXPECT_EQ(nip.value(1, 4), Variant("50"));
+        setAll(nip, "mine");
+        nip.value(1, 4, "many");
+        EXPECT_FALSE(nip.Save());
+        nip.value(1, 4, "51");
+        EXPECT_TRUE(nip.Save());
+        EXPECT_EQ(sqlite3_get_autocommit(handle), 0) << "the host's transaction is the host's to end";
+        EXPECT_EQ(nips.rows("Select Count(*) From NIP_Custom2"), "0");
+        sqlite3_exec(handle, "commit", nullptr, nullptr, nullptr);
+    }
+    EXPECT_EQ(sqlite3_close(handle), SQLITE_OK);
+    EXPECT_EQ(nips.rows("Select [Temp-1], Count From NIP_Custom1"), "mine|51");
+    EXPECT_EQ(nips.rows("Select [Temp-1] From NIP_Custom2"), "mine");
 }
 
 TEST(SaveValues, WritesNothingAtAllWhenAStatementFails) {

@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <string>
+#include <vector>
+
 namespace Korvane {
 
 using namespace std::string_literals;
@@ -22,21 +25,25 @@ TEST(SqlName, BracketsOnlyWhatIsNoPlainName) {
         EXPECT_THROW(sqlName(impossible), RuntimeError) << impossible;
 }
 
-TEST(SqlName, WritesEveryKeywordOfTheEngineSoThatItIsAName) {
+TEST(SqlName, WritesEveryWordOfTheEngineAndTheDialectSoThatItIsAName) {
     const auto db = ado::open("sqlite::memory:");
+    std::vector<std::string> words = {"Top", "Percent", "DistinctRow"};
     for (int i = 0; i < sqlite3_keyword_count(); ++i) {
         const char* text = nullptr;
         int length = 0;
         ASSERT_EQ(sqlite3_keyword_name(i, &text, &length), SQLITE_OK);
-        const std::string word(text, static_cast<std::size_t>(length));
+        words.emplace_back(text, static_cast<std::size_t>(length));
+    }
+    for (const std::string& word : words) {
         const std::string name = sqlName(word);
         SCOPED_TRACE(name);
         try {
             db->Execute("Create Table [" + word + "] ([EncounterID] INTEGER PRIMARY KEY, [" + word +
                         "] TEXT)");
             db->Execute("Insert Into " + name + "([" + word + "],[EncounterID])  values ('x',1)");
-            const auto rows = db->openCursor("Select " + name + " From " + name + " Where EncounterID=1",
-                                             ado::CursorType::ForwardOnly, ado::LockType::ReadOnly);
+            const auto rows =
+                db->openCursor("Select Top 1 " + name + " From " + name + " Where EncounterID=1",
+                               ado::CursorType::ForwardOnly, ado::LockType::ReadOnly);
             Variant value;
             rows->value(0, value);
             EXPECT_EQ(value, Variant("x"));

@@ -39,6 +39,7 @@ TEST(cNIP, KeepsToTheBoundsOfItsTable) {
     EXPECT_EQ(nip.RowIndex(9, -1), 0);
     EXPECT_TRUE(nip.value(-1, -1).isEmpty());
     EXPECT_EQ(nip.FieldCount(-1), 0);
+    EXPECT_EQ(nip.GroupName(-1), "");
     EXPECT_EQ(nip.fieldName(0, 0), "");
     EXPECT_EQ(nip.fieldName(2, 2), "") << "behind the last field of a shorter group";
     expectOutOfRange([&] { nip.fieldName(3, 1); }, "a group too many");

@@ -70,7 +70,7 @@ class Search {
 
     std::optional<Meeting> inValues() const {
         if (mPlace.clause != Clause::Values || mPlace.depth != mPlace.clauseDepth + 1) return std::nullopt;
-        if (!endsValue() || scope().sources.empty()) return std::nullopt;
+        if (!isInsert() || !endsValue() || scope().sources.empty()) return std::nullopt;
         const auto columns = mTables.columnsOf(scope().sources.front().table);
         const auto ordinal = static_cast<std::size_t>(mPlace.ordinal);
         const auto& named = scope().insertColumns;
@@ -80,6 +80,12 @@ class Search {
         }
         if (ordinal >= named.size()) return std::nullopt;
         return found(ColumnRef{"", plainName(named[ordinal]), 0, 0}, Use::Store);
+    }
+
+    // Values may also stand in a condition: A In (Values (1),(2)).
+    bool isInsert() const {
+        const Token& verb = mStatement.tokens[scope().begin];
+        return verb.isWord("insert") || verb.isWord("replace");
     }
 
     bool endsValue() const {

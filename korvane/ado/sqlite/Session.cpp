@@ -142,8 +142,9 @@ void Session::liftFrom(std::string_view statement) {
 Lease Session::prepare(std::string_view statement) {
     liftFrom(statement);
     std::shared_ptr<Shape> shape = mShapes.find(mLifter.shape());
-    // What the values become rests on the types of the columns: these must be those of now.
-    if (!shape || restsOnColumns(*shape)) {
+    // What the values become rests on the types of the columns, and a form compiled now has the columns of
+    // now: what is known of them must be no older.
+    if (!shape || !shape->idle || restsOnColumns(*shape)) {
         refreshSchema();
         if (shape && shape->forgotten) shape = nullptr;
     }
@@ -159,7 +160,7 @@ Lease Session::prepare(std::string_view statement) {
 // Whether a change of a column's type would change what is bound. A number that is compared with a number is
 // the same in all.
 bool Session::restsOnColumns(const Shape& shape) const {
-    if (!shape.converts) return false;
+    if (!shape.meetsColumns) return false;
     const auto& literals = mLifter.literals();
     for (std::size_t i = 0; i < literals.size(); ++i) {
         const ParameterRule& rule = shape.translation.parameters[i];
@@ -186,10 +187,8 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
     shape->translation = translate(text, mSchema, addedColumns);
     shape->idle = CompiledStatement(mHandle, shape->translation.text, true);
     if (!shape->idle) throw RuntimeError(RuntimeError::InvalidArgument, "There is no statement to run.");
-    for (ParameterRule& rule : shape->translation.parameters) {
-        if (rule.column && sql::isTextType(rule.column->type)) rule.column.reset();
-        shape->converts = shape->converts || rule.column.has_value();
-    }
+    shape->meetsColumns = std::ranges::any_of(
+        shape->translation.parameters, [](const ParameterRule& rule) { return rule.column.has_value(); });
     const sql::Token first = sql::Lexer(text).next();
     const auto isOne = [&](auto... words) { return (first.isWord(words) || ...); };
     shape->countsRows = isOne("insert", "update", "delete", "replace", "with");
@@ -250,18 +249,19 @@ std::unique_ptr<Cursor> Session::openCursor(std::string_view statement, CursorTy
         return openKeyset(statement, lockType);
     }
     Lease lease = prepare(statement);
+    const Returned returned(mShapes, lease);
     bindLiterals(lease, TextLives::OnlyNow);
-    auto cursor = open(std::move(lease));
+    auto cursor = open(lease);
     if (cursor && cursorType == CursorType::Static) cursor->become(CursorType::Static, LockType::ReadOnly);
     return cursor;
 }
 
-// Runs a bound statement and gives the cursor on its result; null when it returns no rows.
-std::unique_ptr<ResultCursor> Session::open(Lease lease) {
+// Runs a bound statement and gives the cursor on its result, which takes the lease over; null when it returns
+// no rows.
+std::unique_ptr<ResultCursor> Session::open(Lease& lease) {
     sqlite3_stmt* statement = lease.statement.get();
     if (sqlite3_column_count(statement) == 0) {
         run(lease);
-        mShapes.giveBack(std::move(lease));
         return nullptr;
     }
     const bool writes = sqlite3_stmt_readonly(statement) == 0;
@@ -286,8 +286,9 @@ std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType
         }
     }
     Lease lease = prepareOnce(statement, keyColumns);
+    const Returned returned(mShapes, lease);
     bindLiterals(lease, TextLives::OnlyNow);
-    auto cursor = open(std::move(lease));
+    auto cursor = open(lease);
     if (cursor) cursor->become(CursorType::Keyset, lockType, std::move(writeback));
     return cursor;
 }
@@ -298,7 +299,7 @@ void Session::describeResult(const Lease& lease) {
     sqlite3_stmt* statement = lease.statement.get();
     const bool recompiled = sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_REPREPARE, 1) > 0;
     if (recompiled) refreshSchema();
-    if (lease.shape->columns && !lease.shape->forgotten) return;
+    if (lease.shape->columns && !lease.shape->forgotten && !recompiled) return;
     std::vector<ColumnInfo> columns;
     const auto& computed = lease.shape->translation.resultTypes;
     const auto count = static_cast<std::size_t>(sqlite3_column_count(statement));

@@ -60,7 +60,7 @@ class Session final : public Connection {
     void forgetSchema();
     void settleCursors();
     std::int32_t run(Lease& lease);
-    std::unique_ptr<ResultCursor> open(Lease lease);
+    std::unique_ptr<ResultCursor> open(Lease& lease);
     std::unique_ptr<Cursor> openKeyset(std::string_view statement, LockType lockType);
     void describeResult(const Lease& lease);
     void letGo() noexcept;

@@ -31,7 +31,7 @@ class ResultColumns {
 struct Shape {
     std::string text;
     Translation translation;
-    bool converts = false;                        ///< some value meets a column that is not a text column
+    bool meetsColumns = false;                    ///< some value meets a known column
     bool countsRows = false;                      ///< Insert, Update or Delete
     bool changesSchema = false;                   ///< anything but these and queries
     std::shared_ptr<const ResultColumns> columns; ///< set when it first returned rows
