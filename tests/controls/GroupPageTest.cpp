@@ -82,7 +82,7 @@ TEST(GroupPage, ClipsAndOverlapsNothingAtAnyWidthAndFontSize) {
 TEST(GroupPage, PutsACommentBesideItsFieldAndBelowItWhereThereIsNoRoom) {
     NipForm form;
     manyFields(form);
-    form.open({1300, 600});
+    form.open({780, 600});
     EXPECT_EQ(place(form, "txtNip(1)").top(), place(form, "txtNip(0)").top());
     EXPECT_GT(place(form, "txtNip(1)").left(), place(form, "txtNip(0)").right());
     form.window.resize(600, 600);

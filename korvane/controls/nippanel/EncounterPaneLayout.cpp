@@ -15,7 +15,6 @@ namespace Korvane {
 
 namespace {
 
-constexpr int oneLine = 285;
 constexpr int gapBetween = 75;
 constexpr int descriptionWidth = 3000;
 
@@ -25,7 +24,7 @@ constexpr int descriptionWidth = 3000;
 struct EncounterPane::Measures {
     explicit Measures(const EncounterPane& pane) {
         const Twips twips(pane);
-        line = twips.px(oneLine);
+        line = twips.px(Twips::oneLine);
         gap = twips.px(gapBetween);
         for (int i = 0; i < 3; ++i)
             label[i] = pane.mLabels[i]->sizeHint().width();

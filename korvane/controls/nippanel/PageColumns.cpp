@@ -10,11 +10,11 @@ namespace Korvane {
 namespace {
 
 constexpr int narrowPage = 4275;
-constexpr int pageForTwoColumns = 9000;
+constexpr int pageForTwoColumns = 7800;
 constexpr int widestEntry = 6300;
 constexpr int widestLabel = 6300;
 constexpr double firstColumnPart = 0.6;
-constexpr double labelPart = 0.45;
+constexpr double labelPart = 0.4;
 constexpr double longWordPart = 0.6;
 
 PageColumn divideColumn(int x, int width, const CaptionWidths& captions, const Twips& twips) {
