@@ -64,6 +64,8 @@ class Encounter {
     /// an update of a row that is gone, and before any `Save`. It does not know of a transaction that is
     /// rolled back later: keep a copy from before to go back to. For use within the library.
     bool Stored() const { return mRow.stored(); }
+    /// Whether the last load failed, which is another thing than finding no row. For use within the library.
+    bool Unread() const { return mRow.unread(); }
 
     /// Deletes the row, or writes a line to the error log when there is none of its own. Always false.
     /// Attachments stay.

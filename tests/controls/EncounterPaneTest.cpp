@@ -30,14 +30,26 @@ TEST(EncounterPane, OffersTheProvidersAsTheTableHasThem) {
 
 TEST(EncounterPane, AWheelThatPassesOverItChangesNothing) {
     PanelDesk desk;
+    desk.panel.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&desk.panel));
     desk.panel.LoadNipInfo(7, "P1");
-    desk.description().setFocus();
     for (QWidget* control : {static_cast<QWidget*>(&desk.providers()), static_cast<QWidget*>(&desk.date())}) {
+        control->setFocus();
         QWheelEvent wheel(QPointF(5, 5), control->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(control, &wheel);
     }
     EXPECT_FALSE(desk.panel.isModified());
+}
+
+TEST(EncounterPane, TakesADescriptionOfAnyLength) {
+    PanelDesk desk;
+    desk.db->quietly("Update Encounter Set Description='" + std::string(40000, 'x') + "'");
+    desk.panel.LoadNipInfo(7, "P1");
+    QTest::keyClick(&desk.description(), Qt::Key_End);
+    QTest::keyClick(&desk.description(), 'y');
+    desk.save();
+    EXPECT_EQ(desk.rows("Select Description From Encounter"), std::string(40000, 'x') + "y");
 }
 
 TEST(EncounterPane, WrapsRatherThanClipsAtAnyWidthAndFontSize) {

@@ -74,19 +74,26 @@ TEST(SavingANip, ANewOneIsStoredAndToldOnce) {
               "81|Second visit");
 }
 
-TEST(SavingANip, TheHostsOwnSaveTellsOfANewNipOnlyOnce) {
+TEST(SavingANip, TheHostsOwnSaveLeavesTheEncounterPaneUnlessTheNipIsNew) {
     PanelDesk desk;
     desk.panel.LoadNipInfo(7, "P1");
     desk.type(desk.description(), "Edited");
+    desk.type(desk.pulse(), "71");
     desk.panel.SaveNipInfo();
     EXPECT_TRUE(desk.panel.isModified()) << "the encounter pane is not saved by it";
-    EXPECT_EQ(desk.rows("Select Description From Encounter"), "Visit");
+    EXPECT_EQ(desk.rows("Select Description From Encounter") + desk.rows("Select Pulse From NIP_Custom1"),
+              "Visit71");
 
     desk.user->answers = {Answer::Yes};
-    desk.panel.CreateNip("P2");
+    desk.enterNewNip();
     desk.panel.SaveNipInfo();
-    EXPECT_EQ(desk.user->boxes.back(), notSaved) << "there is no encounter yet to save for";
-    EXPECT_THAT(desk.heard, IsEmpty());
+    EXPECT_THAT(desk.heard, ElementsAre("created 8"));
+    EXPECT_EQ(desk.state(), "Saved Nip");
+    EXPECT_EQ(desk.rows("Select PatientID,Description From Encounter Where EncounterID=8"), "P2|First visit");
+    EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1 Where EncounterID=8"), "80");
+    desk.type(desk.pulse(), "81");
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("created 8", "closed")) << "created only once";
 }
 
 TEST(SavingANip, ADateThatIsEditedIsARenameAndKeepsItsSecondsOtherwise) {
@@ -171,14 +178,20 @@ TEST(SavingANip, AFailedRenameIsToldOnlyOnceItIsStored) {
 }
 
 TEST(SavingANip, AnEncounterThatIsGoneIsNotSavedAndSaidSo) {
-    PanelDesk desk;
-    desk.panel.LoadNipInfo(7, "P1");
-    desk.type(desk.pulse(), "99");
-    desk.db->quietly("Delete From Encounter");
-    desk.save();
-    EXPECT_THAT(desk.user->boxes, Contains(notSaved));
-    EXPECT_THAT(desk.heard, IsEmpty());
-    EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "72");
+    const std::function<void(PanelDesk&)> saves[] = {[](PanelDesk& desk) { desk.save(); },
+                                                     [](PanelDesk& desk) { desk.panel.SaveNipInfo(); }};
+    for (const auto& save : saves) {
+        PanelDesk desk;
+        desk.panel.LoadNipInfo(7, "P1");
+        desk.type(desk.pulse(), "99");
+        desk.db->quietly("Delete From Encounter");
+        desk.db->quietly("Delete From NIP_Custom1");
+        save(desk);
+        EXPECT_THAT(desk.user->boxes, Contains(notSaved));
+        EXPECT_THAT(desk.heard, IsEmpty());
+        EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "") << "values of no encounter";
+        EXPECT_EQ(desk.pulse().text(), "99");
+    }
 }
 
 TEST(SavingANip, WithoutAProviderTheUserIsAskedForOne) {
@@ -195,6 +208,27 @@ TEST(SavingANip, WithoutAProviderTheUserIsAskedForOne) {
     QTest::keyClick(&desk.providers(), Qt::Key_Down);
     desk.save();
     EXPECT_THAT(desk.heard, ElementsAre("created 8", "closed"));
+
+    desk.db->quietly("Delete From Provider");
+    desk.panel.CreateNip("P2");
+    desk.save();
+    EXPECT_EQ(desk.user->boxes.back().text,
+              "This clinic has no providers yet. An encounter cannot be saved without one.");
+}
+
+TEST(SavingANip, ASecondClickOrAHeldKeySavesNothingMore) {
+    PanelDesk desk;
+    desk.enterNewNip();
+    auto& button = desk.part<QAbstractButton>("cmdNipButton(0)");
+    desk.save();
+    QTest::mouseDClick(&button, Qt::LeftButton);
+    EXPECT_THAT(desk.heard, ElementsAre("created 8", "closed"));
+
+    desk.panel.LoadNipInfo(7, "P1");
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier, QString(), true);
+    QCoreApplication::sendEvent(&desk.pulse(), &held);
+    EXPECT_EQ(desk.state(), "Saved Nip") << "not closed";
+    EXPECT_THAT(desk.user->boxes, IsEmpty());
 }
 
 TEST(SavingANip, AnIdentifierAbove32767OverflowsAtTheEventWithTheDataSaved) {

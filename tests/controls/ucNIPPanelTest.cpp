@@ -144,18 +144,42 @@ TEST(ucNIPPanel, ShowsNothingThatIsMissingOrOfAnotherPatient) {
 }
 
 TEST(ucNIPPanel, ALoadThatFailsLeavesNothingOfThePatientBefore) {
+    for (const char* statement : {"From NIP_Custom1", "from Encounter", "From Provider"}) {
+        SCOPED_TRACE(statement);
+        PanelDesk desk;
+        ASSERT_TRUE(desk.panel.LoadNipInfo(7, "P1"));
+        desk.encounter(9, "P2", "2/2/2026");
+        desk.db->failOn = statement;
+        EXPECT_FALSE(desk.panel.LoadNipInfo(9, "P2"));
+        EXPECT_EQ(desk.user->boxes.back(),
+                  (ShownBox{"This Nip could not be read from the database. Please try again.",
+                            MsgBoxStyle::Exclamation, ""}));
+        EXPECT_EQ(desk.pulse().text() + desk.description().text(), "");
+        desk.db->failOn.clear();
+        EXPECT_TRUE(desk.panel.LoadNipInfo(7, "P1"));
+        EXPECT_EQ(desk.pulse().text(), "72");
+    }
+}
+
+TEST(ucNIPPanel, CreatesNoNipOfNobody) {
     PanelDesk desk;
-    ASSERT_TRUE(desk.panel.LoadNipInfo(7, "P1"));
-    desk.encounter(9, "P2", "2/2/2026");
-    desk.db->failOn = "From NIP_Custom1";
-    EXPECT_FALSE(desk.panel.LoadNipInfo(9, "P2"));
-    EXPECT_EQ(desk.user->boxes.back(),
-              (ShownBox{"This Nip could not be read from the database. Please try again.",
-                        MsgBoxStyle::Exclamation, ""}));
-    EXPECT_EQ(desk.pulse().text() + desk.description().text(), "");
-    desk.db->failOn.clear();
-    EXPECT_TRUE(desk.panel.LoadNipInfo(7, "P1"));
+    desk.panel.LoadNipInfo(7, "P1");
+    for (const char* nobody : {"", "  "})
+        EXPECT_FALSE(desk.panel.CreateNip(nobody));
+    EXPECT_EQ(desk.user->boxes.size(), 2U);
+    EXPECT_EQ(desk.user->boxes.back().text, "No patient is chosen. A Nip cannot be created without one.");
     EXPECT_EQ(desk.pulse().text(), "72");
+}
+
+TEST(ucNIPPanel, UnsavedEntriesCanStillBeSavedWhenThePanelIsToCustomizeOnly) {
+    PanelDesk desk;
+    desk.panel.LoadNipInfo(7, "P1");
+    desk.type(desk.pulse(), "55");
+    desk.panel.CustomizeOnly(true);
+    EXPECT_TRUE(desk.part<QWidget>("cmdNipButton(0)").isVisible());
+    desk.save();
+    EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "55");
+    EXPECT_FALSE(desk.part<QWidget>("cmdNipButton(0)").isVisible());
 }
 
 TEST(ucNIPPanel, AStructureThatCouldNotBeReadIsReadWhenItIsNeeded) {

@@ -30,10 +30,14 @@ ButtonRow::ButtonRow(QWidget* parent) : QWidget(parent) {
 }
 
 void ButtonRow::arrange(bool customizeOnly, bool allowClose) {
-    mButtons[Save]->setVisible(!customizeOnly);
     mButtons[Customize]->setVisible(!customizeOnly);
     mButtons[Cancel]->setText(customizeOnly ? "Close" : "Cancel");
     mButtons[Cancel]->setVisible(allowClose);
+}
+
+void ButtonRow::offerSave(bool shown, bool enabled) {
+    mButtons[Save]->setVisible(shown);
+    mButtons[Save]->setEnabled(enabled);
 }
 
 } // namespace Korvane

@@ -16,8 +16,9 @@ class ButtonRow : public QWidget {
 
     explicit ButtonRow(QWidget* parent = nullptr);
 
-    /// Shows the buttons that the panel's two properties call for.
+    /// Shows the buttons that the panel's two properties call for, except Save.
     void arrange(bool customizeOnly, bool allowClose);
+    void offerSave(bool shown, bool enabled);
 
     QPushButton& button(int index) const { return *mButtons[index]; }
 

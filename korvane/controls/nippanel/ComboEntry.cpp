@@ -1,71 +1,11 @@
 #include <korvane/controls/nippanel/ComboEntry.h>
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QCompleter>
-#include <QHelpEvent>
+#include <korvane/controls/nippanel/PageCombo.h>
+
 #include <QLineEdit>
 #include <QSignalBlocker>
-#include <QStyleOptionComboBox>
-#include <QToolTip>
-#include <QWheelEvent>
-
-#include <algorithm>
-#include <limits>
 
 namespace Korvane {
-
-namespace {
-
-/// A combo box on a page that scrolls: the wheel scrolls the page and never changes an answer; the list that
-/// drops down is wide enough for its items.
-class PageCombo : public QComboBox {
-  public:
-    explicit PageCombo(QWidget* parent) : QComboBox(parent) {
-        setFocusPolicy(Qt::StrongFocus);
-        setInsertPolicy(QComboBox::NoInsert);
-    }
-
-    void showPopup() override {
-        QAbstractItemView* list = view();
-        list->setTextElideMode(Qt::ElideNone);
-        const int needed = list->sizeHintForColumn(0) + 2 * list->frameWidth() +
-                           style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-        list->setMinimumWidth(std::clamp(needed, width(), std::max(width(), window()->width())));
-        QComboBox::showPopup();
-    }
-
-    /// Without the completer that a combo box gives itself: it changes what was typed into the case of an
-    /// item, and costs more than the box.
-    void takeAnyText() {
-        auto* text = new QLineEdit(this);
-        text->setMaxLength(std::numeric_limits<int>::max());
-        QCompleter placeholder;
-        text->setCompleter(&placeholder);
-        setLineEdit(text);
-        text->setCompleter(nullptr);
-    }
-
-  protected:
-    bool event(QEvent* event) override {
-        if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), isCut() ? currentText() : QString(),
-                           this);
-        return true;
-    }
-    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-
-  private:
-    bool isCut() const {
-        QStyleOptionComboBox option;
-        initStyleOption(&option);
-        const QRect room =
-            style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-        return fontMetrics().horizontalAdvance(currentText()) > room.width();
-    }
-};
-
-} // namespace
 
 ComboEntry::ComboEntry(EntrySite entrySite, Accepts accepts)
     : EntryControl(std::move(entrySite)), mAccepts(accepts) {

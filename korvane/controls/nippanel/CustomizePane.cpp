@@ -1,6 +1,7 @@
 #include <korvane/controls/nippanel/CustomizePane.h>
 
 #include <korvane/controls/container/Text.h>
+#include <korvane/controls/nippanel/Counted.h>
 #include <korvane/nip/cNIP.h>
 
 #include <QHBoxLayout>
@@ -27,7 +28,7 @@ QTreeWidget* makeStructureView(QWidget* parent) {
 
 QTreeWidgetItem* groupItem(const cNIP& nip, std::int16_t group) {
     auto* item = new QTreeWidgetItem({qt(nip.GroupName(group))});
-    for (std::int16_t field = 1; field <= nip.FieldCount(group); ++field) {
+    for (const std::int16_t field : countedFrom1(nip.FieldCount(group))) {
         item->addChild(new QTreeWidgetItem({qt(nip.fieldName(group, field)), qt(nip.Caption(group, field)),
                                             qt(nip.displayType(group, field))}));
     }
@@ -64,7 +65,7 @@ void CustomizePane::showStructure(const cNIP* nip) {
     mStructure->clear();
     if (!nip) return;
     QList<QTreeWidgetItem*> groups;
-    for (std::int16_t group = 1; group <= nip->GroupCount(); ++group)
+    for (const std::int16_t group : countedFrom1(nip->GroupCount()))
         groups.append(groupItem(*nip, group));
     mStructure->addTopLevelItems(groups);
     for (QTreeWidgetItem* item : groups)

@@ -1,39 +1,33 @@
 #include <korvane/controls/nippanel/EncounterPane.h>
 
 #include <korvane/controls/container/Text.h>
+#include <korvane/controls/nippanel/EncounterDateEdit.h>
+#include <korvane/controls/nippanel/PageCombo.h>
 #include <korvane/data/SQLData.h>
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QDateTimeEdit>
-#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
+
+#include <limits>
+#include <optional>
 
 namespace Korvane {
 
 namespace {
 
-QDateTimeEdit* makeDateEdit(QWidget* parent) {
-    auto* edit = new QDateTimeEdit(parent);
-    edit->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-    edit->setDisplayFormat("M/d/yyyy h:mm AP");
-    edit->setDateTimeRange(QDateTime(QDate(100, 1, 1), QTime(0, 0)),
-                           QDateTime(QDate(9999, 12, 31), QTime(23, 59, 59)));
-    edit->setSpecialValueText(" "); // at the minimum, which stands for no date
-    edit->setCalendarPopup(true);
-    edit->setFocusPolicy(Qt::StrongFocus);
+QLineEdit* makeDescription(QWidget* parent) {
+    auto* edit = new QLineEdit(parent);
+    edit->setMaxLength(std::numeric_limits<int>::max());
     return edit;
 }
 
-QComboBox* makeProviderCombo(QWidget* parent) {
-    auto* combo = new QComboBox(parent);
+PageCombo* makeProviderCombo(QWidget* parent) {
+    auto* combo = new PageCombo(parent);
     combo->setPlaceholderText("Choose a provider");
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(20);
     combo->setIconSize(QSize(0, 0)); // none are shown, but room for them would be kept
-    combo->setFocusPolicy(Qt::StrongFocus);
     return combo;
 }
 
@@ -45,25 +39,27 @@ QLabel* makeLabel(const QString& text, QWidget& buddy, const QString& objectName
     return label;
 }
 
-std::vector<std::pair<QString, std::int32_t>>
+/// Nothing when they cannot be read.
+std::optional<std::vector<std::pair<QString, std::int32_t>>>
 readProviders(const std::shared_ptr<ado::Connection>& connection) {
     std::vector<std::pair<QString, std::int32_t>> providers;
     SQLData query;
     if (!query.SQL(connection, "Select FirstName,LastName,ProviderID,ProviderType,Suffix From Provider",
                    false, AccessMode::Read))
-        return providers;
+        return std::nullopt;
     for (; !query.Eof(); query.NextRow()) {
         const QStringList words{qt(query.Data("ProviderType").text()), qt(query.Data("FirstName").text()),
                                 qt(query.Data("LastName").text()), qt(query.Data("Suffix").text())};
         providers.emplace_back(words.join(' '), query.Data("ProviderID").toInt32());
     }
+    if (query.LastError()) return std::nullopt;
     return providers;
 }
 
 } // namespace
 
 EncounterPane::EncounterPane(QWidget* parent)
-    : QWidget(parent), mDescription(new QLineEdit(this)), mDate(makeDateEdit(this)),
+    : QWidget(parent), mDescription(makeDescription(this)), mDate(new EncounterDateEdit(this)),
       mProvider(makeProviderCombo(this)) {
     setObjectName("paneEncounter");
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -77,19 +73,21 @@ EncounterPane::EncounterPane(QWidget* parent)
 
     connect(mDescription, &QLineEdit::textChanged, this, &EncounterPane::edited);
     connect(mDate, &QDateTimeEdit::dateTimeChanged, this, &EncounterPane::edited);
+    connect(mDate, &EncounterDateEdit::typed, this, &EncounterPane::edited);
     connect(mProvider, &QComboBox::currentIndexChanged, this, &EncounterPane::edited);
-    mDate->installEventFilter(this);
-    mProvider->installEventFilter(this);
 }
 
-void EncounterPane::fill(const Encounter& encounter, const std::shared_ptr<ado::Connection>& connection) {
+bool EncounterPane::fill(const Encounter& encounter, const std::shared_ptr<ado::Connection>& connection) {
+    auto providers = readProviders(connection);
+    if (!providers) return false;
     const QSignalBlocker quiet(this);
-    offer(readProviders(connection));
+    offer(std::move(*providers));
     mDescription->setText(qt(encounter.Description()));
     mDescription->home(false);
     mDate->setDateTime(qt(encounter.EncounterDate()));
     mProvider->setCurrentIndex(mProvider->findData(encounter.ProviderID()));
     settle(encounter);
+    return true;
 }
 
 void EncounterPane::clear() {
@@ -105,6 +103,7 @@ void EncounterPane::settle(const Encounter& encounter) {
     mOriginalDate = encounter.EncounterDate();
     mShownDescription = mDescription->text();
     mShownDate = mDate->dateTime();
+    mShownDateText = mDate->text();
     mShownProvider = mProvider->currentIndex();
 }
 
@@ -125,16 +124,24 @@ bool EncounterPane::renames(const Encounter& encounter) const {
 void EncounterPane::copyInto(Encounter& encounter) const {
     encounter.Description(Description());
     encounter.EncounterDate(EncounterDate());
-    if (mProvider->currentIndex() >= 0) encounter.ProviderID(mProvider->currentData().toInt());
+    if (hasProvider()) encounter.ProviderID(mProvider->currentData().toInt());
 }
 
 bool EncounterPane::isEdited() const {
     return mDescription->text() != mShownDescription || mDate->dateTime() != mShownDate ||
-           mProvider->currentIndex() != mShownProvider;
+           mDate->text() != mShownDateText || mProvider->currentIndex() != mShownProvider;
 }
 
-void EncounterPane::focusDescription() {
-    mDescription->setFocus(Qt::OtherFocusReason);
+bool EncounterPane::takeDate() {
+    return mDate->take();
+}
+
+bool EncounterPane::hasProvider() const {
+    return mProvider->currentIndex() >= 0;
+}
+
+void EncounterPane::focusDate() {
+    mDate->setFocus(Qt::OtherFocusReason);
 }
 
 void EncounterPane::focusProvider() {
@@ -148,17 +155,6 @@ void EncounterPane::offer(std::vector<Provider> providers) {
     mProvider->clear();
     for (const auto& [name, id] : mProviders)
         mProvider->addItem(name, id);
-    mProvider->view()->setMinimumWidth(mProvider->view()->sizeHintForColumn(0) +
-                                       mProvider->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-}
-
-/// A wheel that passes over the pane while the user scrolls must not change what is recorded.
-bool EncounterPane::eventFilter(QObject* watched, QEvent* event) {
-    const auto* control = qobject_cast<QWidget*>(watched);
-    if (event->type() != QEvent::Wheel || !control || control->hasFocus())
-        return QWidget::eventFilter(watched, event);
-    event->ignore();
-    return true;
 }
 
 } // namespace Korvane

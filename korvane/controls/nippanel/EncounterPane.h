@@ -12,17 +12,19 @@
 #include <utility>
 #include <vector>
 
-class QComboBox;
-class QDateTimeEdit;
 class QLabel;
 class QLineEdit;
 
 namespace Korvane {
 
+class EncounterDateEdit;
+class PageCombo;
+
 /// The encounter that the Nip belongs to: its description, date and provider (`paneEncounter`).
 ///
 ///     pane->fill(encounter, connection);
 ///     ...
+///     if (!pane->takeDate()) ...              // what was typed is no date
 ///     if (pane->renames(encounter)) ...       // compare before copying
 ///     pane->copyInto(encounter);
 ///
@@ -34,12 +36,18 @@ class EncounterPane : public QWidget {
   public:
     explicit EncounterPane(QWidget* parent = nullptr);
 
-    /// Shows an encounter and offers the providers of the table `Provider`. Raises no `edited`.
-    void fill(const Encounter& encounter, const std::shared_ptr<ado::Connection>& connection);
+    /// Shows an encounter and offers the providers of the table `Provider`. False, with nothing shown, when
+    /// they cannot be read. Raises no `edited`.
+    bool fill(const Encounter& encounter, const std::shared_ptr<ado::Connection>& connection);
     void clear();
 
     /// Takes what is shown now for the encounter's own, once it has been saved.
     void settle(const Encounter& encounter);
+
+    /// Takes the date that was typed; false when it is none. Until then the date is the one before.
+    bool takeDate();
+    bool offersProviders() const { return !mProviders.empty(); }
+    bool hasProvider() const;
 
     std::string Description() const;
     Date EncounterDate() const;
@@ -51,7 +59,7 @@ class EncounterPane : public QWidget {
     /// Whether the user changed something since `fill` or `settle`.
     bool isEdited() const;
 
-    void focusDescription();
+    void focusDate();
     void focusProvider();
 
     QSize sizeHint() const override;
@@ -63,7 +71,6 @@ class EncounterPane : public QWidget {
   protected:
     void resizeEvent(QResizeEvent* event) override;
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     using Provider = std::pair<QString, std::int32_t>;
@@ -78,14 +85,15 @@ class EncounterPane : public QWidget {
 
     QLabel* mLabels[3];
     QLineEdit* mDescription;
-    QDateTimeEdit* mDate;
-    QComboBox* mProvider;
+    EncounterDateEdit* mDate;
+    PageCombo* mProvider;
     std::vector<Provider> mProviders;
 
     std::string mOriginalDescription;
     Date mOriginalDate;
     QString mShownDescription; ///< as the box gave it back after it was filled
     QDateTime mShownDate;
+    QString mShownDateText;
     int mShownProvider = -1;
 };
 

@@ -1,9 +1,9 @@
 #include <korvane/controls/nippanel/EncounterPane.h>
 
 #include <korvane/controls/container/Twips.h>
+#include <korvane/controls/nippanel/EncounterDateEdit.h>
+#include <korvane/controls/nippanel/PageCombo.h>
 
-#include <QComboBox>
-#include <QDateTimeEdit>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>

@@ -27,6 +27,7 @@ bool ucNIPPanel::Members::cancelCustomize() {
 
 void ucNIPPanel::Members::arrange() {
     form->arrange(customizeOnly, allowClosePanel);
+    describe();
     if (customizeOnly) customize();
 }
 

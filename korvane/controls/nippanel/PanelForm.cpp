@@ -28,6 +28,27 @@ QToolButton* makeCloseButton(QWidget* parent) {
     return button;
 }
 
+/// A gap without a grip: each pane is as high as it needs to be, or takes all there is.
+class FixedSplitter : public QSplitter {
+  public:
+    using QSplitter::QSplitter;
+
+  protected:
+    QSplitterHandle* createHandle() override { return new Gap(orientation(), this); }
+
+  private:
+    class Gap : public QSplitterHandle {
+      public:
+        Gap(Qt::Orientation orientation, QSplitter* parent) : QSplitterHandle(orientation, parent) {
+            setEnabled(false);
+            unsetCursor();
+        }
+
+      protected:
+        void paintEvent(QPaintEvent*) override {}
+    };
+};
+
 } // namespace
 
 PanelForm::PanelForm(QWidget* parent)
@@ -36,7 +57,6 @@ PanelForm::PanelForm(QWidget* parent)
       mCustomize(new CustomizePane(this)), mButtons(new ButtonRow(this)) {
     mState->setObjectName("lblNipState");
     mContent->setObjectName("paneContent");
-    mTabs->setObjectName("atNips");
     mTabs->setAccessibleName("Groups of the Nip");
     auto* content = new QVBoxLayout(mContent);
     content->setContentsMargins(0, 0, 0, 0);
@@ -58,7 +78,7 @@ PanelForm::PanelForm(QWidget* parent)
 }
 
 QSplitter* PanelForm::makeSplitter() {
-    auto* splitter = new QSplitter(Qt::Vertical, this);
+    auto* splitter = new FixedSplitter(Qt::Vertical, this);
     splitter->setObjectName("splitMain");
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(mEncounter);
@@ -67,7 +87,6 @@ QSplitter* PanelForm::makeSplitter() {
     splitter->setStretchFactor(1, 1);
     splitter->setStretchFactor(2, 1);
     splitter->setHandleWidth(Twips(*this).px(100));
-    splitter->handle(1)->setEnabled(false); // the encounter pane is as high as its rows
     return splitter;
 }
 

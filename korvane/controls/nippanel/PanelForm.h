@@ -26,7 +26,7 @@ class PanelForm : public QWidget {
     CustomizePane& customizePane() const { return *mCustomize; }
     ButtonRow& buttons() const { return *mButtons; }
 
-    /// Shows the buttons that the panel's two properties call for.
+    /// Shows the buttons that the panel's two properties call for, except Save.
     void arrange(bool customizeOnly, bool allowClose);
 
     /// The customize pane in place of the Nip, or the Nip.

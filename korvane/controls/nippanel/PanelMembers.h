@@ -7,11 +7,13 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <string_view>
 
 namespace Korvane {
 
+class EncounterPane;
 class PanelForm;
 
 /// What the Nip panel holds and how it goes from one state to the next. The panel itself only offers it to
@@ -21,7 +23,7 @@ class PanelForm;
 /// editing a saved Nip, or entering a new one. `mode` 1 is customizing, whatever is open.
 struct ucNIPPanel::Members {
     /// Why a Nip is not shown.
-    enum class Shown { Yes, NotInitialized, NotReadable, NotFound, OfAnotherPatient };
+    enum class Shown { Yes, NotReadable, NotFound, OfAnotherPatient };
 
     static constexpr qint16 customizing = 1;
 
@@ -35,7 +37,7 @@ struct ucNIPPanel::Members {
 
     /// The Save button: encounter and values in one transaction; then the events, then closing.
     void saveAndClose();
-    /// The values alone.
+    /// The values alone; of a new Nip the encounter with them.
     void saveNipInfo();
 
     void customize();
@@ -44,24 +46,34 @@ struct ucNIPPanel::Members {
     void edited();
     /// Shows the buttons and the pane that the properties call for.
     void arrange();
-    void setChanged(bool on);
 
     ucNIPPanel& panel;
     PanelForm* form;
     std::unique_ptr<cNIP> nip;
     std::shared_ptr<ado::Connection> connection;
-    std::unique_ptr<Encounter> mEncounter;
+    /// Nobody else keeps it: who waits for something can tell by a weak pointer whether it is still open.
+    std::shared_ptr<Encounter> mEncounter;
     EventHandle savedNewEncounter;
     QString patientID;
     bool structureLoaded = false;
-    bool initializing = false;
+    bool busy = false;
     bool creating = false;
     bool changed = false;
+    bool toldChanged = false; ///< by `modifiedChanged`
+    bool nothingLeft = false; ///< closed, or not shown, since `Initialize`
     qint16 mode = 0;
     bool customizeOnly = false;
     bool allowClosePanel = true;
 
   private:
+    /// Runs one of the panel's tasks, which no other may interrupt: those that the host calls for meanwhile,
+    /// in a timer while a box is open, are refused. What the task has to say is said at its end; then
+    /// `raise` is called if the task succeeded, and may call for others. False when it did not, or when the
+    /// panel was deleted before it ended.
+    bool alone(const std::function<bool()>& task, const std::function<void()>& raise = {});
+    static void tell(std::string_view message, int style);
+    void tellModified();
+    void setChanged(bool on);
     bool mayLose(std::string_view question) const;
     bool ensureStructure();
     void buildControls();
@@ -73,10 +85,12 @@ struct ucNIPPanel::Members {
     void clear();
     void describe();
 
+    bool isComplete();
+    bool leadTo(void (EncounterPane::*focus)(), std::string_view message);
     bool storeAll();
-    bool storeEncounter();
     bool storeValues();
-    void tellNotSaved() const;
+    bool store(std::string_view routineName, const std::function<bool()>& encounter);
+    bool isStillThere() const;
     void raiseCreated();
     void raiseRenamed();
 };

@@ -7,11 +7,8 @@
 #include <korvane/controls/nippanel/NipTabs.h>
 #include <korvane/controls/nippanel/PanelForm.h>
 #include <korvane/controls/nippanel/Routine.h>
-#include <korvane/runtime/HeldMessages.h>
 #include <korvane/runtime/Interaction.h>
 #include <korvane/runtime/Variant.h>
-
-#include <QPointer>
 
 namespace Korvane {
 
@@ -24,32 +21,59 @@ qint16 eventID(const Encounter& encounter) {
 
 } // namespace
 
-/// The host hears of it only once everything is stored, so that nothing its slots do can take it back.
+/// The host hears of it only once everything is stored, so that nothing its slots do can take it back. Once a
+/// slot has closed the Nip, opened another or deleted the panel, nothing more is told of this one.
 void ucNIPPanel::Members::saveAndClose() {
-    if (!mEncounter) {
-        Interaction::current().MsgBox("Unable to save this encounter", MsgBoxStyle::OkOnly, "");
-        return;
-    }
-    const bool renamed = !creating && form->encounterPane().renames(*mEncounter);
-    if (!storeAll()) return;
-    const QPointer<ucNIPPanel> alive(&panel);
-    if (renamed) raiseRenamed();
-    if (alive) raiseCreated();
-    if (alive) close();
+    const std::weak_ptr<Encounter> open = mEncounter;
+    bool renamed = false;
+    alone(
+        [&] {
+            if (!mEncounter) {
+                tell("Unable to save this encounter", MsgBoxStyle::OkOnly);
+                return false;
+            }
+            if (!isComplete()) return false;
+            renamed = !creating && form->encounterPane().renames(*mEncounter);
+            return storeAll();
+        },
+        [&] {
+            if (renamed) raiseRenamed();
+            if (!open.expired()) raiseCreated();
+            if (!open.expired()) close();
+        });
+}
+
+void ucNIPPanel::Members::saveNipInfo() {
+    if (!mEncounter) return;
+    alone([&] { return creating ? isComplete() && storeAll() : storeValues(); }, [&] { raiseCreated(); });
+}
+
+/// Whether there is everything that an encounter needs.
+bool ucNIPPanel::Members::isComplete() {
+    EncounterPane& pane = form->encounterPane();
+    if (!pane.takeDate())
+        return leadTo(&EncounterPane::focusDate,
+                      "The date of this encounter is not a valid date. Please enter it as month/day/year.");
+    if (pane.hasProvider() || mEncounter->ProviderID() >= 0) return true;
+    return leadTo(&EncounterPane::focusProvider,
+                  pane.offersProviders()
+                      ? "Please choose the provider of this encounter. It cannot be saved without one."
+                      : "This clinic has no providers yet. An encounter cannot be saved without one.");
+}
+
+/// Tells the user what is missing, with the focus there. False.
+bool ucNIPPanel::Members::leadTo(void (EncounterPane::*focus)(), std::string_view message) {
+    if (mode == customizing) cancelCustomize();
+    (form->encounterPane().*focus)();
+    tell(message, MsgBoxStyle::Information);
+    return false;
 }
 
 bool ucNIPPanel::Members::storeAll() {
     const Encounter before = *mEncounter;
     form->encounterPane().copyInto(*mEncounter);
-    if (mEncounter->ProviderID() < 0) {
-        *mEncounter = before;
-        Interaction::current().MsgBox(
-            "Please choose the provider of this encounter. It cannot be saved without one.",
-            MsgBoxStyle::Information, "");
-        form->encounterPane().focusProvider();
-        return false;
-    }
-    if (storeEncounter()) {
+    if (store("Error in ucNipPanel.SaveEncounterInfo: ",
+              [&] { return mEncounter->Save() && mEncounter->Stored(); })) {
         form->encounterPane().settle(*mEncounter);
         setChanged(false);
         return true;
@@ -57,42 +81,39 @@ bool ucNIPPanel::Members::storeAll() {
     // As it was before, a new one without its identifier: the next try inserts again.
     *mEncounter = before;
     nip->EncounterID(before.EncounterID());
-    tellNotSaved();
     return false;
 }
 
-bool ucNIPPanel::Members::storeEncounter() {
-    return routine("Error in ucNipPanel.SaveEncounterInfo: ", false, [&] {
-        const HeldMessages messages;
+/// The encounter pane is not saved here: what was edited there stays unsaved.
+bool ucNIPPanel::Members::storeValues() {
+    if (!store("Error in ucNipPanel.SaveNipInfo: ", [&] { return isStillThere(); })) return false;
+    setChanged(form->encounterPane().isEdited());
+    return true;
+}
+
+/// The encounter and the values in one transaction.
+bool ucNIPPanel::Members::store(std::string_view routineName, const std::function<bool()>& encounter) {
+    const bool stored = routine(routineName, false, [&] {
         const Hourglass hourglass;
         ado::Transaction work(*connection);
-        if (!mEncounter->Save() || !mEncounter->Stored() || !storeValues()) return false;
+        if (!encounter()) return false;
+        form->tabs().collect();
+        if (!nip->Save()) return false;
         work.commit();
         return true;
     });
+    if (!stored)
+        tell("This Nip could not be saved. Everything you entered is still here; please try again.",
+             MsgBoxStyle::Exclamation);
+    return stored;
 }
 
-bool ucNIPPanel::Members::storeValues() {
-    form->tabs().collect();
-    return nip->Save();
-}
-
-/// The encounter pane is not saved here: what was edited there stays unsaved.
-void ucNIPPanel::Members::saveNipInfo() {
-    if (!mEncounter) return;
-    const bool stored = routine("Error in ucNipPanel.SaveNipInfo: ", false, [&] {
-        const Hourglass hourglass;
-        return storeValues();
-    });
-    if (!stored) return tellNotSaved();
-    setChanged(form->encounterPane().isEdited());
-    raiseCreated();
-}
-
-void ucNIPPanel::Members::tellNotSaved() const {
-    Interaction::current().MsgBox(
-        "This Nip could not be saved. Everything you entered is still here; please try again.",
-        MsgBoxStyle::Exclamation, "");
+/// Values without their encounter would never be seen again.
+bool ucNIPPanel::Members::isStillThere() const {
+    Encounter stored;
+    stored.Connection(connection);
+    stored.EncounterID(mEncounter->EncounterID());
+    return !stored.PatientID().empty();
 }
 
 /// No longer being created whatever becomes of the event: the row is there, and a slot may start the next

@@ -3,6 +3,7 @@
 #include <korvane/controls/container/Busy.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/ButtonRow.h>
+#include <korvane/controls/nippanel/Counted.h>
 #include <korvane/controls/nippanel/CustomizePane.h>
 #include <korvane/controls/nippanel/EncounterPane.h>
 #include <korvane/controls/nippanel/NipTabs.h>
@@ -10,14 +11,16 @@
 #include <korvane/controls/nippanel/Routine.h>
 #include <korvane/runtime/Interaction.h>
 
+#include <QPointer>
+
 namespace Korvane {
 
 namespace {
 
 void forgetValues(cNIP& nip) {
     const Variant nothing("");
-    for (std::int16_t group = 1; group <= nip.GroupCount(); ++group) {
-        for (std::int16_t field = 1; field <= nip.FieldCount(group); ++field) {
+    for (const std::int16_t group : countedFrom1(nip.GroupCount())) {
+        for (const std::int16_t field : countedFrom1(nip.FieldCount(group))) {
             nip.value(group, field, nothing);
             nip.ChoiceList(group, field, Variant());
             nip.ChoiceListCount(group, field, 0);
@@ -39,15 +42,19 @@ ucNIPPanel::Members::~Members() {
 }
 
 void ucNIPPanel::Members::initialize(const std::shared_ptr<ado::Connection>& host) {
-    const PaintLock lock(panel);
-    initializing = true;
-    auto previous = std::exchange(nip, std::make_unique<cNIP>());
-    connection = host;
-    structureLoaded = nip->LoadStructure(connection);
-    buildControls();
-    clear();
-    patientID.clear();
-    initializing = false;
+    alone([&] {
+        const Hourglass hourglass;
+        const PaintLock lock(panel);
+        clear();
+        nothingLeft = false;
+        patientID.clear();
+        const auto previous = std::exchange(nip, std::make_unique<cNIP>()); // the controls still look at it
+        connection = host;
+        structureLoaded = nip->LoadStructure(connection);
+        buildControls();
+        describe();
+        return true;
+    });
 }
 
 void ucNIPPanel::Members::buildControls() {
@@ -64,66 +71,71 @@ bool ucNIPPanel::Members::ensureStructure() {
 }
 
 bool ucNIPPanel::Members::mayLose(std::string_view question) const {
-    return !changed || Interaction::current().MsgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question,
-                                                     "") == Answer::Yes;
+    if (!changed) return true;
+    const QPointer<ucNIPPanel> alive(&panel);
+    return Interaction::current().MsgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, "") ==
+               Answer::Yes &&
+           alive;
 }
 
 bool ucNIPPanel::Members::createNip(const QString& patient) {
-    if (!mayLose(creating
-                     ? "Are you sure you want to create a new nip and discard the one you were creating?"
-                     : "Are you sure you want to create a new nip and discard the changes you are making?"))
-        return false;
-    Shown shown = Shown::NotInitialized;
-    {
+    return alone([&] {
+        if (!nip) return false;
+        if (patient.trimmed().isEmpty()) {
+            tell("No patient is chosen. A Nip cannot be created without one.", MsgBoxStyle::Exclamation);
+            return false;
+        }
+        if (!mayLose(creating ? "Are you sure you want to create a new nip and discard the one you were "
+                                "creating?"
+                              : "Are you sure you want to create a new nip and discard the changes you are "
+                                "making?"))
+            return false;
         const Hourglass hourglass;
         const PaintLock lock(panel);
-        shown = routine("Error in ucNipPanel.CreateNip: ", Shown::NotReadable,
-                        [&] { return createInternal(patient); });
-    }
-    return settle(shown);
+        return settle(routine("Error in ucNipPanel.CreateNip: ", Shown::NotReadable,
+                              [&] { return createInternal(patient); }));
+    });
 }
 
 ucNIPPanel::Members::Shown ucNIPPanel::Members::createInternal(const QString& patient) {
-    if (!nip) return Shown::NotInitialized;
     if (!ensureStructure()) return Shown::NotReadable;
     newEncounter(patient);
     creating = true;
-    if (!loadControls(true)) return Shown::NotReadable;
-    setChanged(false);
-    return Shown::Yes;
+    return loadControls(true) ? Shown::Yes : Shown::NotReadable;
 }
 
 bool ucNIPPanel::Members::loadNip(qint32 encounterID, const QString& patient) {
-    if (!mayLose(creating ? "Are you sure you want to load a nip and discard the one you were creating?"
-                          : "Are you sure you want to load a nip and discard the changes you are making?"))
-        return false;
-    const Shown shown = routine("Error in ucNipPanel.LoadNipInfo: ", Shown::NotReadable, [&] {
-        const Hourglass hourglass;
-        const PaintLock lock(panel);
-        return routine("Error in ucNipPanel.LoadNipInfo_Internal: ", Shown::NotReadable,
-                       [&] { return loadInternal(encounterID, patient); });
+    return alone([&] {
+        if (!nip) return false;
+        if (!mayLose(creating
+                         ? "Are you sure you want to load a nip and discard the one you were creating?"
+                         : "Are you sure you want to load a nip and discard the changes you are making?"))
+            return false;
+        return routine("Error in ucNipPanel.LoadNipInfo: ", false, [&] {
+            const Hourglass hourglass;
+            const PaintLock lock(panel);
+            return settle(routine("Error in ucNipPanel.LoadNipInfo_Internal: ", Shown::NotReadable,
+                                  [&] { return loadInternal(encounterID, patient); }));
+        });
     });
-    return settle(shown);
 }
 
 /// An encounter of another patient is neither shown nor made this patient's.
 ucNIPPanel::Members::Shown ucNIPPanel::Members::loadInternal(qint32 encounterID, const QString& patient) {
-    if (!nip) return Shown::NotInitialized;
     if (!ensureStructure()) return Shown::NotReadable;
     newEncounter(QString());
     mEncounter->EncounterID(encounterID);
+    if (mEncounter->Unread()) return Shown::NotReadable;
     const std::string& storedFor = mEncounter->PatientID();
     if (storedFor.empty()) return Shown::NotFound;
     if (storedFor != utf8(patient)) return Shown::OfAnotherPatient;
     patientID = patient;
     creating = false;
-    if (!loadControls(false)) return Shown::NotReadable;
-    setChanged(false);
-    return Shown::Yes;
+    return loadControls(false) ? Shown::Yes : Shown::NotReadable;
 }
 
 void ucNIPPanel::Members::newEncounter(const QString& patient) {
-    mEncounter = std::make_unique<Encounter>();
+    mEncounter = std::make_shared<Encounter>();
     mEncounter->Connection(connection);
     savedNewEncounter =
         mEncounter->SavedNewEncounter.connect([this] { panel.mEncounter_SavedNewEncounter(); });
@@ -136,27 +148,25 @@ bool ucNIPPanel::Members::loadControls(bool isNew) {
     return routine("Error in ucNIPPanel.LoadControls ", false, [&] {
         if (!nip->Load(mEncounter->EncounterID(), utf8(patientID), isNew)) return false;
         form->tabs().fill();
-        form->encounterPane().fill(*mEncounter, connection);
-        return true;
+        return form->encounterPane().fill(*mEncounter, connection);
     });
 }
 
 /// Nothing of the Nip before stays in view when the one asked for cannot be shown.
 bool ucNIPPanel::Members::settle(Shown shown) {
-    if (shown == Shown::NotInitialized) return false;
     if (shown == Shown::Yes) {
+        nothingLeft = false;
         form->setEntryEnabled(true);
-        describe();
+        setChanged(false);
         return true;
     }
     clear();
     patientID.clear();
-    const char* const why = shown == Shown::NotFound
-                                ? "This Nip could not be found. It may have been deleted."
-                            : shown == Shown::OfAnotherPatient
-                                ? "This Nip belongs to another patient and cannot be shown here."
-                                : "This Nip could not be read from the database. Please try again.";
-    Interaction::current().MsgBox(why, MsgBoxStyle::Exclamation, "");
+    tell(shown == Shown::NotFound ? "This Nip could not be found. It may have been deleted."
+         : shown == Shown::OfAnotherPatient
+             ? "This Nip belongs to another patient and cannot be shown here."
+             : "This Nip could not be read from the database. Please try again.",
+         MsgBoxStyle::Exclamation);
     return false;
 }
 
@@ -173,34 +183,38 @@ void ucNIPPanel::Members::clear() {
         form->encounterPane().clear();
     });
     form->setEntryEnabled(false);
+    nothingLeft = true;
     setChanged(false);
 }
 
 bool ucNIPPanel::Members::close() {
-    if (!mayLose(creating ? "Are you sure you want to cancel the creation of this Nip?"
-                          : "Are you sure you want to cancel the changes made to this Nip?"))
-        return false;
-    if (mode == customizing && !cancelCustomize()) return false;
-    {
-        const PaintLock lock(panel);
-        clear();
-    }
-    emit panel.CloseNipPanel();
-    return true;
+    return alone(
+        [&] {
+            if (!mayLose(creating ? "Are you sure you want to cancel the creation of this Nip?"
+                                  : "Are you sure you want to cancel the changes made to this Nip?"))
+                return false;
+            if (mode == customizing && !cancelCustomize()) return false;
+            const PaintLock lock(panel);
+            clear();
+            return true;
+        },
+        [&] { emit panel.CloseNipPanel(); });
 }
 
 void ucNIPPanel::Members::edited() {
-    if (!initializing && mEncounter) setChanged(true);
+    if (busy || !mEncounter) return;
+    setChanged(true);
+    tellModified();
 }
 
 void ucNIPPanel::Members::setChanged(bool on) {
-    const bool differs = changed != on;
     changed = on;
     describe();
-    if (differs) emit panel.modifiedChanged(on);
 }
 
+/// Unsaved entries can be saved, also by a panel that from now on serves only to customize.
 void ucNIPPanel::Members::describe() {
+    form->buttons().offerSave(!customizeOnly || changed, !nothingLeft);
     if (!mEncounter) return form->say("No Nip is open");
     const QString what = creating ? "New Nip" : "Saved Nip";
     form->say(changed ? what + " with changes that are not saved" : what);

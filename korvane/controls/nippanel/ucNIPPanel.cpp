@@ -128,8 +128,9 @@ bool ucNIPPanel::eventFilter(QObject* watched, QEvent* event) {
 bool ucNIPPanel::pressed(const QKeyEvent& key) {
     const bool save = key.matches(QKeySequence::Save);
     QPushButton& button = m->form->buttons().button(save ? ButtonRow::Save : ButtonRow::Cancel);
-    if ((!save && !key.matches(QKeySequence::Cancel)) || !button.isVisible()) return false;
-    button.click();
+    if ((!save && !key.matches(QKeySequence::Cancel)) || !button.isVisible() || !button.isEnabled())
+        return false;
+    if (!key.isAutoRepeat()) button.click();
     return true;
 }
 

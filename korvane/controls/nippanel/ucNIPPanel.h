@@ -20,6 +20,10 @@ namespace Korvane {
 ///
 /// The connection is the host's: it is never opened or closed here. Failures inside are written to the error
 /// log; the user is asked before entries are thrown away and told when they could not be saved.
+///
+/// While one of its boxes is open, in a timer of the host, calls that open, save or close a Nip do nothing
+/// and return false. Slots of its events may call anything, and may delete the panel: an event is raised
+/// last, and what would follow is left out once the slot has closed the Nip or opened another.
 class ucNIPPanel : public UserControl {
     Q_OBJECT
     Q_PROPERTY(QString PatientID READ PatientID)
@@ -42,9 +46,10 @@ class ucNIPPanel : public UserControl {
     bool AllowClosePanel() const;
     void AllowClosePanel(bool on);
 
-    /// Saves the entered values (not the encounter pane, which the Save button saves first, in the same
-    /// transaction; what was edited there stays modified). When they cannot be saved the user is told,
-    /// nothing is raised and every entry stays. Does nothing while no Nip is open.
+    /// Saves the entered values; of a Nip being created also its encounter, in the same transaction, as the
+    /// Save button does. Otherwise the encounter pane is not saved, and what was edited there stays modified.
+    /// When they cannot be saved (also because the encounter was deleted meanwhile) the user is told, nothing
+    /// is raised and every entry stays. Does nothing while no Nip is open.
     void SaveNipInfo();
 
     /// Gives the panel its connection, loads the structure and builds the entry controls. May be called
@@ -58,9 +63,9 @@ class ucNIPPanel : public UserControl {
     /// Hands the identifier of an encounter just inserted to the model. Called by the encounter's own event.
     void mEncounter_SavedNewEncounter();
 
-    /// Starts a new, empty Nip. False when the user wants to keep unsaved entries, before `Initialize`, or
-    /// when the structure or the patient's latest Nip cannot be read: the user was then told, and nothing is
-    /// open.
+    /// Starts a new, empty Nip. False when the user wants to keep unsaved entries, before `Initialize`, and
+    /// without a patient, with what is open left open; also when the structure, the patient's latest Nip or
+    /// the providers cannot be read: nothing is open then. The user was told.
     bool CreateNip(const QString& patientID);
 
     /// Shows a saved Nip. False as above, and when there is no such encounter or it is another patient's.
