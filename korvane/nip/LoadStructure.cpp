@@ -116,7 +116,7 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
 
         Snapshot snapshot(*mConnection);
         mConnection->Announce(structureStatements);
-        FieldIndex index(mGroups);
+        FieldIndex index;
         loadGroups();
         loadFields(index);
         loadAllowedValues(index);
@@ -164,7 +164,7 @@ void cNIP::loadFields(FieldIndex& index) {
         fillField(field, row);
         raiseFailure(row);
         placeInGrid(group, field, index);
-        index.add({place, group.fieldCount});
+        index.add(field.groupID, field.fieldName, {place, group.fieldCount});
     }
 }
 
@@ -183,9 +183,11 @@ void cNIP::placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex&
     const std::string_view name = field.fieldName;
     if (name.ends_with(commentSuffix)) {
         const std::string_view base = name.substr(0, name.size() - commentSuffix.size());
-        if (const FieldRecord* commented = index.first(field.groupID, base)) {
+        for (const FieldPlace place : index.find(field.groupID, base)) {
+            const FieldRecord& commented = at(place.group, place.field);
+            if (commented.fieldName != base) continue;
             field.colIndex = 2;
-            field.rowIndex = commented->rowIndex;
+            field.rowIndex = commented.rowIndex;
             return;
         }
     }
