@@ -1,16 +1,27 @@
 #pragma once
 
 #include <cstdint>
-#include <ranges>
 
 namespace Korvane {
 
 /// The indexes 1 to `count` of groups or fields. A loop that counts in 16 bits itself never ends at 32767.
 ///
-///     for (const std::int16_t group : countedFrom1(nip.GroupCount())) ...
-inline auto countedFrom1(std::int16_t count) {
-    return std::views::iota(1, count + 1) |
-           std::views::transform([](int index) { return static_cast<std::int16_t>(index); });
-}
+///     for (const std::int16_t group : CountedFrom1(nip.GroupCount())) ...
+class CountedFrom1 {
+  public:
+    struct Iterator {
+        int index;
+        std::int16_t operator*() const { return static_cast<std::int16_t>(index); }
+        Iterator& operator++() { return ++index, *this; }
+        bool operator==(const Iterator&) const = default;
+    };
+
+    explicit CountedFrom1(std::int16_t count) : mEnd{count < 0 ? 1 : count + 1} {}
+    Iterator begin() const { return {1}; }
+    Iterator end() const { return mEnd; }
+
+  private:
+    Iterator mEnd;
+};
 
 } // namespace Korvane

@@ -28,7 +28,7 @@ QTreeWidget* makeStructureView(QWidget* parent) {
 
 QTreeWidgetItem* groupItem(const cNIP& nip, std::int16_t group) {
     auto* item = new QTreeWidgetItem({qt(nip.GroupName(group))});
-    for (const std::int16_t field : countedFrom1(nip.FieldCount(group))) {
+    for (const std::int16_t field : CountedFrom1(nip.FieldCount(group))) {
         item->addChild(new QTreeWidgetItem({qt(nip.fieldName(group, field)), qt(nip.Caption(group, field)),
                                             qt(nip.displayType(group, field))}));
     }
@@ -65,7 +65,7 @@ void CustomizePane::showStructure(const cNIP* nip) {
     mStructure->clear();
     if (!nip) return;
     QList<QTreeWidgetItem*> groups;
-    for (const std::int16_t group : countedFrom1(nip->GroupCount()))
+    for (const std::int16_t group : CountedFrom1(nip->GroupCount()))
         groups.append(groupItem(*nip, group));
     mStructure->addTopLevelItems(groups);
     for (QTreeWidgetItem* item : groups)

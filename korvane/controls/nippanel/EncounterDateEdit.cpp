@@ -95,6 +95,8 @@ bool EncounterDateEdit::passesOver(const QString& separator) {
     return true;
 }
 
+// Past the base, which would put the date before in place of a text that is none, and go by sections.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
 void EncounterDateEdit::focusInEvent(QFocusEvent* event) {
     take() ? QDateTimeEdit::focusInEvent(event) : QAbstractSpinBox::focusInEvent(event);
 }
@@ -109,12 +111,13 @@ void EncounterDateEdit::hideEvent(QHideEvent* event) {
     take() ? QDateTimeEdit::hideEvent(event) : QWidget::hideEvent(event);
 }
 
-void EncounterDateEdit::wheelEvent(QWheelEvent* event) {
-    event->ignore();
-}
-
 bool EncounterDateEdit::focusNextPrevChild(bool next) {
     return QWidget::focusNextPrevChild(next);
+}
+// NOLINTEND(bugprone-parent-virtual-call)
+
+void EncounterDateEdit::wheelEvent(QWheelEvent* event) {
+    event->ignore();
 }
 
 QValidator::State EncounterDateEdit::validate(QString& text, int&) const {

@@ -19,8 +19,8 @@ namespace {
 
 void forgetValues(cNIP& nip) {
     const Variant nothing("");
-    for (const std::int16_t group : countedFrom1(nip.GroupCount())) {
-        for (const std::int16_t field : countedFrom1(nip.FieldCount(group))) {
+    for (const std::int16_t group : CountedFrom1(nip.GroupCount())) {
+        for (const std::int16_t field : CountedFrom1(nip.FieldCount(group))) {
             nip.value(group, field, nothing);
             nip.ChoiceList(group, field, Variant());
             nip.ChoiceListCount(group, field, 0);
