@@ -44,6 +44,11 @@ void forget(GroupRecord& group) {
     }
 }
 
+/// No statement takes a zero character, which another program may have stored.
+bool canStandInStatement(const Variant& value) {
+    return !value.isText() || value.asText().find('\0') == std::string::npos;
+}
+
 } // namespace
 
 bool cNIP::Load(std::int32_t encounterID, std::string_view patientID, bool newEncounter) {
@@ -142,7 +147,7 @@ void cNIP::fillGroup(GroupRecord& group, SQLData& current, SQLData& latest) {
         else
             keep(field.value, field.defaultValue);
         keep(field.previousValue, field.value);
-        field.asStored = !mNewEncounter && !list.keepsText[i];
+        field.asStored = !mNewEncounter && (!list.keepsText[i] || !canStandInStatement(field.value));
         splitChoices(field);
     }
 }

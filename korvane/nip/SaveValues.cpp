@@ -5,10 +5,17 @@
 #include <korvane/nip/Query.h>
 #include <korvane/runtime/HeldMessages.h>
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Text.h>
 
 namespace Korvane {
 
 namespace {
+
+/// A value of nothing but blanks has no choices; untouched it stays as it is.
+bool isBlankAsLoaded(const FieldRecord& field) {
+    return field.choiceListCount == 0 && field.value == field.previousValue &&
+           trim(field.value.textOrEmpty()).empty();
+}
 
 /// Calls `add(field, value)` for every field of a group that has a column.
 template <typename Group, typename Add>
@@ -17,7 +24,7 @@ void forEachColumn(Group& group, Add&& add) {
     for (std::size_t i = 1; i < columnOf.size(); ++i) {
         if (columnOf[i] == FieldList::noColumn) continue;
         auto& field = group.fields[i];
-        if (holdsChoices(field.displayType))
+        if (holdsChoices(field.displayType) && !isBlankAsLoaded(field))
             add(field, Variant(joinChoices(field)));
         else
             add(field, field.value);

@@ -58,7 +58,7 @@ TEST(EncounterDateEdit, StoresADateAsItIsTyped) {
 }
 
 TEST(EncounterDateEdit, KeepsWhatIsNoDateForTheUserToMend) {
-    for (const char* typed : {"2/30/2025", "3/4/2", "3//2025", "x"}) {
+    for (const char* typed : {"2/30/2025", "2/30/2025 3:04 PM", "1/2/2026 3: PM", "3/4/2", "3//2025", "x"}) {
         SCOPED_TRACE(typed);
         DateDesk desk;
         QTest::keyClick(&desk.date(), Qt::Key_A, Qt::ControlModifier);
@@ -79,6 +79,28 @@ TEST(EncounterDateEdit, KeepsWhatIsNoDateForTheUserToMend) {
         desk.panel.LoadNipInfo(7, "P1");
         EXPECT_EQ(desk.date().text(), "1/2/2026 3:04 PM");
     }
+}
+
+TEST(EncounterDateEdit, KeepsWhatIsNoDateThroughHidingAndTheCalendar) {
+    DateDesk desk;
+    QTest::keyClick(&desk.date(), Qt::Key_A, Qt::ControlModifier);
+    desk.press("13/4/2025");
+    desk.date().hide();
+    desk.date().show();
+    QTest::mouseClick(&desk.date(), Qt::LeftButton, {}, {desk.date().width() - 5, 10});
+    EXPECT_EQ(desk.date().text(), "13/4/2025");
+    desk.save();
+    EXPECT_THAT(desk.user->boxes, ElementsAre(notADate));
+}
+
+TEST(EncounterDateEdit, KnowsOfATextThatCameWithoutKeys) {
+    DateDesk desk;
+    auto* line = desk.date().findChild<QLineEdit*>();
+    line->selectAll();
+    line->insert("11/15/2025 9:30 AM");
+    EXPECT_TRUE(desk.panel.isModified());
+    desk.save();
+    EXPECT_EQ(desk.stored(), "11/15/2025 9:30:00 AM");
 }
 
 TEST(EncounterDateEdit, UpAndDownStepThePartAtTheCursor) {

@@ -32,6 +32,7 @@ struct DoomedPanel {
         panel->LoadNipInfo(7, "P1");
         panel->show();
         PanelDesk::type(*panel->findChild<QLineEdit*>("txtEncounterInfo"), "Edited");
+        QCoreApplication::processEvents(); // the change has been told
     }
     ~DoomedPanel() { delete panel; }
     void save() { QTest::mouseClick(panel->findChild<QAbstractButton*>("cmdNipButton(0)"), Qt::LeftButton); }
@@ -111,6 +112,18 @@ TEST(PanelTask, WhatASlotDidStays) {
             EXPECT_THAT(desk.user->boxes, IsEmpty());
         }
     }
+}
+
+TEST(PanelTask, ThePanelMayBeDeletedWhileTheUserTypes) {
+    DoomedPanel doomed;
+    QObject::connect(doomed.panel, &ucNIPPanel::modifiedChanged, [&](bool on) {
+        if (on) delete doomed.panel;
+    });
+    doomed.desk.user->answers = {Answer::Yes};
+    doomed.panel->LoadNipInfo(7, "P1");
+    QTest::keyClick(doomed.panel->findChild<QLineEdit*>("txtEncounterInfo"), 'x');
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(doomed.panel);
 }
 
 TEST(PanelTask, ThePanelMayBeDeletedInEverySlot) {

@@ -107,6 +107,7 @@ TEST(ucNIPPanel, EveryPartOfTheNipMarksItChangedOnce) {
         EXPECT_FALSE(desk.panel.isModified());
         edit();
         EXPECT_TRUE(desk.panel.isModified());
+        QCoreApplication::processEvents();
         EXPECT_EQ(raised, 1);
     }
 }

@@ -141,7 +141,7 @@ TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
     NipDatabase nips;
     nips.group(2, "Group", "NIP_Custom1");
     // Parts joined with || meet no column: they are stored as another program might.
-    const std::array<std::pair<const char*, const char*>, 9> cells = {
+    const std::array<std::pair<const char*, const char*>, 10> cells = {
         {{"REAL", "1.0/3"},
          {"REAL", "Null"},
          {"INTEGER", "Null"},
@@ -150,7 +150,8 @@ TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
          {"BOOLEAN", "'per'||'haps'"},
          {"TIMESTAMP", "'2026-11-15 '||'10:00:00.5'"},
          {"TIMESTAMP", "'unk'||'nown'"},
-         {"VARCHAR(9)", "'text'"}}};
+         {"VARCHAR(9)", "'text'"},
+         {"TEXT", "Cast(x'410042' As Text)"}}};
     std::string columns;
     std::string stored;
     for (const auto& [type, value] : cells) {
@@ -170,7 +171,7 @@ TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
     EXPECT_TRUE(nip.Save()) << nips.errorLog();
     EXPECT_EQ(rows(), before);
     EXPECT_THAT(nips.db->statements[0], testing::StartsWith("Update NIP_Custom1 Set [F0]=[F0],"));
-    EXPECT_THAT(nips.db->statements[0], HasSubstr("='text' Where EncounterID=1"));
+    EXPECT_THAT(nips.db->statements[0], HasSubstr("='text',[F9]=[F9] Where EncounterID=1"));
 
     // A value that was changed and changed back is the user's own, also when the first save came to nothing.
     const std::string shown = nip.value(1, 1).text();
@@ -189,7 +190,7 @@ TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
     ASSERT_TRUE(nip.Load(1, "P1", false));
     nip.EncounterID(2);
     EXPECT_FALSE(nip.Save()) << "some of them cannot be written";
-    for (const int field : {4, 5, 6, 8})
+    for (const int field : {4, 5, 6, 8, 10})
         nip.value(1, static_cast<std::int16_t>(field), "");
     EXPECT_TRUE(nip.Save());
     EXPECT_EQ(nips.rows("Select F0*3=1 From NIP_Custom1 Where EncounterID=2"), "0");

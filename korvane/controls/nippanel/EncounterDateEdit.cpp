@@ -42,6 +42,8 @@ EncounterDateEdit::EncounterDateEdit(QWidget* parent) : QDateTimeEdit(parent) {
     setCalendarPopup(true);
     setKeyboardTracking(false);
     setFocusPolicy(Qt::StrongFocus);
+    // What comes by other ways than keys: pasted, cut, composed.
+    connect(lineEdit(), &QLineEdit::textEdited, this, &EncounterDateEdit::typed);
 }
 
 bool EncounterDateEdit::isShown(const QString& text) const {
@@ -109,6 +111,15 @@ void EncounterDateEdit::focusOutEvent(QFocusEvent* event) {
 
 void EncounterDateEdit::hideEvent(QHideEvent* event) {
     take() ? QDateTimeEdit::hideEvent(event) : QWidget::hideEvent(event);
+}
+
+void EncounterDateEdit::showEvent(QShowEvent* event) {
+    take() ? QDateTimeEdit::showEvent(event) : QWidget::showEvent(event);
+}
+
+// No calendar over a text that is no date: on closing it would put the date before in its place.
+void EncounterDateEdit::mousePressEvent(QMouseEvent* event) {
+    take() ? QDateTimeEdit::mousePressEvent(event) : QWidget::mousePressEvent(event);
 }
 
 bool EncounterDateEdit::focusNextPrevChild(bool next) {

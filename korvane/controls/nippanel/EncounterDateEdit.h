@@ -31,10 +31,14 @@ class EncounterDateEdit : public QDateTimeEdit {
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     QValidator::State validate(QString& text, int& position) const override;
     QDateTime dateTimeFromText(const QString& text) const override;
+    /// Nothing: the base would make some other date of one that does not exist.
+    void fixup(QString&) const override {}
 
   private:
     bool isShown(const QString& text) const;

@@ -201,10 +201,12 @@ bool ucNIPPanel::Members::close() {
         [&] { emit panel.CloseNipPanel(); });
 }
 
+/// Told from the event loop: a slot may delete or rebuild the control that is in the middle of its key.
 void ucNIPPanel::Members::edited() {
     if (busy || !mEncounter) return;
     setChanged(true);
-    tellModified();
+    QMetaObject::invokeMethod(
+        &panel, [this] { tellModified(); }, Qt::QueuedConnection);
 }
 
 void ucNIPPanel::Members::setChanged(bool on) {

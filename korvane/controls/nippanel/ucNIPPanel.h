@@ -89,6 +89,7 @@ class ucNIPPanel : public UserControl {
     void CreatedNip(qint16 encounterID);
     /// The description or date of an existing encounter was changed and saved.
     void RenamedNip(qint16 encounterID, const QString& description, const QDateTime& encounterDate);
+    /// `isModified` has changed. What the user types is told from the event loop.
     void modifiedChanged(bool modified);
 
   protected:
