@@ -116,7 +116,7 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
 
         Snapshot snapshot(*mConnection);
         mConnection->Announce(structureStatements);
-        FieldIndex index;
+        FieldIndex index(mGroups);
         loadGroups();
         loadFields(index);
         loadAllowedValues(index);
@@ -164,7 +164,7 @@ void cNIP::loadFields(FieldIndex& index) {
         fillField(field, row);
         raiseFailure(row);
         placeInGrid(group, field, index);
-        index.add(field.groupID, field.fieldName, {place, group.fieldCount});
+        index.add({place, group.fieldCount});
     }
 }
 
@@ -183,11 +183,9 @@ void cNIP::placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex&
     const std::string_view name = field.fieldName;
     if (name.ends_with(commentSuffix)) {
         const std::string_view base = name.substr(0, name.size() - commentSuffix.size());
-        for (const FieldPlace place : index.find(field.groupID, base)) {
-            const FieldRecord& commented = at(place.group, place.field);
-            if (commented.fieldName != base) continue;
+        if (const FieldRecord* commented = index.first(field.groupID, base)) {
             field.colIndex = 2;
-            field.rowIndex = commented.rowIndex;
+            field.rowIndex = commented->rowIndex;
             return;
         }
     }
