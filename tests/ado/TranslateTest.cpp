@@ -64,9 +64,9 @@ class KnownTables : public sql::Tables {
     };
 };
 
-std::string namesOf(const Translation& translation) {
+std::string namesOf(const sql::Translation& translation) {
     std::string names;
-    for (const ParameterRule& rule : translation.parameters) {
+    for (const sql::ParameterRule& rule : translation.parameters) {
         names += names.empty() ? "" : " ";
         names += rule.column ? rule.column->name + (rule.use == sql::Use::Store ? "!" : "") : "-";
     }

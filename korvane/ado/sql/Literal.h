@@ -27,6 +27,14 @@ struct Literal {
 /// the literal it came from, or into the scratch text given with it.
 using ColumnValue = std::variant<std::monostate, bool, std::int64_t, double, Date, std::string_view>;
 
+/// One function object made of several, for visiting a `ColumnValue`.
+template <class... Ts>
+struct Overloaded : Ts... {
+    using Ts::operator()...;
+};
+template <class... Ts>
+Overloaded(Ts...) -> Overloaded<Ts...>;
+
 /// What happens to a value where it meets a column.
 enum class Use : std::uint8_t {
     Store,   ///< it becomes the column's value

@@ -1,7 +1,7 @@
 #include <korvane/ado/sqlite/ResultCursor.h>
 
+#include <korvane/ado/sql/Names.h>
 #include <korvane/ado/sqlite/Error.h>
-#include <korvane/ado/sqlite/Names.h>
 #include <korvane/ado/sqlite/Session.h>
 #include <korvane/ado/sqlite/Values.h>
 #include <korvane/runtime/RuntimeError.h>
@@ -117,16 +117,16 @@ std::string ResultCursor::updateStatement(std::span<const FieldChange> changes) 
     std::string set;
     std::string stored;
     for (const FieldChange& change : changes) {
-        const std::string column = quotedName(mOrigins[static_cast<std::size_t>(change.ordinal)]);
+        const std::string column = sql::quotedName(mOrigins[static_cast<std::size_t>(change.ordinal)]);
         set += (set.empty() ? "" : ", ") + column + " = ?";
         stored += column + ", ";
     }
     std::string where;
     for (const std::string& key : mWriteback.key) {
-        where += (where.empty() ? "" : " And ") + quotedName(key) + " Is ?";
-        stored += quotedName(key) + (&key == &mWriteback.key.back() ? "" : ", ");
+        where += (where.empty() ? "" : " And ") + sql::quotedName(key) + " Is ?";
+        stored += sql::quotedName(key) + (&key == &mWriteback.key.back() ? "" : ", ");
     }
-    return "Update " + quotedName(mWriteback.table) + " Set " + set + " Where " + where + " Returning " +
+    return "Update " + sql::quotedName(mWriteback.table) + " Set " + set + " Where " + where + " Returning " +
            stored;
 }
 

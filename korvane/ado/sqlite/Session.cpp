@@ -1,8 +1,8 @@
 #include <korvane/ado/sqlite/Session.h>
 
 #include <korvane/ado/sql/Lexer.h>
+#include <korvane/ado/sql/Names.h>
 #include <korvane/ado/sqlite/Error.h>
-#include <korvane/ado/sqlite/Names.h>
 #include <korvane/ado/sqlite/ResultCursor.h>
 #include <korvane/ado/sqlite/Types.h>
 #include <korvane/runtime/RuntimeError.h>
@@ -163,7 +163,7 @@ bool Session::restsOnColumns(const Shape& shape) const {
     if (!shape.meetsColumns) return false;
     const auto& literals = mLifter.literals();
     for (std::size_t i = 0; i < literals.size(); ++i) {
-        const ParameterRule& rule = shape.translation.parameters[i];
+        const sql::ParameterRule& rule = shape.translation.parameters[i];
         if (!rule.column) continue;
         const bool comparesNumbers = literals[i].kind == sql::Literal::Integer &&
                                      rule.use == sql::Use::Compare && rule.column->type == DataType::Integer;
@@ -188,11 +188,11 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
     shape->idle = CompiledStatement(mHandle, shape->translation.text, true);
     if (!shape->idle) throw RuntimeError(RuntimeError::InvalidArgument, "There is no statement to run.");
     shape->meetsColumns = std::ranges::any_of(
-        shape->translation.parameters, [](const ParameterRule& rule) { return rule.column.has_value(); });
-    const sql::Token first = sql::Lexer(text).next();
-    const auto isOne = [&](auto... words) { return (first.isWord(words) || ...); };
-    shape->countsRows = isOne("insert", "update", "delete", "replace", "with");
-    shape->changesSchema = !shape->countsRows && !isOne("select", "values", "explain");
+        shape->translation.parameters,
+        [](const sql::ParameterRule& rule) { return rule.column.has_value(); });
+    const sql::Effect effect = sql::effectOf(text);
+    shape->countsRows = effect == sql::Effect::Rows;
+    shape->changesSchema = effect == sql::Effect::Schema;
     return shape;
 }
 
@@ -206,7 +206,7 @@ void Session::bindLiterals(const Lease& lease, TextLives lives) {
     }
     for (std::size_t i = 0; i < literals.size(); ++i) {
         const sql::Literal& literal = literals[i];
-        const ParameterRule& rule = lease.shape->translation.parameters[i];
+        const sql::ParameterRule& rule = lease.shape->translation.parameters[i];
         const sql::ColumnValue value = rule.column ? sql::toColumn(literal, *rule.column, rule.use, mScratch)
                                                    : sql::asItStands(literal, mScratch);
         const TextLives textLives = literal.doubledQuotes ? TextLives::OnlyNow : lives;
@@ -278,11 +278,11 @@ std::unique_ptr<ResultCursor> Session::open(Lease& lease) {
 std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType lockType) {
     Writeback writeback;
     std::string keyColumns;
-    if (const auto rows = lockType == LockType::ReadOnly ? std::nullopt : rowSource(statement)) {
+    if (const auto rows = lockType == LockType::ReadOnly ? std::nullopt : sql::rowSource(statement)) {
         refreshSchema();
         writeback = {rows->table, mSchema.keyOf(rows->table)};
         for (const std::string& column : writeback.key) {
-            keyColumns += ", " + quotedName(rows->calledAs) + "." + quotedName(column);
+            keyColumns += ", " + sql::quotedName(rows->calledAs) + "." + sql::quotedName(column);
         }
     }
     Lease lease = prepareOnce(statement, keyColumns);

@@ -1,6 +1,6 @@
-#include <korvane/ado/sqlite/Names.h>
+#include <korvane/ado/sql/Names.h>
 
-namespace Korvane::ado::sqlite {
+namespace Korvane::ado::sql {
 
 std::string quotedName(std::string_view name) {
     std::string quoted = "\"";
@@ -11,4 +11,4 @@ std::string quotedName(std::string_view name) {
     return quoted + '"';
 }
 
-} // namespace Korvane::ado::sqlite
+} // namespace Korvane::ado::sql

@@ -1,0 +1,57 @@
+#include <korvane/ado/ResultColumns.h>
+
+#include <korvane/runtime/Text.h>
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
+namespace Korvane::ado {
+
+ResultColumns::ResultColumns(std::vector<ColumnInfo> columns)
+    : mColumns(std::move(columns)), mSlots(std::bit_ceil(mColumns.size() * 2 + 1), -1) {
+    for (std::size_t i = 0; i < mColumns.size(); ++i) {
+        const std::size_t slot = slotOf(mColumns[i].name);
+        if (mSlots[slot] < 0) mSlots[slot] = static_cast<int>(i);
+    }
+}
+
+namespace {
+
+// Letters that differ in case only give the same value; eight characters at a time.
+std::size_t nameHash(std::string_view name) {
+    constexpr std::uint64_t lowerCaseBits = 0x2020202020202020U;
+    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15U;
+    std::uint64_t hash = name.size();
+    while (!name.empty()) {
+        std::uint64_t part = 0;
+        const std::size_t length = std::min(name.size(), sizeof part);
+        std::memcpy(&part, name.data(), length);
+        hash = (hash ^ (part | lowerCaseBits)) * factor;
+        hash ^= hash >> 32;
+        name.remove_prefix(length);
+    }
+    return static_cast<std::size_t>(hash);
+}
+
+} // namespace
+
+// The slot that holds the name, or the free one where it would be.
+std::size_t ResultColumns::slotOf(std::string_view name) const {
+    const std::size_t mask = mSlots.size() - 1;
+    std::size_t slot = nameHash(name) & mask;
+    while (mSlots[slot] >= 0) {
+        const std::string& other = mColumns[static_cast<std::size_t>(mSlots[slot])].name;
+        if (other == name || sameName(other, name)) break;
+        slot = (slot + 1) & mask;
+    }
+    return slot;
+}
+
+int ResultColumns::indexOf(std::string_view name) const {
+    return mSlots[slotOf(name)];
+}
+
+} // namespace Korvane::ado

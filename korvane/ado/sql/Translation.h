@@ -1,0 +1,39 @@
+#pragma once
+
+#include <korvane/ado/sql/Literal.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvane::ado::sql {
+
+/// What a value lifted out of a statement meets; without a column it is bound as it stands.
+struct ParameterRule {
+    std::optional<ColumnInfo> column;
+    Use use = Use::Compare;
+};
+
+/// A statement in an engine's own dialect.
+struct Translation {
+    std::string text;
+    std::vector<ParameterRule> parameters; ///< one for each `?` of the statement
+    /// Columns of the result whose type the engine cannot tell, by position: Max(column), Count(*). Empty
+    /// when the result's columns cannot be counted from the text.
+    std::vector<std::optional<DataType>> resultTypes;
+};
+
+/// The table that a Select shows row by row: the only one it reads, nothing grouped. Empty when there is no
+/// such table.
+struct RowSource {
+    std::string table;
+    std::string calledAs; ///< what its columns can be qualified with
+};
+std::optional<RowSource> rowSource(std::string_view statement);
+
+/// What running a statement leaves behind, judged by its first word.
+enum class Effect : std::uint8_t { None, Rows, Schema };
+Effect effectOf(std::string_view statement);
+
+} // namespace Korvane::ado::sql
