@@ -1,5 +1,8 @@
 #include <korvane/ado/Connection.h>
 
+#ifdef KORVANE_HAS_POSTGRES
+#include <korvane/ado/postgres/PostgresConnection.h>
+#endif
 #include <korvane/ado/sqlite/SqliteConnection.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
@@ -26,16 +29,28 @@ std::shared_ptr<Connection> openSqlite(std::string_view rest) {
     return sqlite::open(rest, readOnly);
 }
 
+std::shared_ptr<Connection> openPostgres([[maybe_unused]] std::string_view address) {
+#ifdef KORVANE_HAS_POSTGRES
+    return postgres::open(address);
+#else
+    refuse("This build has no PostgreSQL provider.");
+#endif
+}
+
 } // namespace
 
 void Connection::Announce(std::span<const std::string>) {}
+
+void Connection::Reset() {
+    if (State() == 0) throw RuntimeError(RuntimeError::ObjectClosed);
+}
 
 std::shared_ptr<Connection> open(std::string_view address) {
     const auto colon = address.find(':');
     const std::string scheme = lowerCase(address.substr(0, colon));
     if (colon != std::string_view::npos) {
         if (scheme == "sqlite") return openSqlite(address.substr(colon + 1));
-        if (scheme == "postgresql" || scheme == "postgres") refuse("This build has no PostgreSQL provider.");
+        if (scheme == "postgresql" || scheme == "postgres") return openPostgres(address);
     }
     refuse("The database address \"" + std::string(address) +
            "\" does not begin with a kind of database that is known: sqlite:file, sqlite::memory: or "

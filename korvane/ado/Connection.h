@@ -45,8 +45,17 @@ class Connection : public std::enable_shared_from_this<Connection> {
     virtual std::int32_t transactionLevel() const = 0;
 
     /// Says which statements are about to run, in this order, so that a provider may send them together. The
-    /// statements are still run one by one by their callers. Does nothing on an engine that gains nothing.
+    /// statements are still run one by one by their callers, who see no difference but speed. What writes is
+    /// sent ahead inside a transaction only, and has to be run before that is committed; an Insert announced
+    /// behind an Update of the same table need not be: it is sent ahead only when that has touched no row.
+    /// Does nothing on an engine that gains nothing.
     virtual void Announce(std::span<const std::string> statements);
+
+    /// Connects again after the server, or the line to it, went away (`State` is 0 then, though nobody closed
+    /// the connection), to the same database with the same settings. Transactions that were open are lost
+    /// with the line; they have to be rolled back here first (TransactionOpen). Does nothing while open;
+    /// ObjectClosed once closed. Recordsets keep the rows they have.
+    virtual void Reset();
 
     /// Closes; open recordsets of this connection become closed. Rolls nothing back silently: TransactionOpen
     /// while a transaction is open. A handle that a host lent is not closed, only let go of. Closing twice is
@@ -63,8 +72,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
 /// Opens a database by its address: "sqlite:clinic.db", "sqlite:/var/lib/clinic/clinic.db",
 /// "sqlite::memory:"; for SQLite,
-/// "?mode=ro" opens read-only. A file that does not exist is created. Raises a RuntimeError that says what
-/// was wrong.
+/// "?mode=ro" opens read-only. A file that does not exist is created. "postgresql://user@host/database" is a
+/// database of a server, in builds that have PostgreSQL (see postgres/PostgresConnection.h for its options).
+/// Raises a RuntimeError that says what was wrong.
 std::shared_ptr<Connection> open(std::string_view address);
 
 } // namespace Korvane::ado

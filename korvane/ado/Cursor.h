@@ -16,6 +16,7 @@ struct ColumnInfo {
     std::string name;
     DataType type = DataType::VarWChar;
     std::int32_t definedSize = 0; ///< characters; 0 when the type has no length
+    bool nullable = true;         ///< false when the database is known to refuse a Null in it
 };
 
 /// One field of the current row with the value it is to take.

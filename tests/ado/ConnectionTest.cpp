@@ -2,6 +2,7 @@
 
 #include <korvane/ado/Transaction.h>
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Text.h>
 
 #include <gmock/gmock.h>
 
@@ -39,7 +40,7 @@ TEST_P(Connections, RaiseWhatTheEngineSays) {
         mDb->Execute("Select Nothing From Visit");
         FAIL() << "no error";
     } catch (const RuntimeError& error) {
-        EXPECT_THAT(error.Description(), testing::HasSubstr("Nothing"));
+        EXPECT_THAT(lowerCase(error.Description()), testing::HasSubstr("nothing"));
         EXPECT_NE(error.NativeCode(), 0);
     }
     EXPECT_EQ(count(), "1");
@@ -197,7 +198,9 @@ TEST(Addresses, OfNoKnownDatabaseSayWhichThereAre) {
     const std::pair<const char*, const char*> cases[] = {
         {"clinic.db", "sqlite:"},
         {"mysql://host/db", "sqlite:"},
+#ifndef KORVANE_HAS_POSTGRES
         {"postgresql://user@host/db", "no PostgreSQL provider"},
+#endif
         {"sqlite:", "no database file"},
         {"sqlite:a.db?mode=fast", "mode=fast"},
         {"", "sqlite:"}};

@@ -1,6 +1,7 @@
 #include "ado/Engine.h"
 
 #include "support/ScratchDir.h"
+#include "support/ScratchSchema.h"
 
 #include <korvane/runtime/RuntimeError.h>
 
@@ -37,10 +38,47 @@ class SqliteEngine : public Engine {
     Korvane::Testing::ScratchDir mDir;
 };
 
+class PostgresEngine : public Engine {
+  public:
+    std::shared_ptr<Connection> connect() override { return open(mSchema.address()); }
+
+    std::string declaration(DataType type, int size) const override {
+        switch (type) {
+        case DataType::SmallInt:
+            return "SmallInt";
+        case DataType::Integer:
+            return "Integer";
+        case DataType::Double:
+            return "Double Precision";
+        case DataType::Currency:
+            return "Numeric(19,4)";
+        case DataType::Date:
+            return "Timestamp";
+        case DataType::Boolean:
+            return "Boolean";
+        case DataType::VarWChar:
+            return "VarChar(" + std::to_string(size) + ")";
+        default:
+            return "Text";
+        }
+    }
+
+    // Texts are UTF-8 there, and nothing else.
+    bool keepsAnyBytes() const override { return false; }
+
+  private:
+    Korvane::Testing::ScratchSchema mSchema;
+};
+
+std::unique_ptr<Engine> postgresEngine() {
+    if (!Korvane::Testing::ScratchSchema::hasServer()) return nullptr;
+    return std::make_unique<PostgresEngine>();
+}
+
 } // namespace
 
 std::vector<EngineChoice> engines() {
-    return {{"SQLite", [] { return std::make_unique<SqliteEngine>(); }}};
+    return {{"SQLite", [] { return std::make_unique<SqliteEngine>(); }}, {"PostgreSQL", postgresEngine}};
 }
 
 std::string engineName(const testing::TestParamInfo<EngineChoice>& choice) {
@@ -49,7 +87,7 @@ std::string engineName(const testing::TestParamInfo<EngineChoice>& choice) {
 
 void OnEveryEngine::SetUp() {
     mEngine = GetParam().make();
-    if (!mEngine) GTEST_SKIP() << "no server for " << GetParam().name;
+    if (!mEngine) GTEST_SKIP() << Korvane::Testing::ScratchSchema::noServer;
     mDb = mEngine->connect();
     const auto type = [&](DataType t, int size = 0) { return " " + mEngine->declaration(t, size); };
     mDb->Execute("Create Table Visit (ID" + type(DataType::Integer) + " Primary Key, Name" +

@@ -24,12 +24,14 @@ class Engine {
 
     /// How a column of that type is declared.
     virtual std::string declaration(DataType type, int size = 0) const = 0;
+
+    /// Whether a text may hold bytes that are no UTF-8; otherwise they are refused.
+    virtual bool keepsAnyBytes() const { return true; }
 };
 
 struct EngineChoice {
     std::string name;
-    /// Makes the engine with a new, empty database. Null, with the reason printed, when its server is not
-    /// there.
+    /// Makes the engine with a new, empty database. Null when its server is not there.
     std::function<std::unique_ptr<Engine>()> make;
 
     friend void PrintTo(const EngineChoice& choice, std::ostream* out) { *out << choice.name; }

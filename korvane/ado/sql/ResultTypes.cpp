@@ -33,6 +33,17 @@ std::optional<DataType> typeOfItem(const Statement& statement, std::size_t begin
     return std::nullopt;
 }
 
+// An item's name where the statement gives one: that of a column, or the one behind As or behind a call.
+std::optional<std::string> nameOfItem(const Statement& statement, std::size_t begin, std::size_t end) {
+    const auto& tokens = statement.tokens;
+    if (begin == end || !tokens[end - 1].isName()) return std::nullopt;
+    const auto ref = refAt(statement, begin);
+    const bool isColumn = ref && ref->end == end;
+    const bool isAlias = end - begin > 1 && (tokens[end - 2].isWord("as") || tokens[end - 2].isSymbol(')'));
+    if (!isColumn && !isAlias) return std::nullopt;
+    return plainName(tokens[end - 1]);
+}
+
 std::size_t listBegin(const Statement& statement, const Scope& scope) {
     std::size_t at = scope.begin + 1;
     const auto& tokens = statement.tokens;
@@ -41,22 +52,42 @@ std::size_t listBegin(const Statement& statement, const Scope& scope) {
     return at;
 }
 
-} // namespace
-
-std::vector<std::optional<DataType>> resultTypes(const Statement& statement, const Tables& tables) {
-    if (statement.scopes.empty() || !statement.scopes.front().isSelect) return {};
+/// Calls `take(begin, end)` for each item of the outermost select list; false when there is a `*` among them
+/// or no such list.
+template <typename Take>
+bool forEachItem(const Statement& statement, Take&& take) {
+    if (statement.scopes.empty() || !statement.scopes.front().isSelect) return false;
     const Scope& outermost = statement.scopes.front();
-    std::vector<std::optional<DataType>> types;
     std::size_t begin = listBegin(statement, outermost);
     for (std::size_t at = begin; at <= outermost.listEnd; ++at) {
         const bool atTop = statement.places[at].depth == statement.places[outermost.begin].depth;
         const bool ends = at == outermost.listEnd || (atTop && statement.tokens[at].isSymbol(','));
         if (!ends) continue;
-        if (at > begin && statement.tokens[at - 1].isSymbol('*')) return {};
-        types.push_back(typeOfItem(statement, begin, at, tables));
+        if (at > begin && statement.tokens[at - 1].isSymbol('*')) return false;
+        take(begin, at);
         begin = at + 1;
     }
+    return true;
+}
+
+} // namespace
+
+std::vector<std::optional<DataType>> resultTypes(const Statement& statement, const Tables& tables) {
+    std::vector<std::optional<DataType>> types;
+    const bool counted = forEachItem(statement, [&](std::size_t begin, std::size_t end) {
+        types.push_back(typeOfItem(statement, begin, end, tables));
+    });
+    if (!counted) types.clear();
     return types;
+}
+
+std::vector<std::optional<std::string>> resultNames(const Statement& statement) {
+    std::vector<std::optional<std::string>> names;
+    const bool counted = forEachItem(statement, [&](std::size_t begin, std::size_t end) {
+        names.push_back(nameOfItem(statement, begin, end));
+    });
+    if (!counted) names.clear();
+    return names;
 }
 
 } // namespace Korvane::ado::sql

@@ -135,7 +135,7 @@ class Analysis {
         // "Update Or Replace T"
         if (mAt > 0 && mResult.tokens[mAt - 1].isWord("or")) return;
         if (ahead(1).isSymbol('.')) return;
-        Source source{plainName(token()), ""};
+        Source source{plainName(token()), "", mAt};
         if (ahead(1).isSymbol('(')) {
             const bool insertColumns = !scope()->isSelect;
             if (!insertColumns) source.table.clear();
@@ -171,7 +171,7 @@ class Analysis {
             if (columnList) inner.clause = Clause::InsertColumns;
             // A parenthesis around tables: From (A Inner Join B On ...)
             inner.tableFollows = !columnList && frame().tableFollows;
-            if (inner.tableFollows && ahead(1).isWord("select")) addSource({});
+            if (inner.tableFollows && ahead(1).isWord("select")) addSource({"", "", mAt});
         }
         mFrames.push_back(inner);
     }
@@ -209,7 +209,9 @@ bool isColumnName(const Token& token) {
 }
 
 const ColumnInfo* find(std::span<const ColumnInfo> columns, std::string_view name) {
-    const auto found =
+    auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& c) { return c.name == name; });
+    if (found != columns.end()) return &*found;
+    found =
         std::find_if(columns.begin(), columns.end(), [&](const auto& c) { return sameName(c.name, name); });
     return found == columns.end() ? nullptr : &*found;
 }

@@ -16,6 +16,7 @@ namespace Korvane::ado::sql {
 struct Source {
     std::string table;
     std::string alias;
+    std::size_t at = 0; ///< the token that names it; of a subquery its parenthesis
 };
 
 /// One Select, Insert, Update or Delete of a statement, with what it can see.

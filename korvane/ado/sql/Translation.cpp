@@ -4,6 +4,21 @@
 
 namespace Korvane::ado::sql {
 
+namespace {
+
+// Max(Name), without a Group By: one row made of many.
+bool isAggregated(const Statement& statement, const Scope& scope) {
+    for (std::size_t at = scope.begin; at < scope.listEnd; ++at) {
+        if (!statement.tokens[at + 1].isSymbol('(')) continue;
+        for (const char* word : {"max", "min", "count", "sum", "avg"}) {
+            if (statement.tokens[at].isWord(word)) return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 std::optional<RowSource> rowSource(std::string_view text) {
     const Statement statement = analyse(text);
     if (statement.scopes.empty()) return std::nullopt;
@@ -11,6 +26,7 @@ std::optional<RowSource> rowSource(std::string_view text) {
     if (outermost.begin != 0 || !outermost.isSelect || outermost.isCompound || outermost.isGrouped)
         return std::nullopt;
     if (outermost.sources.size() != 1 || outermost.sources.front().table.empty()) return std::nullopt;
+    if (isAggregated(statement, outermost)) return std::nullopt;
     const Source& source = outermost.sources.front();
     return RowSource{source.table, source.alias.empty() ? source.table : source.alias};
 }

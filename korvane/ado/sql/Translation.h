@@ -22,6 +22,9 @@ struct Translation {
     /// Columns of the result whose type the engine cannot tell, by position: Max(column), Count(*). Empty
     /// when the result's columns cannot be counted from the text.
     std::vector<std::optional<DataType>> resultTypes;
+    /// The names that the statement gives to the columns of its result, by position, in its own spelling.
+    /// Empty as above.
+    std::vector<std::optional<std::string>> resultNames;
 };
 
 /// The table that a Select shows row by row: the only one it reads, nothing grouped. Empty when there is no

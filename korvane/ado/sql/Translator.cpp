@@ -42,6 +42,7 @@ Translation Translator::run(std::string_view addedColumns) {
         insertBefore(mStatement.scopes.front().listEnd, std::string(addedColumns));
     }
     mResult.resultTypes = resultTypes(mStatement, mTables);
+    mResult.resultNames = resultNames(mStatement);
     mResult.text = edited();
     return std::move(mResult);
 }

@@ -1,0 +1,104 @@
+#include <korvane/ado/postgres/Error.h>
+
+#include <korvane/runtime/Text.h>
+
+#include <libpq-fe.h>
+
+#include <array>
+#include <charconv>
+
+namespace Korvane::ado::postgres {
+
+namespace {
+
+// A report for one code, or for all that begin so. The longer ones stand before the shorter.
+struct Report {
+    std::string_view state;
+    int number;
+    const char* advice;
+};
+
+constexpr std::array reports{
+    Report{"23505", RuntimeError::DuplicateKey, "a row with the same key is already there"},
+    Report{"23503", RuntimeError::DatabaseFailure,
+           "other rows refer to the row, or the row it refers to is missing"},
+    Report{"22001", RuntimeError::DatabaseFailure, "a text is longer than its column"},
+    Report{"22003", RuntimeError::Overflow, nullptr},
+    Report{"22008", RuntimeError::Overflow, nullptr},
+    Report{"22007", RuntimeError::TypeMismatch, nullptr},
+    Report{"22P02", RuntimeError::TypeMismatch, "a value is not of the type of its column"},
+    Report{"42804", RuntimeError::TypeMismatch, nullptr},
+    Report{"22012", RuntimeError::DivisionByZero, nullptr},
+    Report{"22021", RuntimeError::InvalidArgument, "a text holds bytes that are no UTF-8"},
+    Report{"22P05", RuntimeError::InvalidArgument,
+           "a text holds a character that the database's encoding does not have"},
+    Report{"25006", RuntimeError::PermissionDenied, "the database, or this transaction, is read-only"},
+    Report{"25P02", RuntimeError::DatabaseFailure, "an earlier statement of the transaction has failed"},
+    Report{"28", RuntimeError::PermissionDenied, "check the user's name and password"},
+    Report{"3D000", RuntimeError::FileNotFound, "check the database's name in the address"},
+    Report{"40", RuntimeError::DatabaseFailure, "another program was changing the same rows; try again"},
+    Report{"42501", RuntimeError::PermissionDenied,
+           "this login lacks a right that is needed; ask whoever looks after the database"},
+    Report{"53100", RuntimeError::DiskFull, "there is no room left on the server's disk"},
+    Report{"53200", RuntimeError::OutOfMemory, "the server has no memory left"},
+    Report{"53300", RuntimeError::DatabaseFailure, "too many programs are connected; try again later"},
+    Report{"54", RuntimeError::DatabaseFailure, "the statement is beyond a limit of the server"},
+    Report{"55P03", RuntimeError::DatabaseFailure, "another program holds the rows; try again in a moment"},
+    Report{"57014", RuntimeError::DatabaseFailure,
+           "the statement took longer than it is given, or was stopped; try again in a moment"},
+    Report{"57P", RuntimeError::DatabaseFailure,
+           "the server is going down or coming up; open the connection again in a moment"},
+    Report{"58030", RuntimeError::DeviceIo, "the server could not read or write its disk"},
+};
+
+const Report* reportFor(std::string_view state) {
+    for (const Report& report : reports) {
+        if (state.starts_with(report.state)) return &report;
+    }
+    return nullptr;
+}
+
+std::string_view withoutLineEnd(std::string_view text) {
+    while (!text.empty() && (text.back() == '\n' || text.back() == ' '))
+        text.remove_suffix(1);
+    return text;
+}
+
+} // namespace
+
+int nativeCode(std::string_view sqlState) {
+    int code = 0;
+    std::from_chars(sqlState.data(), sqlState.data() + sqlState.size(), code, 36);
+    return code;
+}
+
+std::string sqlState(int nativeCode) {
+    std::array<char, 16> digits{};
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), nativeCode, 36);
+    std::string state = upperCase({digits.data(), static_cast<std::size_t>(end - digits.data())});
+    if (state.size() < 5) state.insert(0, 5 - state.size(), '0');
+    return state;
+}
+
+RuntimeError engineError(const pg_result* result) {
+    const char* field = PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY);
+    std::string message(withoutLineEnd(field ? field : PQresultErrorMessage(result)));
+    const char* code = PQresultErrorField(result, PG_DIAG_SQLSTATE);
+    const std::string_view state = code ? code : "";
+    const Report* report = reportFor(state);
+    if (report && report->advice) message += std::string(" (") + report->advice + ")";
+    if (!state.empty()) message += " [" + std::string(state) + "]";
+    return {report ? report->number : RuntimeError::DatabaseFailure, message, nativeCode(state)};
+}
+
+RuntimeError connectionError(const pg_conn* handle, std::string_view what) {
+    std::string message(what);
+    const std::string_view said = withoutLineEnd(handle ? PQerrorMessage(handle) : "");
+    if (!said.empty()) message += ": ";
+    for (const char c : said)
+        message += c == '\n' || c == '\t' ? ' ' : c;
+    constexpr std::string_view connectionFailure = "08006";
+    return {RuntimeError::DatabaseFailure, message, nativeCode(connectionFailure)};
+}
+
+} // namespace Korvane::ado::postgres

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <korvane/runtime/RuntimeError.h>
+
+#include <string>
+#include <string_view>
+
+struct pg_conn;
+struct pg_result;
+
+namespace Korvane::ado::postgres {
+
+/// The five characters of the engine's code as the number that a RuntimeError carries (read in base 36), and
+/// back.
+int nativeCode(std::string_view sqlState);
+std::string sqlState(int nativeCode);
+
+/// The failure that the server reported: its message, what a person can do about it where that is known, and
+/// its code.
+RuntimeError engineError(const pg_result* result);
+
+/// The connection is gone, or could not be made: what the client library says about it.
+RuntimeError connectionError(const pg_conn* handle, std::string_view what);
+
+} // namespace Korvane::ado::postgres

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+namespace Korvane::ado::postgres {
+
+/// Whether a name written without marks is taken by the engine for the one that the catalog spells so: it
+/// takes plain names in lower case, and some of them for words of its own.
+bool isPlainFor(std::string_view written, std::string_view spelling);
+
+/// Whether a word cannot be a column's name without marks.
+bool isReserved(std::string_view lowerCaseWord);
+
+} // namespace Korvane::ado::postgres

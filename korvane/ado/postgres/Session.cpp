@@ -1,0 +1,201 @@
+#include <korvane/ado/postgres/Session.h>
+
+#include <korvane/ado/postgres/ResultCursor.h>
+#include <korvane/ado/sql/Names.h>
+#include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Text.h>
+
+namespace Korvane::ado::postgres {
+
+Session::Session(std::unique_ptr<Wire> wire) : mWire(std::move(wire)), mTransactions(*mWire) {
+    setUp();
+}
+
+Session::~Session() {
+    letGo();
+}
+
+void Session::requireOpen() const {
+    if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
+    if (!mWire->isUp()) {
+        throw RuntimeError(RuntimeError::ObjectClosed,
+                           "The connection to the database server was lost; it has to be opened again.");
+    }
+}
+
+void Session::requireReady(std::string_view statement) const {
+    requireOpen();
+    mTransactions.requireNotLost();
+    if (statement.find('\0') != std::string_view::npos) {
+        throw RuntimeError(RuntimeError::InvalidArgument, "A statement cannot hold the character NUL.");
+    }
+}
+
+std::int32_t Session::Execute(std::string_view statement) {
+    requireReady(statement);
+    return perform(statement).touched;
+}
+
+std::int32_t Session::BeginTrans(TransactionFor use) {
+    requireOpen();
+    return mTransactions.begin(use);
+}
+
+void Session::CommitTrans() {
+    requireOpen();
+    if (mAnnouncements.hasUnaskedWrites()) {
+        throw RuntimeError(
+            RuntimeError::InvalidProcedureCall,
+            "A statement that was announced has not been run: the transaction cannot be committed.");
+    }
+    mTransactions.commit();
+    if (transactionLevel() > 0) return;
+    mAnnouncements.clear();
+    mSchemaTouched = false;
+}
+
+void Session::RollbackTrans() {
+    if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
+    mAnnouncements.clear();
+    mTransactions.rollback();
+    if (mSchemaTouched) forgetSchema();
+    if (transactionLevel() == 0) mSchemaTouched = false;
+}
+
+void Session::Announce(std::span<const std::string> statements) {
+    if (transactionLevel() == 0) mAnnouncements.clear();
+    mAnnouncements.add(statements);
+}
+
+void Session::Reset() {
+    if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
+    if (mWire->isUp()) return;
+    if (transactionLevel() > 0) throw RuntimeError(RuntimeError::TransactionOpen);
+    mWire->reset();
+    mAnnouncements.clear();
+    forgetSchema();
+    mDropped->clear();
+    setUp();
+}
+
+void Session::Close() {
+    if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
+    if (transactionLevel() > 0) throw RuntimeError(RuntimeError::TransactionOpen);
+    letGo();
+}
+
+void Session::letGo() noexcept {
+    if (!mOpen) return;
+    while (!mCursors.empty())
+        mCursors.back()->close();
+    try {
+        while (transactionLevel() > 0)
+            mTransactions.rollback();
+        mShapes.forget();
+        if (mWire->isLent() && mWire->isUp()) restoreSettings();
+    } catch (const RuntimeError&) {
+        // The line is lost, and what was open on it with it; a lent one is its owner's to mend.
+    }
+    mOpen = false;
+    if (!mWire->isLent()) mWire->hangUp();
+}
+
+// Texts come as UTF-8 and dates in the ISO form, whatever the server is set to.
+void Session::setUp() {
+    mFormerSettings.clear();
+    const std::string encoding = mWire->encoding("UTF8");
+    std::vector<std::pair<std::string, std::string>> settings{{"DateStyle", "ISO, MDY"},
+                                                              {"standard_conforming_strings", "on"}};
+    if (mWire->isLent()) {
+        mFormerSettings.emplace_back("client_encoding", encoding);
+        for (const auto& [name, value] : settings)
+            mFormerSettings.emplace_back(name, mWire->parameter(name.c_str()));
+    } else {
+        settings.emplace_back("statement_timeout", std::to_string(mWire->limits().statement.count()));
+    }
+    std::vector<Command> commands;
+    for (const auto& [name, value] : settings)
+        commands.push_back({.text = "Select pg_catalog.set_config($1, $2, false)", .values = {name, value}});
+    sendAll(commands);
+}
+
+void Session::restoreSettings() {
+    std::vector<Command> commands;
+    for (const std::string& name : *mDropped)
+        commands.push_back({.text = "Deallocate " + name});
+    for (const auto& [name, value] : mFormerSettings)
+        commands.push_back({.text = "Select pg_catalog.set_config($1, $2, false)", .values = {name, value}});
+    mDropped->clear();
+    mWire->send(commands);
+}
+
+void Session::limits(const Limits& limits) {
+    requireOpen();
+    mWire->limits(limits);
+    const Command command{.text = "Select pg_catalog.set_config('statement_timeout', $1, false)",
+                          .values = {std::to_string(limits.statement.count())}};
+    sendAll({&command, 1});
+}
+
+void Session::requireSchema() {
+    if (mSchema.isRead()) return;
+    const Command command{.text = std::string(Schema::query())};
+    mSchema.read(sendAll({&command, 1}).front().get());
+}
+
+void Session::forgetSchema() {
+    mShapes.forget();
+    mSchema.forget();
+}
+
+std::unique_ptr<Cursor> Session::openCursor(std::string_view statement, CursorType cursorType,
+                                            LockType lockType) {
+    requireReady(statement);
+    if (lockType != LockType::ReadOnly || cursorType == CursorType::Keyset ||
+        cursorType == CursorType::Dynamic)
+        return openKeyset(statement, lockType);
+    return cursorOn(perform(statement), cursorType, lockType);
+}
+
+std::unique_ptr<Cursor> Session::cursorOn(Outcome outcome, CursorType cursorType, LockType lockType) {
+    if (!outcome.columns) return nullptr;
+    auto cursor = std::make_unique<ResultCursor>(*this, std::move(outcome.rows), std::move(outcome.columns),
+                                                 cursorType, lockType);
+    mCursors.push_back(cursor.get());
+    return cursor;
+}
+
+std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType lockType) {
+    requireSchema();
+    Writeback writeback;
+    std::string keyColumns;
+    if (const auto rows = lockType == LockType::ReadOnly ? std::nullopt : sql::rowSource(statement)) {
+        writeback = {rows->table, mSchema.keyOf(rows->table)};
+        const std::string table = mSchema.nameOf(rows->table);
+        const std::string called = rows->calledAs == rows->table ? table : lowerCase(rows->calledAs);
+        for (const std::string& column : writeback.key)
+            keyColumns += ", " + sql::quotedName(called) + "." + sql::quotedName(column);
+    }
+    Request once = literalRequest(statement, keyColumns);
+    Outcome outcome = outcomeOf(once, std::move(run({&once, 1}).front()));
+    if (!outcome.columns) return nullptr;
+    auto cursor = std::make_unique<ResultCursor>(*this, std::move(outcome.rows), std::move(outcome.columns),
+                                                 CursorType::Keyset, lockType, std::move(writeback));
+    mCursors.push_back(cursor.get());
+    return cursor;
+}
+
+Answer Session::runForWriting(Command command) {
+    requireOpen();
+    mTransactions.requireNotLost();
+    mAnnouncements.dropReads();
+    Request request;
+    request.command = std::move(command);
+    return std::move(run({&request, 1}).front());
+}
+
+void Session::forget(const ResultCursor& cursor) {
+    std::erase(mCursors, &cursor);
+}
+
+} // namespace Korvane::ado::postgres

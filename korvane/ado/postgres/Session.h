@@ -1,0 +1,98 @@
+#pragma once
+
+#include <korvane/ado/Connection.h>
+#include <korvane/ado/postgres/Announcements.h>
+#include <korvane/ado/postgres/Schema.h>
+#include <korvane/ado/postgres/Shapes.h>
+#include <korvane/ado/postgres/Transactions.h>
+#include <korvane/ado/postgres/Wire.h>
+#include <korvane/ado/sql/Lift.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Korvane::ado::postgres {
+
+class ResultCursor;
+
+/// The connection over one line to a server.
+class Session final : public Connection {
+  public:
+    explicit Session(std::unique_ptr<Wire> wire);
+    ~Session() override;
+
+    std::int32_t State() const override { return mOpen && mWire->isUp() ? 1 : 0; }
+    std::int32_t Execute(std::string_view statement) override;
+    std::int32_t BeginTrans(TransactionFor use) override;
+    void CommitTrans() override;
+    void RollbackTrans() override;
+    std::int32_t transactionLevel() const override { return mTransactions.level(); }
+    void Announce(std::span<const std::string> statements) override;
+    void Reset() override;
+    void Close() override;
+    std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
+                                       LockType lockType) override;
+
+    void limits(const Limits& limits);
+    /// How many shapes of statements are kept prepared.
+    void keepShapes(std::size_t most) { mShapes.limit(most); }
+
+    /// For cursors: what is known of the tables, once it is required; runs what writes a row back; knows a
+    /// cursor no longer.
+    const Schema& schema() const { return mSchema; }
+    void requireSchema();
+    Answer runForWriting(Command command);
+    void forget(const ResultCursor& cursor);
+
+  private:
+    /// A statement ready to be sent.
+    struct Request {
+        std::shared_ptr<Shape> shape;
+        Form* form = nullptr; ///< null for a text that is sent as it is
+        Command command;
+    };
+
+    void setUp();
+    void requireOpen() const;
+    void requireReady(std::string_view statement) const;
+    Request request(std::string_view statement);
+    Request literalRequest(std::string_view statement, std::string_view addedColumns);
+    std::shared_ptr<Shape> makeShape(std::string_view text, std::string_view addedColumns);
+    Form& formFor(Shape& shape, std::vector<TypeId> types);
+    Outcome perform(std::string_view statement);
+    std::optional<Outcome> takeAnnounced(std::string_view statement);
+    void sendAnnounced(const Announcements::Item& first);
+    std::vector<std::pair<Announcements::Item*, Request>> requestsFrom(const Announcements::Item& first);
+    std::vector<Answer> run(std::span<Request> requests);
+    std::vector<Command> preliminaries() const;
+    std::vector<Answer> sendAll(std::span<const Command> commands);
+    Outcome outcomeOf(const Request& request, Answer answer);
+    std::shared_ptr<const ResultColumns> describe(const Shape& shape, const pg_result* rows) const;
+    std::unique_ptr<Cursor> openKeyset(std::string_view statement, LockType lockType);
+    std::unique_ptr<Cursor> cursorOn(Outcome outcome, CursorType cursorType, LockType lockType);
+    void forgetSchema();
+    void letGo() noexcept;
+    void restoreSettings();
+
+    std::unique_ptr<Wire> mWire;
+    bool mOpen = true;
+    Schema mSchema;
+    bool mSchemaTouched = false; ///< in the transaction that is open
+    Transactions mTransactions;
+    Shapes mShapes;
+    std::shared_ptr<std::vector<std::string>> mDropped = std::make_shared<std::vector<std::string>>();
+    Announcements mAnnouncements;
+    sql::Lifter mLifter;
+    std::string mScratch;
+    std::vector<ResultCursor*> mCursors;
+    std::vector<std::pair<std::string, std::string>> mFormerSettings; ///< of a lent handle
+};
+
+} // namespace Korvane::ado::postgres

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <korvane/ado/ResultColumns.h>
+#include <korvane/ado/ShapeCache.h>
+#include <korvane/ado/postgres/Types.h>
+#include <korvane/ado/sql/Translation.h>
+
+#include <deque>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Korvane::ado::postgres {
+
+/// A shape as the server knows it: prepared for values of certain types.
+struct Form {
+    std::vector<TypeId> types;
+    std::string name;
+    bool prepared = false;
+    std::shared_ptr<const ResultColumns> columns; ///< set when it first returned rows
+};
+
+/// All statements that differ in their values only.
+struct Shape {
+    std::string text;
+    sql::Translation translation;
+    sql::Effect effect = sql::Effect::None;
+    std::string table; ///< of an Insert or Update: the table it writes, in lower case
+    bool isInsert = false;
+    std::deque<Form> forms; ///< most often one: it is the values' columns that decide
+    std::shared_ptr<std::vector<std::string>> dropped; ///< names that the server may forget
+
+    void drop() {
+        for (const Form& form : forms) {
+            if (form.prepared) dropped->push_back(form.name);
+        }
+        forms.clear();
+    }
+};
+
+using Shapes = ShapeCache<Shape>;
+
+} // namespace Korvane::ado::postgres

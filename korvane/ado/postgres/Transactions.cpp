@@ -1,0 +1,100 @@
+#include <korvane/ado/postgres/Transactions.h>
+
+#include <korvane/ado/postgres/Error.h>
+
+#include <libpq-fe.h>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace Korvane::ado::postgres {
+
+namespace {
+
+std::string savepoint(std::int32_t level) {
+    return "korvane_" + std::to_string(level);
+}
+
+} // namespace
+
+std::int32_t Transactions::begin(TransactionFor use) {
+    requireNotLost();
+    const bool joins = isOpen();
+    mLevels.push_back(joins);
+    if (joins)
+        mUnsent.push_back("Savepoint " + savepoint(level()));
+    else if (use == TransactionFor::Reading)
+        mUnsent.emplace_back("Begin Isolation Level Repeatable Read");
+    else
+        mUnsent.emplace_back("Begin");
+    return level();
+}
+
+void Transactions::commit() {
+    if (mLevels.empty())
+        throw RuntimeError(RuntimeError::DatabaseFailure, "There is no transaction to commit.");
+    requireNotLost();
+    if (mLevels.back()) {
+        const std::string begun = "Savepoint " + savepoint(level());
+        if (!mUnsent.empty() && mUnsent.back() == begun)
+            mUnsent.pop_back();
+        else
+            mUnsent.push_back("Release " + begun);
+    } else if (!hasBegun()) {
+        mUnsent.clear();
+    } else {
+        const Answer answer = run("Commit");
+        // Of a transaction that has failed the server says that it was rolled back, and calls it a success.
+        if (std::string_view(PQcmdStatus(answer.get())) != "COMMIT") requireNotLost();
+    }
+    mLevels.pop_back();
+}
+
+void Transactions::rollback() {
+    if (mLevels.empty())
+        throw RuntimeError(RuntimeError::DatabaseFailure, "There is no transaction to roll back.");
+    const bool isSavepoint = mLevels.back();
+    const std::string mark = savepoint(level());
+    mLevels.pop_back();
+    const bool serverHasIt = mWire.isUp() && mWire.transaction() != Wire::Transaction::None && hasBegun();
+    const auto begun = std::find(mUnsent.begin(), mUnsent.end(), "Savepoint " + mark);
+    const bool unsentOnly = isSavepoint && begun != mUnsent.end();
+    mUnsent.erase(unsentOnly ? begun : mUnsent.begin(), mUnsent.end());
+    if (unsentOnly || !serverHasIt) return;
+    if (!isSavepoint) return runAll({"Rollback"});
+    runAll({"Rollback To Savepoint " + mark, "Release Savepoint " + mark});
+}
+
+bool Transactions::lost() const {
+    return level() > 0 && hasBegun() && mWire.transaction() == Wire::Transaction::None;
+}
+
+void Transactions::requireNotLost() const {
+    if (!lost()) return;
+    throw RuntimeError(
+        RuntimeError::DatabaseFailure,
+        "The database has rolled the transaction back after a failure; nothing of it was saved.");
+}
+
+Answer Transactions::run(const std::string& statement) {
+    std::vector<std::string> statements = std::exchange(mUnsent, {});
+    statements.push_back(statement);
+    std::vector<Command> commands;
+    for (const std::string& text : statements)
+        commands.push_back({.text = text});
+    std::vector<Answer> answers = mWire.send(commands);
+    for (const Answer& answer : answers) {
+        if (PQresultStatus(answer.get()) == PGRES_FATAL_ERROR) throw engineError(answer.get());
+    }
+    return std::move(answers.back());
+}
+
+void Transactions::runAll(std::vector<std::string> statements) {
+    const std::string last = std::move(statements.back());
+    statements.pop_back();
+    mUnsent.insert(mUnsent.end(), statements.begin(), statements.end());
+    run(last);
+}
+
+} // namespace Korvane::ado::postgres

@@ -1,0 +1,237 @@
+#include <korvane/ado/postgres/Wire.h>
+
+#include <korvane/ado/postgres/Error.h>
+
+#include <libpq-fe.h>
+#include <poll.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <optional>
+#include <utility>
+
+namespace Korvane::ado::postgres {
+
+namespace {
+
+using std::chrono::milliseconds;
+using Moment = std::chrono::steady_clock::time_point;
+
+// The server stops a statement by itself when its time is up; this much later the line is taken for dead.
+constexpr milliseconds grace{2000};
+constexpr milliseconds withoutLimit = std::chrono::hours(24);
+
+milliseconds until(Moment deadline) {
+    const auto left = std::chrono::duration_cast<milliseconds>(deadline - std::chrono::steady_clock::now());
+    return std::max(left, milliseconds(0));
+}
+
+// The address' own limit, which the library minds only where it blocks.
+std::optional<milliseconds> connectTimeout(PGconn* handle) {
+    std::optional<milliseconds> found;
+    PQconninfoOption* const options = PQconninfo(handle);
+    for (const PQconninfoOption* option = options; option && option->keyword; ++option) {
+        if (std::string_view(option->keyword) != "connect_timeout" || !option->val) continue;
+        if (const int seconds = std::atoi(option->val); seconds > 0) found = std::chrono::seconds(seconds);
+    }
+    PQconninfoFree(options);
+    return found;
+}
+
+// For the time of an exchange the handle is in pipeline mode and never blocks.
+class Pipeline {
+  public:
+    explicit Pipeline(PGconn* handle) : mHandle(handle), mWasNonBlocking(PQisnonblocking(handle)) {
+        mEntered = PQsetnonblocking(handle, 1) == 0 && PQenterPipelineMode(handle) == 1;
+    }
+    ~Pipeline() {
+        PQexitPipelineMode(mHandle);
+        PQsetnonblocking(mHandle, mWasNonBlocking);
+    }
+    Pipeline(const Pipeline&) = delete;
+    Pipeline& operator=(const Pipeline&) = delete;
+    bool entered() const { return mEntered; }
+
+  private:
+    PGconn* mHandle;
+    int mWasNonBlocking;
+    bool mEntered = false;
+};
+
+} // namespace
+
+void ClearResult::operator()(pg_result* result) const {
+    PQclear(result);
+}
+
+Wire::Wire(const std::string& address, const Limits& limits) : mOwned(true), mLimits(limits) {
+    // What is given first holds unless the address says otherwise.
+    const char* const keywords[] = {"keepalives_idle",  "keepalives_interval",
+                                    "keepalives_count", "tcp_user_timeout",
+                                    "application_name", "dbname",
+                                    "client_encoding",  nullptr};
+    const char* const values[] = {"30", "10", "3", "60000", "Korvane", address.c_str(), "UTF8", nullptr};
+    mHandle = PQconnectStartParams(keywords, values, 1);
+    if (!mHandle) throw RuntimeError(RuntimeError::OutOfMemory);
+    if (const auto given = connectTimeout(mHandle)) mLimits.connect = *given;
+    try {
+        connect(PQconnectPoll);
+    } catch (...) {
+        PQfinish(mHandle);
+        throw;
+    }
+    // "Table exists, skipping" is not for the standard error of a host.
+    PQsetNoticeReceiver(
+        mHandle, [](void*, const PGresult*) {}, nullptr);
+}
+
+Wire::Wire(pg_conn* lent) : mHandle(lent), mOwned(false) {
+    mLimits.statement = milliseconds(0);
+}
+
+Wire::~Wire() {
+    hangUp();
+}
+
+void Wire::hangUp() {
+    if (mOwned) PQfinish(std::exchange(mHandle, nullptr));
+}
+
+template <typename Poll>
+void Wire::connect(Poll poll) {
+    const Moment deadline = std::chrono::steady_clock::now() + mLimits.connect;
+    PostgresPollingStatusType state = PGRES_POLLING_WRITING;
+    while (PQstatus(mHandle) != CONNECTION_BAD && state != PGRES_POLLING_OK &&
+           state != PGRES_POLLING_FAILED) {
+        if (!await(state == PGRES_POLLING_READING ? POLLIN : POLLOUT, until(deadline))) {
+            throw connectionError(nullptr,
+                                  "The database server did not answer in time; check that it is running "
+                                  "and that the network is up");
+        }
+        state = poll(mHandle);
+    }
+    if (PQstatus(mHandle) != CONNECTION_OK)
+        throw connectionError(mHandle, "The database server could not be reached");
+}
+
+void Wire::reset() {
+    mLost = true;
+    if (PQresetStart(mHandle) == 0)
+        throw connectionError(mHandle, "The database server could not be reached");
+    connect(PQresetPoll);
+    mLost = false;
+}
+
+bool Wire::isUp() const {
+    return mHandle && !mLost && PQstatus(mHandle) == CONNECTION_OK;
+}
+
+Wire::Transaction Wire::transaction() const {
+    switch (PQtransactionStatus(mHandle)) {
+    case PQTRANS_INTRANS:
+        return Transaction::Open;
+    case PQTRANS_INERROR:
+        return Transaction::Failed;
+    default:
+        return Transaction::None;
+    }
+}
+
+std::string Wire::parameter(const char* name) const {
+    const char* value = PQparameterStatus(mHandle, name);
+    return value ? value : "";
+}
+
+std::string Wire::encoding(const std::string& name) {
+    std::string before = parameter("client_encoding");
+    if (before != name && PQsetClientEncoding(mHandle, name.c_str()) != 0)
+        throw connectionError(mHandle, "The server does not give its texts as " + name);
+    return before;
+}
+
+std::vector<Answer> Wire::send(std::span<const Command> commands) {
+    const Pipeline pipeline(mHandle);
+    if (!pipeline.entered()) {
+        if (PQstatus(mHandle) != CONNECTION_OK) lose("The connection to the database server was lost");
+        throw RuntimeError(RuntimeError::InvalidConnection,
+                           "The connection cannot be used now: its owner has something pending on it.");
+    }
+    for (const Command& command : commands)
+        queue(command);
+    if (PQpipelineSync(mHandle) == 0) lose("The connection to the database server was lost");
+    return receive(commands.size());
+}
+
+void Wire::queue(const Command& command) {
+    std::vector<const char*> values;
+    for (const auto& value : command.values)
+        values.push_back(value ? value->c_str() : nullptr);
+    const auto types = command.types.empty() ? nullptr : command.types.data();
+    const auto count =
+        static_cast<int>(command.kind == Command::Prepare ? command.types.size() : values.size());
+    int sent = 0;
+    switch (command.kind) {
+    case Command::Run:
+        sent = PQsendQueryParams(mHandle, command.text.c_str(), count, types, values.data(), nullptr, nullptr,
+                                 0);
+        break;
+    case Command::Prepare:
+        sent = PQsendPrepare(mHandle, command.name.c_str(), command.text.c_str(), count, types);
+        break;
+    case Command::Prepared:
+        sent = PQsendQueryPrepared(mHandle, command.name.c_str(), count, values.data(), nullptr, nullptr, 0);
+        break;
+    }
+    if (sent == 0) lose("The connection to the database server was lost");
+}
+
+std::vector<Answer> Wire::receive(std::size_t count) {
+    std::vector<Answer> answers;
+    for (;;) {
+        Answer answer(next());
+        if (!answer) {
+            if (!isUp()) lose("The connection to the database server was lost");
+            continue; // the end of one command's answer
+        }
+        if (PQresultStatus(answer.get()) == PGRES_PIPELINE_SYNC) break;
+        if (answers.size() < count) answers.push_back(std::move(answer));
+    }
+    if (answers.size() != count) lose("The database server gave an answer that was not understood");
+    return answers;
+}
+
+// The next answer; every byte that comes begins the waiting anew.
+pg_result* Wire::next() {
+    const milliseconds patience = mLimits.statement.count() > 0 ? mLimits.statement + grace : withoutLimit;
+    while (PQisBusy(mHandle) != 0) {
+        const int unsent = PQflush(mHandle);
+        // What the server said before it went may still be read.
+        if (unsent < 0) await(POLLIN, grace);
+        const auto events = static_cast<short>(unsent > 0 ? POLLIN | POLLOUT : POLLIN);
+        if (unsent >= 0 && !await(events, patience))
+            lose("The database server has not answered in time; the connection is given up");
+        const bool read = PQconsumeInput(mHandle) != 0;
+        if (!read || (unsent < 0 && PQisBusy(mHandle) != 0))
+            lose("The connection to the database server was lost");
+    }
+    return PQgetResult(mHandle);
+}
+
+bool Wire::await(short events, milliseconds patience) const {
+    pollfd line{PQsocket(mHandle), events, 0};
+    const Moment deadline = std::chrono::steady_clock::now() + patience;
+    for (;;) {
+        const int ready = ::poll(&line, 1, static_cast<int>(until(deadline).count()));
+        if (ready > 0) return true;
+        if (ready == 0) return false;
+        if (errno != EINTR) return true; // the client library finds out what is wrong
+    }
+}
+
+void Wire::lose(std::string_view what) {
+    mLost = true;
+    throw connectionError(mHandle, what);
+}
+
+} // namespace Korvane::ado::postgres

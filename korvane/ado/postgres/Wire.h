@@ -1,0 +1,85 @@
+#pragma once
+
+#include <korvane/ado/postgres/PostgresConnection.h>
+#include <korvane/ado/postgres/Types.h>
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct pg_result;
+
+namespace Korvane::ado::postgres {
+
+struct ClearResult {
+    void operator()(pg_result* result) const;
+};
+/// What the server answered to one command.
+using Answer = std::unique_ptr<pg_result, ClearResult>;
+
+/// One thing that the server is asked to do.
+struct Command {
+    enum Kind {
+        Run,     ///< the text, with values for its parameters
+        Prepare, ///< the text under a name, with the types of its parameters
+        Prepared ///< what was prepared under the name, with values
+    };
+    Kind kind = Run;
+    std::string name{};
+    std::string text{};
+    std::vector<TypeId> types{};
+    std::vector<std::optional<std::string>> values{};
+};
+
+/// The line to a server: sends commands together and waits for what comes back, never without end. Once the
+/// line is lost, or has answered nothing for too long, it is down until `reset`.
+class Wire {
+  public:
+    /// Connects.
+    Wire(const std::string& address, const Limits& limits);
+    /// Works on a handle that somebody else owns.
+    explicit Wire(pg_conn* lent);
+    ~Wire();
+    Wire(const Wire&) = delete;
+    Wire& operator=(const Wire&) = delete;
+
+    /// Sends the commands in one go and gives an answer for each. From the first one that failed on, they
+    /// have not been carried out; their answers say so. Raises when the line is lost.
+    std::vector<Answer> send(std::span<const Command> commands);
+
+    bool isUp() const;
+    bool isLent() const { return !mOwned; }
+    /// Ends the line, for good.
+    void hangUp();
+    /// Connects again as before. Raises when that fails.
+    void reset();
+    void limits(const Limits& limits) { mLimits = limits; }
+    const Limits& limits() const { return mLimits; }
+
+    enum class Transaction { None, Open, Failed };
+    /// What the server said last of the transaction that is open on the line.
+    Transaction transaction() const;
+    /// A setting that the server keeps us informed of.
+    std::string parameter(const char* name) const;
+    /// Makes texts UTF-8 on the line; returns what they were before.
+    std::string encoding(const std::string& name);
+
+  private:
+    template <typename Poll>
+    void connect(Poll poll);
+    void queue(const Command& command);
+    std::vector<Answer> receive(std::size_t count);
+    pg_result* next();
+    bool await(short events, std::chrono::milliseconds patience) const;
+    [[noreturn]] void lose(std::string_view what);
+
+    pg_conn* mHandle = nullptr;
+    bool mOwned;
+    bool mLost = false;
+    Limits mLimits;
+};
+
+} // namespace Korvane::ado::postgres
