@@ -75,9 +75,9 @@ TEST_F(SQLDataTest, KeepsAFieldReadInARowUntilTheNext) {
     SQLData query;
     ASSERT_TRUE(run(query, everything, AccessMode::Write));
     EXPECT_EQ(query.Data("Name"), Variant("Ada"));
-    query.Fields("Name")->Value("changed behind its back");
+    query.Fields("Name")->Value("changed behind it");
     EXPECT_EQ(query.Data("Name"), Variant("Ada"));
-    EXPECT_EQ(query.Data("name"), Variant("changed behind its back"));
+    EXPECT_EQ(query.Data("name"), Variant("changed behind it"));
     EXPECT_EQ(query.Data(2), Variant(std::int16_t{7}));
     EXPECT_EQ(query.Data("2"), Variant(std::int16_t{7}));
     query.NextRow();
@@ -226,17 +226,17 @@ TEST_F(SQLDataTest, ReportsEveryKindOfMisuse) {
 
 TEST_F(SQLDataTest, ShowsAndLogsOnlyItsFirstFailure) {
     SQLData query;
-    EXPECT_FALSE(query.SQL(db, "Select * From Nowhere", false, AccessMode::Read));
+    EXPECT_FALSE(query.SQL(db, "Select * From nowhere", false, AccessMode::Read));
     ASSERT_TRUE(query.LastError());
     const std::string failure =
         std::to_string(query.LastError()->Number()) + " " + query.LastError()->Description();
-    EXPECT_THAT(failure, ::testing::HasSubstr("Nowhere"));
+    EXPECT_THAT(failure, ::testing::HasSubstr("nowhere"));
     EXPECT_TRUE(query.Data("x").isEmpty());
-    EXPECT_FALSE(query.SQL(db, "Delete From Nowhere", true, AccessMode::Read));
+    EXPECT_FALSE(query.SQL(db, "Delete From nowhere", true, AccessMode::Read));
     EXPECT_EQ(query.RecordsAffected(), -1);
     EXPECT_THAT(user->boxes, ElementsAre(ShownBox{box(failure), MsgBoxStyle::Critical, ""}));
     EXPECT_EQ(dir.read("err.txt"),
-              "11/15/2026 5:21:51 PM-SQLData Class->" + failure + "\n\tSelect * From Nowhere\n");
+              "11/15/2026 5:21:51 PM-SQLData Class->" + failure + "\n\tSelect * From nowhere\n");
     namespace fs = std::filesystem;
     EXPECT_EQ(fs::status(dir.file("err.txt")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 
@@ -262,9 +262,9 @@ TEST_F(SQLDataTest, LogsAFailureWhateverItsBoxDoes) {
         EXPECT_FALSE(run(query, "Select * From Elsewhere")); // no second box
         throw RuntimeError(RuntimeError::OutOfMemory);
     };
-    EXPECT_FALSE(run(query, "Select * From Nowhere"));
+    EXPECT_FALSE(run(query, "Select * From nowhere"));
     EXPECT_THAT(user->boxes, SizeIs(1));
-    EXPECT_THAT(dir.read("err.txt"), ::testing::EndsWith("Nowhere\n\tSelect * From Nowhere\n"));
+    EXPECT_THAT(dir.read("err.txt"), ::testing::EndsWith("\n\tSelect * From nowhere\n"));
 }
 
 TEST_F(SQLDataTest, RefusesAConnectionThatIsNotOpen) {
@@ -281,7 +281,7 @@ TEST_F(SQLDataTest, RefusesAConnectionThatIsNotOpen) {
 }
 
 TEST_F(SQLDataTest, NotesAnOpenResultWhoseConnectionIsClosed) {
-    const auto other = ado::open("sqlite:" + dir.file("clinic.db"));
+    const auto other = ado::open(database.address());
     SQLData query;
     ASSERT_TRUE(query.SQL(other, everything, false, AccessMode::Read));
     other->Close();

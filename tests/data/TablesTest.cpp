@@ -2,6 +2,8 @@
 
 #include "support/ScratchClinic.h"
 
+#include <korvane/runtime/Text.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,16 +12,23 @@ using namespace Korvane::Testing;
 
 namespace {
 
-const std::string kSchema = "Select type, name, sql From sqlite_master Order By name";
+std::string schemaQuery() {
+    if (ScratchDatabase::onServer())
+        return "Select table_name, column_name, data_type From information_schema.columns "
+               "Where table_schema=current_schema() Order By table_name, ordinal_position";
+    return "Select type, name, sql From sqlite_master Order By name";
+}
 
 class Tables : public ::testing::Test, protected ScratchClinic {
   protected:
     /// Runs it on another, empty database, prepared by `before`.
     std::shared_ptr<ado::Connection> prepared(const std::string& before) {
-        db = std::make_shared<RecordingConnection>(ado::open("sqlite::memory:"));
+        db = std::make_shared<RecordingConnection>(ado::open(another.address()));
         db->quietly(before);
         return db->real();
     }
+
+    ScratchDatabase another{dir.file("another.db")};
 };
 
 } // namespace
@@ -41,9 +50,9 @@ TEST_F(Tables, TakeTheRowsOfTheLibraryAndOfForeignWriters) {
 
 TEST_F(Tables, StayAsTheyAreWhenInstalledAgain) {
     db->quietly("Update DBFieldGroups Set GroupName='Mine' Where DBFieldGroupID=1");
-    const std::string before = rows(kSchema);
+    const std::string before = rows(schemaQuery());
     installTables(*db->real());
-    EXPECT_EQ(rows(kSchema), before);
+    EXPECT_EQ(rows(schemaQuery()), before);
     EXPECT_EQ(rows("Select DBFieldGroupID, GroupName From DBFieldGroups"), "1|Mine");
 
     prepared(
@@ -58,19 +67,20 @@ TEST_F(Tables, StayAsTheyAreWhenInstalledAgain) {
 TEST_F(Tables, ChangeNothingWhereAForeignTableLacksAnIndexedColumn) {
     const auto connection =
         prepared("Create Table Attachment (AttachmentID INTEGER PRIMARY KEY, Visit INTEGER)");
-    const std::string before = rows(kSchema);
+    const std::string before = rows(schemaQuery());
     try {
         installTables(*connection);
         FAIL() << "installed an index on a column that is not there";
     } catch (const RuntimeError& error) {
         EXPECT_THAT(error.Description(), ::testing::StartsWith("The tables could not be installed: "));
-        EXPECT_THAT(error.Description(), ::testing::HasSubstr("EncounterID"));
+        EXPECT_THAT(lowerCase(error.Description()), ::testing::HasSubstr("encounterid"));
     }
-    EXPECT_EQ(rows(kSchema), before);
+    EXPECT_EQ(rows(schemaQuery()), before);
     EXPECT_EQ(connection->transactionLevel(), 0);
 }
 
 TEST_F(Tables, AreFoundByTheirIndexes) {
+    if (ScratchDatabase::onServer()) GTEST_SKIP() << "a server plans by what is in the tables";
     const std::pair<std::string, std::string> queries[] = {
         {"Select * From Encounter Where PatientID='P' Order By EncounterDate DESC", "EncounterByPatient"},
         {"Select AttachmentID From Attachment Where EncounterID=1", "AttachmentByEncounter"},

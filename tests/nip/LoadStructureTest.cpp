@@ -3,7 +3,6 @@
 #include "support/NipDatabase.h"
 
 #include <gmock/gmock.h>
-#include <sqlite3.h>
 
 namespace Korvane {
 
@@ -165,23 +164,16 @@ TEST(LoadStructure, NamesTheCellThatIsNoSuchNumber) {
 TEST(LoadStructure, CountsNoFurtherThan16Bits) {
     NipDatabase nips;
     nips.group(2, "Huge", "NIP_Custom1");
-    nips.db->Close();
-    sqlite3* file = nullptr;
-    ASSERT_EQ(sqlite3_open(nips.dir.file("clinic.db").c_str(), &file), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(file,
-                           "with recursive n(i) as (select 1 union all select i + 1 from n where i < 32768) "
-                           "insert into DBFields(ID, FieldName, DBFieldGroupID, Ordinal) "
-                           "select i, 'F' || i, 2, i from n",
-                           nullptr, nullptr, nullptr),
-              SQLITE_OK);
+    nips.db->quietly("With Recursive n(i) As (Select 1 Union All Select i + 1 From n Where i < 32768) "
+                     "Insert Into DBFields(ID, FieldName, DBFieldGroupID, Ordinal) "
+                     "Select i, 'F' || i, 2, i From n");
     cNIP nip;
     EXPECT_FALSE(nip.LoadStructure(ado::open(nips.address())));
     EXPECT_EQ(nip.FieldCount(1), 32767);
     EXPECT_THAT(nips.errorLog(), HasSubstr("More than 32767 fields in the group Huge"));
-    ASSERT_EQ(sqlite3_exec(file, "delete from DBFields where ID=1", nullptr, nullptr, nullptr), SQLITE_OK);
+    nips.db->quietly("Delete From DBFields Where ID=1");
     EXPECT_TRUE(nip.LoadStructure(ado::open(nips.address())));
     EXPECT_EQ(nip.fieldName(1, 32767), "F32768");
-    sqlite3_close(file);
 }
 
 } // namespace Korvane

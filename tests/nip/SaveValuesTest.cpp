@@ -32,7 +32,7 @@ std::string table(int group) {
 void makeGroups(NipDatabase& nips, int count) {
     for (int group = 1; group <= count; ++group) {
         nips.group(group + 1, "Group", table(group));
-        nips.field(group + 1, table(group), "Temp-1");
+        nips.field(group + 1, table(group), "Temp-1", {.columnType = "TEXT"});
         nips.field(group + 1, table(group), "Order", {.columnType = "TEXT"});
         nips.field(group + 1, table(group), "Chosen", {"LIST-EDITCONTENT", 0, 0, 0, "TEXT"});
     }

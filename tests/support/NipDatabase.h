@@ -84,7 +84,7 @@ class NipDatabase : public ScratchClinic {
         db->quietly("Insert Into " + std::string(table) + " " + lists.InsertListGet());
     }
 
-    std::string address() const { return "sqlite:" + dir.file("clinic.db"); }
+    std::string address() const { return database.address(); }
     std::string errorLog() const { return dir.read("ERR.txt"); }
 
   private:

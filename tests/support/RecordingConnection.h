@@ -45,6 +45,7 @@ class RecordingConnection : public ado::Connection {
         announced.insert(announced.end(), coming.begin(), coming.end());
         mReal->Announce(coming);
     }
+    void Reset() override { mReal->Reset(); }
     void Close() override { mReal->Close(); }
     std::unique_ptr<ado::Cursor> openCursor(std::string_view statement, ado::CursorType cursorType,
                                             ado::LockType lockType) override {

@@ -2,6 +2,7 @@
 
 #include "support/RecordingConnection.h"
 #include "support/RecordingInteraction.h"
+#include "support/ScratchDatabase.h"
 #include "support/ScratchDir.h"
 #include "support/StoppedClock.h"
 
@@ -14,14 +15,15 @@
 
 namespace Korvane::Testing {
 
-/// A real database file of its own with the library's tables, a stopped clock, a recording user, and the
+/// A real database of its own with the library's tables, a stopped clock, a recording user, and the
 /// application path beside them. Use it as a member or a base of a fixture.
 struct ScratchClinic {
     StoppedClock clock;
     ScratchDir dir{ScratchDir::AsAppPath};
     RecordedInteraction user;
+    ScratchDatabase database{dir.file("clinic.db")};
     std::shared_ptr<RecordingConnection> db =
-        std::make_shared<RecordingConnection>(ado::open("sqlite:" + dir.file("clinic.db")));
+        std::make_shared<RecordingConnection>(ado::open(database.address()));
 
     ScratchClinic() { installTables(*db->real()); }
 
