@@ -1,4 +1,7 @@
 #include <korvane/ado/sql/Lift.h>
+#ifdef KORVANE_HAS_POSTGRES
+#include <korvane/ado/postgres/Translate.h>
+#endif
 #include <korvane/ado/sqlite/Translate.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
@@ -10,13 +13,32 @@
 #include <string>
 #include <vector>
 
-namespace Korvane::ado::sqlite {
+namespace Korvane::ado::Testing {
 
 namespace {
 
 /// The columns of the library's tables, without a database.
 class KnownTables : public sql::Tables {
   public:
+    /// As a server's catalog spells the names: plain ones in lower case. Those of DBFieldValues were made by
+    /// somebody who wrote them with marks.
+    void fold() {
+        for (auto& [table, columns] : mTables) {
+            const bool hadMarks = table == "dbfieldvalues";
+            mNames[table] = hadMarks ? "DBFieldValues" : table;
+            for (ColumnInfo& column : columns) {
+                const bool needsMarks = column.name.find_first_of("- ") != std::string::npos;
+                if (!hadMarks && !needsMarks) column.name = lowerCase(column.name);
+                column.nullable = table != "encounter" || column.name != "encounterid";
+            }
+        }
+    }
+
+    std::string nameOf(std::string_view table) const override {
+        const auto found = mNames.find(lowerCase(table));
+        return found == mNames.end() ? std::string() : found->second;
+    }
+
     std::span<const ColumnInfo> columnsOf(std::string_view table) const override {
         const auto found = mTables.find(lowerCase(table));
         return found == mTables.end() ? std::span<const ColumnInfo>{} : found->second;
@@ -60,9 +82,34 @@ class KnownTables : public sql::Tables {
                                  {DataType::VarWChar, {"Pulse", "Temp-1", "Problem List"}},
                                  {DataType::Date, {"Seen"}},
                                  {DataType::Boolean, {"Smoker"}},
-                                 {DataType::Double, {"Weight"}}})},
+                                 {DataType::Double, {"Weight", "User"}}})},
     };
+    std::map<std::string, std::string> mNames;
 };
+
+/// An engine's translation, with tables as it has them and the file of what it makes of statements.
+struct Translating {
+    std::string name;
+    sql::Translation (*translate)(std::string_view, const sql::Tables&, std::string_view);
+    bool isServer;
+
+    KnownTables tables() const {
+        KnownTables tables;
+        if (isServer) tables.fold();
+        return tables;
+    }
+    friend void PrintTo(const Translating& engine, std::ostream* out) { *out << engine.name; }
+};
+
+const std::vector<Translating>& translations() {
+    static const std::vector<Translating> all{
+        {"sqlite", sqlite::translate, false},
+#ifdef KORVANE_HAS_POSTGRES
+        {"postgres", postgres::translate, true},
+#endif
+    };
+    return all;
+}
 
 std::string namesOf(const sql::Translation& translation) {
     std::string names;
@@ -73,17 +120,21 @@ std::string namesOf(const sql::Translation& translation) {
     return names;
 }
 
-/// One entry of the golden file, as it is now: the statement (>), its shape (~) and what its values meet (?),
-/// its translation (=) or the error (!). Lines that would say nothing are left out.
-std::string described(const std::string& statement) {
-    const KnownTables tables;
+/// One entry of the golden file, as it is now: the statement (>), its shape (~; of a server what it prepares)
+/// and what its values meet (?), its translation (=) or the error (!). Lines that would say nothing are left
+/// out.
+std::string described(const std::string& statement, const Translating& engine) {
+    const KnownTables tables = engine.tables();
     sql::Lifter lifter;
     lifter.lift(statement);
     const std::string shape(lifter.shape());
     std::string text = "> " + statement + "\n";
-    if (shape != statement) text += "~ " + shape + "\n? " + namesOf(translate(shape, tables)) + "\n";
+    if (shape != statement) {
+        const sql::Translation prepared = engine.translate(shape, tables, {});
+        text += "~ " + (engine.isServer ? prepared.text : shape) + "\n? " + namesOf(prepared) + "\n";
+    }
     try {
-        const std::string translated = translate(statement, tables).text;
+        const std::string translated = engine.translate(statement, tables, {}).text;
         if (translated != statement) text += "= " + translated + "\n";
     } catch (const RuntimeError& error) {
         text += "! " + error.Description() + "\n";
@@ -93,15 +144,17 @@ std::string described(const std::string& statement) {
 
 } // namespace
 
+class Translate : public testing::TestWithParam<Translating> {};
+
 // The file's entries are told apart by blank lines; # begins a remark.
-TEST(Translate, GivesWhatTheGoldenFileHolds) {
-    std::ifstream file(KORVANE_TESTS_DIR "/ado/golden/sqlite.txt");
+TEST_P(Translate, GivesWhatTheGoldenFileHolds) {
+    std::ifstream file(KORVANE_TESTS_DIR "/ado/golden/" + GetParam().name + ".txt");
     std::string statement;
     std::string expected;
     int entries = 0;
     const auto check = [&] {
         if (statement.empty()) return;
-        EXPECT_EQ(described(statement), expected);
+        EXPECT_EQ(described(statement, GetParam()), expected);
         statement.clear();
         expected.clear();
         ++entries;
@@ -116,19 +169,24 @@ TEST(Translate, GivesWhatTheGoldenFileHolds) {
     EXPECT_GT(entries, 50);
 }
 
-TEST(Translate, KnowsTheTypesOfComputedColumns) {
-    const KnownTables tables;
+TEST_P(Translate, KnowsTheTypesOfComputedColumns) {
+    const KnownTables tables = GetParam().tables();
     const auto types =
-        translate(
-            "Select Top 5 Max(e.[EncounterDate]) As M, Description, Count(*), Sum(ProviderID), 7 As Seven, "
-            "Min(Pulse), Upper(Description) From NIP_Custom1 Inner Join Encounter As e On 1=1",
-            tables)
+        GetParam()
+            .translate("Select Top 5 Max(e.[EncounterDate]) As M, Description, Count(*), Sum(ProviderID), 7 "
+                       "As Seven, "
+                       "Min(Pulse), Upper(Description) From NIP_Custom1 Inner Join Encounter As e On 1=1",
+                       tables, {})
             .resultTypes;
     const std::vector<std::optional<DataType>> expected{
         DataType::Date,    std::nullopt,       DataType::Integer, DataType::Integer,
         DataType::Integer, DataType::VarWChar, std::nullopt};
     EXPECT_EQ(types, expected);
-    EXPECT_TRUE(translate("Select *, Max(EncounterID) From Encounter", tables).resultTypes.empty());
+    EXPECT_TRUE(
+        GetParam().translate("Select *, Max(EncounterID) From Encounter", tables, {}).resultTypes.empty());
 }
 
-} // namespace Korvane::ado::sqlite
+INSTANTIATE_TEST_SUITE_P(Engines, Translate, testing::ValuesIn(translations()),
+                         [](const auto& engine) { return engine.param.name; });
+
+} // namespace Korvane::ado::Testing

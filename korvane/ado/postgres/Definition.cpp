@@ -103,6 +103,7 @@ void Definition::alterTable() {
     table();
     for (; token(mAt).kind != TokenKind::End; ++mAt) {
         const Token& action = token(mAt);
+        if (action.isWord("to")) write(mAt + 1, {});
         if (!action.isWord("add") && !action.isWord("drop") && !action.isWord("rename") &&
             !action.isWord("alter"))
             continue;
