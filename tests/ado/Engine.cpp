@@ -3,8 +3,6 @@
 #include "support/ScratchDir.h"
 #include "support/ScratchSchema.h"
 
-#include <korvane/runtime/RuntimeError.h>
-
 namespace Korvane::ado::Testing {
 
 namespace {
@@ -120,6 +118,22 @@ int errorOf(const std::function<void()>& action) {
         return error.Number();
     }
     return 0;
+}
+
+RuntimeError raised(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        return error;
+    }
+    ADD_FAILURE() << "no error";
+    return RuntimeError(0, "");
+}
+
+std::string one(const std::shared_ptr<Connection>& db, std::string_view statement) {
+    const auto rs = Recordset::create();
+    rs->Open(statement, db);
+    return rs->Eof() ? "(none)" : rs->Value(0).textOrEmpty();
 }
 
 } // namespace Korvane::ado::Testing

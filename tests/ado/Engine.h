@@ -1,6 +1,7 @@
 #pragma once
 
 #include <korvane/ado/Recordset.h>
+#include <korvane/runtime/RuntimeError.h>
 
 #include <gtest/gtest.h>
 
@@ -61,5 +62,9 @@ class OnEveryEngine : public testing::TestWithParam<EngineChoice> {
 
 /// The number of the RuntimeError that an action raises; 0 when it raises none.
 int errorOf(const std::function<void()>& action);
+/// The RuntimeError that an action raises; a failure of the test when it raises none.
+RuntimeError raised(const std::function<void()>& action);
+/// The first value of the first row, as text; empty for null and "(none)" when there is no row.
+std::string one(const std::shared_ptr<Connection>& db, std::string_view statement);
 
 } // namespace Korvane::ado::Testing

@@ -25,22 +25,6 @@ class SqliteFile : public testing::Test {
         return db;
     }
     std::string path() const { return mDir.file("clinic.db"); }
-    static std::string one(const std::shared_ptr<Connection>& db, std::string_view statement) {
-        const auto rs = Recordset::create();
-        rs->Open(statement, db);
-        return rs->Eof() ? "(none)" : rs->Value(0).textOrEmpty();
-    }
-    /// What an action raises.
-    static RuntimeError raised(const std::function<void()>& action) {
-        try {
-            action();
-        } catch (const RuntimeError& error) {
-            return error;
-        }
-        ADD_FAILURE() << "no error";
-        return RuntimeError(0, "");
-    }
-
     Korvane::Testing::ScratchDir mDir;
 };
 

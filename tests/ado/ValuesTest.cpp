@@ -129,6 +129,10 @@ TEST_P(Values, MeetTheirColumnsInAWhere) {
         {"Name > '5'", "13"},
         {"Name Like '1%'", "2"},
         {"Name like 'X'", "3"},
+        {"Name Not Like '1' || '_'", "13"},
+        {"Name Like '\\10'", ""},
+        {"Name Like '!10' Escape '!'", "2"},
+        {"[Day] Like '2026-1%'", "2"},
         {"Name='x' /* a 'comment' */ And Size<>0 -- Or 1=1", "3"},
         {"ID In (Select ID From Visit As v Where v.[Day]='10/1/2026')", "2"},
         {"Case When [Day]>'9/15/2026' Then 'late' Else 'early' End = 'late'", "2"},
@@ -154,6 +158,9 @@ TEST_P(Values, OfDatesSortByTime) {
         order += rs->Value(0).text();
     EXPECT_EQ(order, "1342");
     EXPECT_EQ(one("Select Top 1 ID From Visit Order By [Day]"), "2");
+    mDb->Execute("Insert into Visit (ID) values (5)"); // Null is before all
+    EXPECT_EQ(one("Select Top 1 ID From Visit Order By [Day]"), "5");
+    EXPECT_EQ(one("Select Top 1 ID From Visit Order By [Day] DESC, ID"), "1");
     EXPECT_EQ(one("Select Max([Day]) From Visit"), "2/1/2026");
 }
 

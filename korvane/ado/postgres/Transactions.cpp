@@ -39,8 +39,10 @@ void Transactions::commit() {
         const std::string begun = "Savepoint " + savepoint(level());
         if (!mUnsent.empty() && mUnsent.back() == begun)
             mUnsent.pop_back();
-        else
+        else if (level() > 1)
             mUnsent.push_back("Release " + begun);
+        else
+            run("Release " + begun); // what follows is the owner's
     } else if (!hasBegun()) {
         mUnsent.clear();
     } else {

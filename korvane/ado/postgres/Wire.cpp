@@ -23,7 +23,7 @@ constexpr milliseconds grace{2000};
 constexpr milliseconds withoutLimit = std::chrono::hours(24);
 
 milliseconds until(Moment deadline) {
-    const auto left = std::chrono::duration_cast<milliseconds>(deadline - std::chrono::steady_clock::now());
+    const auto left = std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
     return std::max(left, milliseconds(0));
 }
 

@@ -1,0 +1,188 @@
+#include <korvane/ado/postgres/PostgresConnection.h>
+
+#include "ado/Engine.h"
+#include "support/NativeHandle.h"
+#include "support/ScratchSchema.h"
+
+#include <korvane/ado/Transaction.h>
+
+#include <gmock/gmock.h>
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace Korvane::ado::Testing {
+
+using Korvane::Testing::NativeHandle;
+using Korvane::Testing::ScratchSchema;
+
+/// Twenty tables of groups, and a connection whose round trips are counted.
+class Announced : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!ScratchSchema::hasServer()) GTEST_SKIP() << ScratchSchema::noServer;
+        mSchema = std::make_unique<ScratchSchema>();
+        mHandle = std::make_unique<NativeHandle>(mSchema->address());
+        for (int group = 1; group <= groups; ++group)
+            mHandle->run(
+                ("create table " + table(group) + " (ID Integer Primary Key, Value SmallInt)").c_str());
+        mDb = postgres::adopt(mHandle->get());
+        mTrace = std::tmpfile();
+        PQtrace(mHandle->get(), mTrace);
+        PQsetTraceFlags(mHandle->get(), PQTRACE_SUPPRESS_TIMESTAMPS);
+    }
+    void TearDown() override {
+        if (mHandle) PQuntrace(mHandle->get());
+        if (mTrace) std::fclose(mTrace);
+    }
+
+    /// How often the server was asked something since the last time.
+    int trips() {
+        std::fflush(mTrace);
+        std::rewind(mTrace);
+        int syncs = 0;
+        char line[4096];
+        while (std::fgets(line, sizeof line, mTrace))
+            syncs += std::string_view(line).find("F\t4\tSync") == 0 ? 1 : 0;
+        const int before = std::exchange(mSyncs, syncs);
+        return syncs - before;
+    }
+
+    static std::string table(int group) { return "NIP_Custom" + std::to_string(group); }
+    static std::string update(int group, int id, const std::string& value) {
+        return "Update " + table(group) + " Set [Value]='" + value + "' Where ID=" + std::to_string(id);
+    }
+    static std::string insert(int group, int id, const std::string& value) {
+        return "Insert Into " + table(group) + "([Value],[ID])  values ('" + value + "'," +
+               std::to_string(id) + ")";
+    }
+    static std::string select(int group, int id) {
+        return "Select [Value] From " + table(group) + " Where ID=" + std::to_string(id);
+    }
+    std::vector<std::string> each(const std::function<std::string(int)>& statement) {
+        std::vector<std::string> all;
+        for (int group = 1; group <= groups; ++group)
+            all.push_back(statement(group));
+        return all;
+    }
+    /// As the model saves: an Update a group, and an Insert where it touched nothing.
+    void save(int id, const std::string& value) {
+        Transaction work(*mDb);
+        mDb->Announce(each([&](int group) { return update(group, id, value); }));
+        bool announced = false;
+        for (int group = 1; group <= groups; ++group) {
+            if (mDb->Execute(update(group, id, value)) > 0) continue;
+            if (!std::exchange(announced, true))
+                mDb->Announce(each([&](int g) { return insert(g, id, value); }));
+            EXPECT_EQ(mDb->Execute(insert(group, id, value)), 1);
+        }
+        work.commit();
+    }
+    std::string load(int id) {
+        Transaction snapshot(*mDb, TransactionFor::Reading);
+        mDb->Announce(each([&](int group) { return select(group, id); }));
+        std::string values;
+        for (int group = 1; group <= groups; ++group)
+            values += one(mDb, select(group, id)) + " ";
+        snapshot.commit();
+        return values;
+    }
+    static std::string times(const std::string& text) {
+        std::string all;
+        for (int group = 1; group <= groups; ++group)
+            all += text;
+        return all;
+    }
+
+    static constexpr int groups = 20;
+    std::unique_ptr<ScratchSchema> mSchema;
+    std::unique_ptr<NativeHandle> mHandle;
+    std::shared_ptr<Connection> mDb;
+    std::FILE* mTrace = nullptr;
+    int mSyncs = 0;
+};
+
+TEST_F(Announced, GoTogetherHoweverManyThereAre) {
+    trips();
+    EXPECT_EQ(load(1), times("(none) "));
+    EXPECT_LE(trips(), 3); // with the look into the catalog
+    save(1, "7");
+    EXPECT_LE(trips(), 3);
+    save(1, "8");
+    EXPECT_LE(trips(), 2);
+    EXPECT_EQ(load(1), times("8 "));
+    EXPECT_LE(trips(), 2);
+    mHandle->run("delete from NIP_Custom3");
+    mHandle->run("delete from NIP_Custom17");
+    trips();
+    save(1, "9"); // some rows are there, some are not
+    EXPECT_LE(trips(), 3);
+    EXPECT_EQ(load(1), times("9 "));
+}
+
+TEST_F(Announced, FailAsTheyWouldHaveOneByOne) {
+    save(1, "7");
+    mHandle->run("alter table NIP_Custom5 add check (Value<>3)");
+    trips();
+    mDb->BeginTrans();
+    std::vector<std::string> updates = each([](int group) { return update(group, 1, "3"); });
+    mDb->Announce(updates);
+    for (int group = 1; group <= groups; ++group) {
+        const int expected = group == 5 ? RuntimeError::DatabaseFailure : 0;
+        EXPECT_EQ(errorOf([&] { EXPECT_EQ(mDb->Execute(updates[static_cast<std::size_t>(group - 1)]), 1); }),
+                  expected)
+            << group;
+    }
+    mDb->CommitTrans();
+    EXPECT_EQ(one(mDb, select(4, 1)) + one(mDb, select(5, 1)) + one(mDb, select(6, 1)), "373");
+
+    // One that cannot even be translated, and one whose table went away.
+    updates = {update(1, 1, "4"), update(2, 1, "many"), update(3, 1, "4"), update(99, 1, "4"),
+               update(4, 1, "4")};
+    mDb->BeginTrans();
+    mDb->Announce(updates);
+    std::string failed;
+    for (const std::string& statement : updates)
+        failed += errorOf([&] { mDb->Execute(statement); }) == 0 ? "." : "x";
+    EXPECT_EQ(failed, ".x.x.");
+    mDb->CommitTrans();
+    EXPECT_EQ(one(mDb, select(1, 1)) + one(mDb, select(2, 1)) + one(mDb, select(4, 1)), "434");
+}
+
+TEST_F(Announced, SeeWhatWasWrittenBeforeThem) {
+    save(1, "7");
+    mDb->BeginTrans();
+    mDb->Announce(each([](int group) { return select(group, 1); }));
+    EXPECT_EQ(one(mDb, select(1, 1)), "7");
+    mDb->Execute(update(2, 1, "8"));
+    EXPECT_EQ(one(mDb, select(2, 1)), "8");
+    mDb->RollbackTrans();
+    EXPECT_EQ(one(mDb, select(2, 1)), "7");
+}
+
+TEST_F(Announced, AreNotWrittenUnlessTheyAreRun) {
+    save(1, "7");
+    const std::vector<std::string> updates = each([](int group) { return update(group, 1, "8"); });
+    mDb->Announce(updates); // outside a transaction nothing goes ahead
+    EXPECT_EQ(mDb->Execute(updates[0]), 1);
+    EXPECT_EQ(load(1), "8 " + times("7 ").substr(2));
+    mDb->BeginTrans();
+    mDb->Announce(updates);
+    EXPECT_EQ(mDb->Execute(updates[0]), 1);
+    EXPECT_EQ(errorOf([&] { mDb->CommitTrans(); }), RuntimeError::InvalidProcedureCall);
+    mDb->RollbackTrans();
+    EXPECT_EQ(load(1), "8 " + times("7 ").substr(2));
+}
+
+TEST_F(Announced, AreSentAnewWhereTheTableHasChanged) {
+    save(1, "7");
+    EXPECT_EQ(load(1), times("7 "));
+    const NativeHandle other(mSchema->address());
+    other.run("alter table NIP_Custom4 alter column Value type varchar(20) using 'text ' || Value");
+    EXPECT_EQ(load(1), times("7 ").substr(0, 6) + "text 7 " + times("7 ").substr(8));
+    save(1, "8");
+    EXPECT_EQ(load(1), times("8 "));
+}
+
+} // namespace Korvane::ado::Testing
