@@ -1,7 +1,5 @@
 #include "support/PanelDesk.h"
 
-#include <korvane/ado/sqlite/SqliteConnection.h>
-
 #include <gmock/gmock.h>
 
 #include <chrono>
@@ -40,7 +38,7 @@ Hindrance lock() {
     auto other = std::make_shared<std::shared_ptr<ado::Connection>>();
     return {"another writer holds the file",
             [other](PanelDesk& desk) {
-                ado::sqlite::setBusyTimeout(*desk.db->real(), std::chrono::milliseconds(20));
+                ScratchDatabase::waitBriefly(*desk.db->real());
                 *other = ado::open(desk.address());
                 (*other)->BeginTrans();
             },

@@ -2,6 +2,8 @@
 
 #include "support/ScratchSchema.h"
 
+#include <korvane/ado/Connection.h>
+
 #include <optional>
 #include <string>
 
@@ -16,6 +18,9 @@ class ScratchDatabase {
 
     explicit ScratchDatabase(const std::string& file);
     std::string address() const;
+
+    /// Lets a statement wait for other programs no longer than a test likes to.
+    static void waitBriefly(ado::Connection& connection);
 
   private:
     std::string mFile;
