@@ -7,6 +7,8 @@
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
 
+#include <span>
+
 namespace Korvane {
 
 namespace {
@@ -86,11 +88,19 @@ void cNIP::saveValues() {
         updates.push_back(updateStatement(lists, mGroups[i], mEncounterID));
     }
     mConnection->Announce(updates);
+    // A group without a row is seldom alone: an encounter that is new has none at all.
+    std::vector<std::string> inserts;
     for (std::size_t i = 0; i < groups.size(); ++i) {
         SQLData query;
         run(query, mConnection, updates[i], true);
-        if (query.RecordsAffected() == 0)
-            run(query, mConnection, insertStatement(lists, *groups[i], mEncounterID), true);
+        if (query.RecordsAffected() != 0) continue;
+        if (inserts.empty()) {
+            inserts.resize(groups.size());
+            for (std::size_t later = i; later < groups.size(); ++later)
+                inserts[later] = insertStatement(lists, *groups[later], mEncounterID);
+            mConnection->Announce(std::span(inserts).subspan(i));
+        }
+        run(query, mConnection, inserts[i], true);
     }
 }
 

@@ -24,8 +24,10 @@ Announcements::Item* Announcements::find(std::string_view statement) {
 
 std::vector<Announcements::Item*> Announcements::waitingFrom(const Item& first) {
     std::vector<Item*> waiting;
-    for (std::size_t i = static_cast<std::size_t>(&first - mItems.data()); i < mItems.size(); ++i) {
-        if (!mItems[i].taken && !mItems[i].outcome) waiting.push_back(&mItems[i]);
+    for (Item& item : mItems) {
+        if (item.taken || item.outcome || item.needless) continue;
+        if (&item < &first) return {};
+        waiting.push_back(&item);
     }
     return waiting;
 }

@@ -32,6 +32,7 @@ class Announcements {
         std::string statement;
         bool taken = false;
         bool writes = false;
+        bool needless = false; ///< an Insert beside an Update that has found its row
         std::optional<Outcome> outcome{};
     };
 
@@ -40,7 +41,8 @@ class Announcements {
 
     /// The first of that text that nobody has run yet; null when there is none.
     Item* find(std::string_view statement);
-    /// That one and those behind it that have neither been run nor sent.
+    /// That one and those behind it that have neither been run nor sent. None when another one before them is
+    /// still to be run: nothing overtakes it.
     std::vector<Item*> waitingFrom(const Item& first);
 
     /// Something was written in between: what has been read ahead is out of date.

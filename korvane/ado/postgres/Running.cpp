@@ -197,10 +197,10 @@ Session::requestsFrom(const Announcements::Item& first) {
                 return other.second.shape->table == ready.shape->table;
             };
             // An Insert beside an Update of its table stands in for it where there is no row yet.
-            const bool standsIn =
-                ready.shape->isInsert && (mAnnouncements.updated(ready.shape->table).value_or(0) > 0 ||
-                                          std::any_of(ahead.begin(), ahead.end(), sameTable));
-            if (standsIn)
+            item->needless =
+                ready.shape->isInsert && mAnnouncements.updated(ready.shape->table).value_or(0) > 0;
+            if (item->needless) continue;
+            if (ready.shape->isInsert && std::any_of(ahead.begin(), ahead.end(), sameTable))
                 heldBack = true;
             else
                 ahead.emplace_back(item, std::move(ready));
