@@ -95,12 +95,13 @@ TEST_F(PostgresServer, KeepsEveryTypeOfColumn) {
 
 TEST_F(PostgresServer, FindsNamesHoweverTheyWereSpelled) {
     const auto db = connect();
-    const auto other = connect();
-    for (const char* table : {"Folded (Pulse Integer, \"User\" Integer, \"Problem List\" Integer)",
-                              "[Folded Not] ([Pulse] Integer, [User] Integer, [PROBLEM list] Integer)"}) {
-        other->Execute(std::string("Create Table ") + table);
-    }
-    for (const char* table : {"FOLDED", "[folded]", "[folded not]"}) {
+    const NativeHandle foreign(mSchema->address());
+    foreign.run("create table Folded (Pulse Integer, \"user\" Integer, \"Problem List\" Integer)");
+    foreign.run(
+        "create table \"Folded Not\" (\"Pulse\" Integer, \"User\" Integer, \"PROBLEM list\" Integer)");
+    db->Execute("Create Table [Made Here] ([Pulse] Integer, [USER] Integer, [Problem LIST] Integer)");
+    EXPECT_EQ(foreign.value("select count(pulse)+count(\"Problem LIST\") from \"Made Here\""), "0");
+    for (const char* table : {"FOLDED", "[folded]", "[folded not]", "[made HERE]"}) {
         SCOPED_TRACE(table);
         const std::string name = table;
         EXPECT_EQ(db->Execute("Insert Into " + name + "([pulse],[User],[Problem List])  values (1,'2',3)"),
@@ -114,7 +115,6 @@ TEST_F(PostgresServer, FindsNamesHoweverTheyWereSpelled) {
         db->Execute("Delete From " + name);
     }
     // Two that differ in case only: the one spelled so, else the one that a plain name means.
-    const NativeHandle foreign(mSchema->address());
     foreign.run("create table \"FOLDED\" (Other Integer)");
     const auto fresh = connect();
     EXPECT_EQ(one(fresh, "Select Count(Other) From [FOLDED]"), "0");

@@ -82,6 +82,8 @@ TEST(NipTabs, SaveWhatTheUserDidNotTouchAsItWasLoaded) {
                                   std::string(40000, 'x'),
                                   ""};
     for (const std::string& value : values) {
+        if (value == "\xFF\xFE" && Testing::ScratchDatabase::onServer())
+            continue; // nothing but UTF-8 is kept there
         NipForm form;
         everyTypeTwice(form);
         for (const char* table : {"T2", "T3"})

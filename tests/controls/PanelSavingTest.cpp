@@ -28,19 +28,30 @@ struct Hindrance {
 Hindrance trigger(const char* name, const std::string& when) {
     return {name,
             [when](PanelDesk& desk) {
-                desk.db->quietly("Create Trigger refuse Before " + when +
-                                 " Begin Select Raise(Abort, 'refused'); End");
+                const std::string trigger = "Create Trigger refuse Before " + when;
+                if (!ScratchDatabase::onServer()) {
+                    desk.db->quietly(trigger + " Begin Select Raise(Abort, 'refused'); End");
+                    return;
+                }
+                desk.db->quietly("Create Function refuse() Returns Trigger Language plpgsql "
+                                 "As 'Begin Raise Exception ''refused''; End'");
+                desk.db->quietly(trigger + " For Each Row Execute Function refuse()");
             },
-            [](PanelDesk& desk) { desk.db->quietly("Drop Trigger refuse"); }};
+            [](PanelDesk& desk) {
+                desk.db->quietly(ScratchDatabase::onServer() ? "Drop Function refuse Cascade"
+                                                             : "Drop Trigger refuse");
+            }};
 }
 
 Hindrance lock() {
     auto other = std::make_shared<std::shared_ptr<ado::Connection>>();
-    return {"another writer holds the file",
+    return {"another writer holds what is to be written",
             [other](PanelDesk& desk) {
                 ScratchDatabase::waitBriefly(*desk.db->real());
                 *other = ado::open(desk.address());
                 (*other)->BeginTrans();
+                if (ScratchDatabase::onServer())
+                    (*other)->Execute("Lock Table Encounter, NIP_Custom1 In Exclusive Mode");
             },
             [other](PanelDesk&) { (*other)->RollbackTrans(); }};
 }

@@ -129,8 +129,7 @@ void Definition::column(std::size_t at) {
 void Definition::newColumn(std::size_t at) {
     const Token& name = token(at);
     const std::string plain = sql::plainName(name);
-    const bool isPlain = name.kind == TokenKind::Word;
-    const std::string spelling = isPlain ? lowerCase(plain) : plain;
+    const std::string spelling = name.kind == TokenKind::Word ? lowerCase(plain) : newSpelling(plain);
     mNewNames.emplace(lowerCase(plain), spelling);
     write(at, spelling);
     type(at + 1);
@@ -152,11 +151,12 @@ void Definition::type(std::size_t at) {
     if (!hasLength || takesLength) mChanges.push_back({at, at, std::string(*native)});
 }
 
-// A name whose spelling is not known stays as it is, with the engine's own marks.
+// A name whose spelling is not known is a new one.
 void Definition::write(std::size_t at, const std::string& spelling) {
     const Token& written = token(at);
     if (written.kind == TokenKind::Name)
-        mChanges.push_back({at, at, sql::quotedName(spelling.empty() ? sql::plainName(written) : spelling)});
+        mChanges.push_back(
+            {at, at, sql::quotedName(spelling.empty() ? newSpelling(sql::plainName(written)) : spelling)});
     else if (!spelling.empty() && !isPlainFor(written.text, spelling))
         mChanges.push_back({at, at, sql::quotedName(spelling)});
 }

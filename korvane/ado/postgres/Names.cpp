@@ -120,6 +120,14 @@ bool isReserved(std::string_view lowerCaseWord) {
     return std::binary_search(reserved.begin(), reserved.end(), lowerCaseWord);
 }
 
+std::string newSpelling(std::string_view name) {
+    const std::string lower = lowerCase(name);
+    const auto inWord = [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_'; };
+    const bool isPlain = !lower.empty() && std::all_of(lower.begin(), lower.end(), inWord) &&
+                         (lower.front() < '0' || lower.front() > '9');
+    return isPlain ? lower : std::string(name);
+}
+
 bool isPlainFor(std::string_view written, std::string_view spelling) {
     return lowerCase(written) == spelling && !isReserved(spelling);
 }
