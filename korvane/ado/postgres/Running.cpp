@@ -164,6 +164,7 @@ void Session::sendAnnounced(const Announcements::Item& first) {
     auto ahead = requestsFrom(first);
     if (ahead.size() < 2) return;
     std::vector<Request> requests;
+    requests.reserve(ahead.size());
     for (auto& [item, request] : ahead)
         requests.push_back(std::move(request));
     std::vector<Answer> answers;
@@ -256,6 +257,7 @@ std::vector<Answer> Session::run(std::span<Request> requests) {
         throw error;
     }
     std::vector<Answer> wanted;
+    wanted.reserve(places.size());
     for (const std::size_t place : places)
         wanted.push_back(std::move(answers[place]));
     return wanted;

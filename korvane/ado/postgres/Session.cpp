@@ -114,6 +114,7 @@ void Session::setUp() {
         settings.emplace_back("statement_timeout", std::to_string(mWire->limits().statement.count()));
     }
     std::vector<Command> commands;
+    commands.reserve(settings.size());
     for (const auto& [name, value] : settings)
         commands.push_back({.text = "Select pg_catalog.set_config($1, $2, false)", .values = {name, value}});
     sendAll(commands);

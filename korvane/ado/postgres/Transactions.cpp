@@ -83,6 +83,7 @@ Answer Transactions::run(const std::string& statement) {
     std::vector<std::string> statements = std::exchange(mUnsent, {});
     statements.push_back(statement);
     std::vector<Command> commands;
+    commands.reserve(statements.size());
     for (const std::string& text : statements)
         commands.push_back({.text = text});
     std::vector<Answer> answers = mWire.send(commands);

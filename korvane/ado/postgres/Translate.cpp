@@ -15,7 +15,6 @@ namespace Korvane::ado::postgres {
 
 namespace {
 
-using sql::Clause;
 using sql::Token;
 using sql::TokenKind;
 

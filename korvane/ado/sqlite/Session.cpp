@@ -187,9 +187,9 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
     shape->translation = translate(text, mSchema, addedColumns);
     shape->idle = CompiledStatement(mHandle, shape->translation.text, true);
     if (!shape->idle) throw RuntimeError(RuntimeError::InvalidArgument, "There is no statement to run.");
-    shape->meetsColumns = std::ranges::any_of(
-        shape->translation.parameters,
-        [](const sql::ParameterRule& rule) { return rule.column.has_value(); });
+    shape->meetsColumns =
+        std::ranges::any_of(shape->translation.parameters,
+                            [](const sql::ParameterRule& rule) { return rule.column.has_value(); });
     const sql::Effect effect = sql::effectOf(text);
     shape->countsRows = effect == sql::Effect::Rows;
     shape->changesSchema = effect == sql::Effect::Schema;
