@@ -176,6 +176,22 @@ TEST_F(Announced, AreNotWrittenUnlessTheyAreRun) {
     EXPECT_EQ(load(1), "8 " + times("7 ").substr(2));
 }
 
+TEST_F(Announced, MayBeMoreThanAreKeptPrepared) {
+    postgres::setShapeLimit(*mDb, 3);
+    for (const char* value : {"7", "8"}) {
+        save(1, value);
+        EXPECT_EQ(load(1), times(std::string(value) + " "));
+    }
+    mDb->Execute(update(1, 1, "9")); // takes the last ones along
+    EXPECT_LE(std::stoi(mHandle->value("select count(*) from pg_prepared_statements")), 3);
+    mHandle->run("discard all");
+    mHandle->run(("set search_path to " + mSchema->name()).c_str());
+    EXPECT_EQ(mDb->Execute(update(1, 1, "10")), 1);
+    EXPECT_EQ(one(mDb, select(1, 1)), "10");
+    mDb->Close();
+    EXPECT_EQ(mHandle->value("select count(*) from pg_prepared_statements"), "0");
+}
+
 TEST_F(Announced, AreSentAnewWhereTheTableHasChanged) {
     save(1, "7");
     EXPECT_EQ(load(1), times("7 "));

@@ -134,14 +134,18 @@ Outcome Session::perform(std::string_view statement) {
     if (auto outcome = takeAnnounced(statement)) return std::move(*outcome);
     if (sql::effectOf(statement) != sql::Effect::None) mAnnouncements.dropReads();
     const bool knewSchema = mSchema.isRead();
+    bool nothingPrepared = false;
     try {
         Request once = request(statement);
         return outcomeOf(once, std::move(run({&once, 1}).front()));
     } catch (const RuntimeError& error) {
         const bool isOurs = error.NativeCode() == 0;
         if (State() == 0 || !mayDoBetterAsText(error) || (isOurs && !knewSchema)) throw;
+        nothingPrepared = sqlState(error.NativeCode()) == "26000";
     }
     forgetSchema();
+    // The owner of a lent handle may have discarded what was prepared on it.
+    if (nothingPrepared) mDropped->clear();
     Request once = literalRequest(statement, {});
     return outcomeOf(once, std::move(run({&once, 1}).front()));
 }
@@ -249,6 +253,10 @@ std::vector<Answer> Session::run(std::span<Request> requests) {
     const auto done = static_cast<std::size_t>(failure - answers.begin());
     for (const auto& [place, form] : preparing)
         form->prepared = place < done;
+    // In a batch of many, one may have had to make room for another.
+    for (const Request& request : requests) {
+        if (request.form && request.shape->forgotten) request.shape->drop();
+    }
     if (failure != answers.end()) {
         const RuntimeError error = engineError(failure->get());
         const std::array<Command, 2> undo{Command{.text = "Rollback To Savepoint korvane_guard"},

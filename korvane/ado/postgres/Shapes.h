@@ -8,6 +8,7 @@
 #include <deque>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Korvane::ado::postgres {
@@ -30,11 +31,13 @@ struct Shape {
     std::deque<Form> forms; ///< most often one: it is the values' columns that decide
     std::shared_ptr<std::vector<std::string>> dropped; ///< names that the server may forget
 
+    bool forgotten = false; ///< no longer kept; who still uses it drops it once more
+
     void drop() {
-        for (const Form& form : forms) {
-            if (form.prepared) dropped->push_back(form.name);
+        forgotten = true;
+        for (Form& form : forms) {
+            if (std::exchange(form.prepared, false)) dropped->push_back(form.name);
         }
-        forms.clear();
     }
 };
 
