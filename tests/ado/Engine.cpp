@@ -5,6 +5,21 @@
 
 namespace Korvane::ado::Testing {
 
+std::string Engine::declaration(DataType type, int size) const {
+    switch (type) {
+    case DataType::SmallInt:
+        return "SmallInt";
+    case DataType::Integer:
+        return "Integer";
+    case DataType::Boolean:
+        return "Boolean";
+    case DataType::VarWChar:
+        return "VarChar(" + std::to_string(size) + ")";
+    default:
+        return "Text";
+    }
+}
+
 namespace {
 
 class SqliteEngine : public Engine {
@@ -13,22 +28,14 @@ class SqliteEngine : public Engine {
 
     std::string declaration(DataType type, int size) const override {
         switch (type) {
-        case DataType::SmallInt:
-            return "SmallInt";
-        case DataType::Integer:
-            return "Integer";
         case DataType::Double:
             return "Double";
         case DataType::Currency:
             return "Currency";
         case DataType::Date:
             return "DateTime";
-        case DataType::Boolean:
-            return "Boolean";
-        case DataType::VarWChar:
-            return "VarChar(" + std::to_string(size) + ")";
         default:
-            return "Text";
+            return Engine::declaration(type, size);
         }
     }
 
@@ -42,22 +49,14 @@ class PostgresEngine : public Engine {
 
     std::string declaration(DataType type, int size) const override {
         switch (type) {
-        case DataType::SmallInt:
-            return "SmallInt";
-        case DataType::Integer:
-            return "Integer";
         case DataType::Double:
             return "Double Precision";
         case DataType::Currency:
             return "Numeric(19,4)";
         case DataType::Date:
             return "Timestamp";
-        case DataType::Boolean:
-            return "Boolean";
-        case DataType::VarWChar:
-            return "VarChar(" + std::to_string(size) + ")";
         default:
-            return "Text";
+            return Engine::declaration(type, size);
         }
     }
 

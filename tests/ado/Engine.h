@@ -23,8 +23,8 @@ class Engine {
     /// A connection to the engine's test database, which is empty at first. Every call opens another one.
     virtual std::shared_ptr<Connection> connect() = 0;
 
-    /// How a column of that type is declared.
-    virtual std::string declaration(DataType type, int size = 0) const = 0;
+    /// How a column of that type is declared; here what every engine takes.
+    virtual std::string declaration(DataType type, int size = 0) const;
 
     /// Whether a text may hold bytes that are no UTF-8; otherwise they are refused.
     virtual bool keepsAnyBytes() const { return true; }
