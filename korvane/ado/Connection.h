@@ -10,6 +10,8 @@
 
 namespace Korvane::ado {
 
+class CatalogDialect;
+
 /// What a transaction is for: reading sees one snapshot and takes no write lock, writing takes the lock at
 /// once, so that a read followed by a write cannot lose against another writer half-way.
 enum class TransactionFor { Reading, Writing };
@@ -65,6 +67,11 @@ class Connection : public std::enable_shared_from_this<Connection> {
     /// Opens a result for a `Recordset`. A statement that returns no rows gives null.
     virtual std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
                                                LockType lockType) = 0;
+
+    /// For a `Catalog`: runs a statement in the engine's own words, as it stands, and opens its result to be
+    /// read once; null when it returns no rows. The schema may change with it.
+    virtual std::unique_ptr<Cursor> openNative(std::string_view statement) = 0;
+    virtual const CatalogDialect& catalogDialect() const = 0;
 
   protected:
     Connection() = default;

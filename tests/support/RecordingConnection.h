@@ -52,6 +52,11 @@ class RecordingConnection : public ado::Connection {
         note(statement);
         return mReal->openCursor(statement, cursorType, lockType);
     }
+    std::unique_ptr<ado::Cursor> openNative(std::string_view statement) override {
+        note(statement);
+        return mReal->openNative(statement);
+    }
+    const ado::CatalogDialect& catalogDialect() const override { return mReal->catalogDialect(); }
 
   private:
     void note(std::string_view statement) {

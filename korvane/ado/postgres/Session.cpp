@@ -158,6 +158,17 @@ std::unique_ptr<Cursor> Session::openCursor(std::string_view statement, CursorTy
     return cursorOn(perform(statement), cursorType, lockType);
 }
 
+std::unique_ptr<Cursor> Session::openNative(std::string_view statement) {
+    requireReady(statement);
+    Request once;
+    once.shape = std::make_shared<Shape>();
+    once.shape->effect = sql::effectOf(statement);
+    once.command.text = statement;
+    if (once.shape->effect != sql::Effect::None) mAnnouncements.dropReads();
+    return cursorOn(outcomeOf(once, std::move(run({&once, 1}).front())), CursorType::ForwardOnly,
+                    LockType::ReadOnly);
+}
+
 std::unique_ptr<Cursor> Session::cursorOn(Outcome outcome, CursorType cursorType, LockType lockType) {
     if (!outcome.columns) return nullptr;
     auto cursor = std::make_unique<ResultCursor>(*this, std::move(outcome.rows), std::move(outcome.columns),

@@ -2,6 +2,7 @@
 
 #include <korvane/ado/Connection.h>
 #include <korvane/ado/postgres/Announcements.h>
+#include <korvane/ado/postgres/CatalogDialect.h>
 #include <korvane/ado/postgres/Schema.h>
 #include <korvane/ado/postgres/Shapes.h>
 #include <korvane/ado/postgres/Transactions.h>
@@ -39,6 +40,8 @@ class Session final : public Connection {
     void Close() override;
     std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
                                        LockType lockType) override;
+    std::unique_ptr<Cursor> openNative(std::string_view statement) override;
+    const ado::CatalogDialect& catalogDialect() const override { return mCatalogDialect; }
 
     void limits(const Limits& limits);
     /// How many shapes of statements are kept prepared.
@@ -83,6 +86,7 @@ class Session final : public Connection {
 
     std::unique_ptr<Wire> mWire;
     bool mOpen = true;
+    CatalogDialect mCatalogDialect;
     Schema mSchema;
     bool mSchemaTouched = false; ///< in the transaction that is open
     Transactions mTransactions;

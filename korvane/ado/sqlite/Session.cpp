@@ -275,6 +275,15 @@ std::unique_ptr<ResultCursor> Session::open(Lease& lease) {
     return cursor;
 }
 
+std::unique_ptr<Cursor> Session::openNative(std::string_view statement) {
+    requireReady(statement);
+    auto shape = std::make_shared<Shape>();
+    shape->changesSchema = sql::effectOf(statement) == sql::Effect::Schema;
+    shape->forgotten = true;
+    Lease lease{std::move(shape), CompiledStatement(mHandle, statement)};
+    return open(lease);
+}
+
 std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType lockType) {
     Writeback writeback;
     std::string keyColumns;

@@ -2,6 +2,7 @@
 
 #include <korvane/ado/Connection.h>
 #include <korvane/ado/sql/Lift.h>
+#include <korvane/ado/sqlite/CatalogDialect.h>
 #include <korvane/ado/sqlite/Schema.h>
 #include <korvane/ado/sqlite/Shapes.h>
 #include <korvane/ado/sqlite/Transactions.h>
@@ -35,6 +36,8 @@ class Session final : public Connection {
     void Close() override;
     std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
                                        LockType lockType) override;
+    std::unique_ptr<Cursor> openNative(std::string_view statement) override;
+    const ado::CatalogDialect& catalogDialect() const override { return mCatalogDialect; }
 
     /// The handle, for as long as the connection is open. ObjectClosed behind that.
     sqlite3* handle() const;
@@ -67,6 +70,7 @@ class Session final : public Connection {
 
     sqlite3* mHandle;
     bool mOwned;
+    CatalogDialect mCatalogDialect;
     Schema mSchema;
     Transactions mTransactions;
     Shapes mShapes;
