@@ -1,21 +1,22 @@
 #include "BareSqlite.h"
 
 #include <stdexcept>
+#include <string_view>
 
 namespace Korvane::Bench {
 
-void KeptCells::keepRow(sqlite3_stmt* statement) {
+void BareSqlite::keepRow(sqlite3_stmt* statement, KeptCells& cells) {
     const int columns = sqlite3_column_count(statement);
-    if (mCells.size() < mUsed + static_cast<std::size_t>(columns))
-        mCells.resize(mUsed + static_cast<std::size_t>(columns));
+    cells.expect(columns);
     for (int i = 0; i < columns; ++i) {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
-        mCells[mUsed++].assign(text ? text : "",
-                               static_cast<std::size_t>(sqlite3_column_bytes(statement, i)));
+        const auto length = static_cast<std::size_t>(sqlite3_column_bytes(statement, i));
+        cells.keep({text ? text : "", length});
     }
 }
 
-BareSqlite::BareSqlite(const std::string& path) {
+BareSqlite::BareSqlite(const std::string& address) {
+    const std::string path = address.substr(std::string_view("sqlite:").size());
     sqlite3* handle = nullptr;
     const int code =
         sqlite3_open_v2(path.c_str(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
@@ -54,7 +55,7 @@ void BareSqlite::runPrepared(const BareStatement& statement, int parameter, Kept
 void BareSqlite::stepAll(sqlite3_stmt* statement, KeptCells& cells) const {
     int code = SQLITE_ROW;
     while ((code = sqlite3_step(statement)) == SQLITE_ROW)
-        cells.keepRow(statement);
+        keepRow(statement, cells);
     if (code != SQLITE_DONE) fail();
 }
 

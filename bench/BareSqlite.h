@@ -1,10 +1,11 @@
 #pragma once
 
+#include "KeptCells.h"
+
 #include <sqlite3.h>
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace Korvane::Bench {
 
@@ -16,23 +17,16 @@ struct FinalizeStatement {
 };
 using BareStatement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
-/// The texts of a result, kept from one run to the next, so that a copy needs no memory of its own.
-class KeptCells {
-  public:
-    void rewind() { mUsed = 0; }
-    void keepRow(sqlite3_stmt* statement);
-    std::size_t used() const { return mUsed; }
-
-  private:
-    std::vector<std::string> mCells;
-    std::size_t mUsed = 0;
-};
-
 /// The sqlite3 library as a careful program uses it without another one: the pragmas of our own connections,
 /// each failure an exception.
 class BareSqlite {
   public:
-    explicit BareSqlite(const std::string& path);
+    static constexpr const char* beginning = "Begin Immediate";
+    /// A statement as this engine takes it.
+    static std::string ownWords(std::string statement) { return statement; }
+
+    /// The address is as the library takes it.
+    explicit BareSqlite(const std::string& address);
 
     sqlite3* handle() const { return mHandle.get(); }
     BareStatement prepare(const std::string& statement) const;
@@ -46,6 +40,7 @@ class BareSqlite {
     void runPrepared(const BareStatement& statement, int parameter, KeptCells& cells) const;
 
   private:
+    static void keepRow(sqlite3_stmt* statement, KeptCells& cells);
     void stepAll(sqlite3_stmt* statement, KeptCells& cells) const;
     [[noreturn]] void fail() const;
 

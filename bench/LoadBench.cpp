@@ -1,12 +1,12 @@
+#include "BarePostgres.h"
 #include "BareSqlite.h"
 #include "Benches.h"
+#include "Measure.h"
 #include "SyntheticClinic.h"
 #include "SyntheticNip.h"
 
 #include <korvane/ado/Connection.h>
 #include <korvane/nip/cNIP.h>
-
-#include <benchmark/benchmark.h>
 
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -16,12 +16,17 @@ namespace Korvane::Bench {
 
 namespace {
 
-void ours(benchmark::State& state, Size size) {
-    const auto db = ado::open("sqlite:" + databaseOf(size));
+void ours(benchmark::State& state, Place place, Size size) {
+    const auto db = ado::open(databaseOf(place, size));
     cNIP nip;
     nip.LoadStructure(db);
-    for (auto _ : state)
+    Trips trips(place);
+    for (auto _ : state) {
+        trips.begin();
         if (!nip.Load(someEncounter(), "P-0001", false)) return state.SkipWithError("not loaded");
+        trips.end();
+    }
+    trips.report(state);
     if (nip.value(1, 1).text().empty()) state.SkipWithError("nothing loaded");
 }
 
@@ -35,20 +40,25 @@ std::vector<std::string> statementsUpToTheKey(const Size& size) {
     return statements;
 }
 
-void literal(benchmark::State& state, Size size) {
-    const BareSqlite db(databaseOf(size));
+template <typename Bare>
+void literal(benchmark::State& state, Place place, Size size) {
+    const Bare db(databaseOf(place, size));
     const std::vector<std::string> statements = statementsUpToTheKey(size);
     KeptCells cells;
+    Trips trips(place);
     for (auto _ : state) {
         cells.rewind();
+        trips.begin();
         const std::string key = std::to_string(someEncounter());
         for (const std::string& statement : statements)
             db.run(statement + key, cells);
+        trips.end();
     }
+    trips.report(state);
 }
 
-void prepared(benchmark::State& state, Size size) {
-    const BareSqlite db(databaseOf(size));
+void prepared(benchmark::State& state, Place place, Size size) {
+    const BareSqlite db(databaseOf(place, size));
     std::vector<BareStatement> compiled;
     for (const std::string& statement : statementsUpToTheKey(size))
         compiled.push_back(db.prepare(statement + "?"));
@@ -61,11 +71,11 @@ void prepared(benchmark::State& state, Size size) {
     }
 }
 
-void qtSql(benchmark::State& state, Size size) {
+void qtSql(benchmark::State& state, Place place, Size size) {
     const QString name = QStringLiteral("bench");
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-        db.setDatabaseName(QString::fromStdString(databaseOf(size)));
+        db.setDatabaseName(QString::fromStdString(databaseOf(place, size)).section(QLatin1Char(':'), 1));
         if (!db.open()) return state.SkipWithError("not opened");
         const std::vector<std::string> statements = statementsUpToTheKey(size);
         std::vector<QString> cells(static_cast<std::size_t>(size.groups * size.fields));
@@ -87,13 +97,16 @@ void qtSql(benchmark::State& state, Size size) {
 } // namespace
 
 void registerLoad() {
-    for (const Size size : sizes) {
-        const std::string work = "Load/" + size.name();
-        benchmark::RegisterBenchmark((work + "/korvane").c_str(), ours, size);
-        benchmark::RegisterBenchmark((work + "/literal").c_str(), literal, size);
-        benchmark::RegisterBenchmark((work + "/prepared").c_str(), prepared, size);
-        benchmark::RegisterBenchmark((work + "/QtSql").c_str(), qtSql, size);
-    }
+    forEachDatabase([](const Place& place, const Size& size) {
+        measure("Load", place, size, "korvane", ours);
+        if (place.onServer) {
+            measure("Load", place, size, "libpq", literal<BarePostgres>);
+            return;
+        }
+        measure("Load", place, size, "literal", literal<BareSqlite>);
+        measure("Load", place, size, "prepared", prepared);
+        measure("Load", place, size, "QtSql", qtSql);
+    });
 }
 
 } // namespace Korvane::Bench

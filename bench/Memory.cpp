@@ -29,7 +29,7 @@ double formMemory(Maker maker, const Size& size) {
     child.start(QCoreApplication::applicationFilePath(),
                 {QString::fromLatin1(option), QString::number(static_cast<int>(maker)),
                  QString::number(size.groups), QString::number(size.fields),
-                 QString::fromStdString(databaseOf(size))});
+                 QString::fromStdString(databaseOf(file, size))});
     constexpr int patience = 120'000;
     if (!child.waitForFinished(patience)) return 0;
     return child.readAllStandardOutput().toDouble() / (1024 * 1024);

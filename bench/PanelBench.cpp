@@ -10,7 +10,7 @@ namespace Korvane::Bench {
 namespace {
 
 void time(benchmark::State& state, Size size, Maker by) {
-    FormMaker maker(by, size, databaseOf(size));
+    FormMaker maker(by, size, databaseOf(file, size));
     for (auto _ : state) {
         auto form = maker.show();
         state.PauseTiming();

@@ -13,11 +13,17 @@ std::string fullName(const std::string& work, const std::string& size, const std
     return work + "/" + size + "/" + by;
 }
 
-// "12.3 ms", "850 us"; a memory's figure stands for MiB.
+bool countsTrips(const std::string& work) {
+    return work.find("Trips") != std::string::npos;
+}
+
+// "12.3 ms", "850 us"; a memory's figure stands for MiB, that of trips for their number.
 std::string amount(const std::string& work, double value) {
     char text[32];
     if (work.ends_with("Memory"))
         std::snprintf(text, sizeof text, "%.2f MiB", value);
+    else if (countsTrips(work))
+        std::snprintf(text, sizeof text, "%.0f", value);
     else if (value >= 1e-3)
         std::snprintf(text, sizeof text, "%.2f ms", value * 1e3);
     else
@@ -49,9 +55,17 @@ void RatioTable::ReportRuns(const std::vector<Run>& runs) {
             std::fprintf(stderr, "%s: %s\n", name.c_str(), run.error_message.c_str());
             continue;
         }
-        mFigures[name].push_back(figureOf(run));
-        remember(name);
+        add(name, figureOf(run));
+        const auto trips = run.counters.find("trips");
+        if (trips == run.counters.end()) continue;
+        std::string counted = name;
+        add(counted.insert(name.find_first_of("@/"), "Trips"), trips->second.value);
     }
+}
+
+void RatioTable::add(const std::string& name, double figure) {
+    mFigures[name].push_back(figure);
+    remember(name);
 }
 
 void RatioTable::remember(const std::string& name) {
@@ -81,10 +95,13 @@ void RatioTable::printRow(const Work& work, const std::string& other) const {
     const double theirs = median(work.name, work.size, other);
     if (ours <= 0 || theirs <= 0) return;
     const double ratio = ours / theirs;
-    std::printf("%-14s %-7s %-10s %11s %11s %8.3f", work.name.c_str(), work.size.c_str(), other.c_str(),
+    std::printf("%-23s %-7s %-9s %11s %11s %8.3f", work.name.c_str(), work.size.c_str(), other.c_str(),
                 amount(work.name, ours).c_str(), amount(work.name, theirs).c_str(), ratio);
-    if (const auto limit = goal(work.name, work.size, other))
-        std::printf("   %5.2f  %s", *limit, ratio <= *limit ? "reached" : "MISSED");
+    const auto verdict = [](bool reached) { return reached ? "reached" : "MISSED"; };
+    if (const auto most = goal(work.name, work.size, other))
+        std::printf("   %5.2f  %s", *most, verdict(ratio <= *most));
+    if (const auto most = amountGoal(work.name, work.size))
+        std::printf("   at most %s  %s", amount(work.name, *most).c_str(), verdict(ours <= *most));
     std::printf("\n");
 }
 
@@ -92,7 +109,7 @@ void RatioTable::Finalize() {
     std::sort(mWorks.begin(), mWorks.end(), [](const Work& a, const Work& b) {
         return std::pair(a.name, a.size.size()) < std::pair(b.name, b.size.size());
     });
-    std::printf("\n%-14s %-7s %-10s %11s %11s %8s   %5s\n", "work", "size", "beside", "korvane", "beside",
+    std::printf("\n%-23s %-7s %-9s %11s %11s %8s   %5s\n", "work", "size", "beside", "korvane", "beside",
                 "ratio", "goal");
     for (Work& work : mWorks) {
         std::sort(work.others.begin(), work.others.end());

@@ -23,6 +23,7 @@ class RatioTable : public benchmark::BenchmarkReporter {
         std::vector<std::string> others;
     };
 
+    void add(const std::string& name, double figure);
     void remember(const std::string& name);
     void printRow(const Work& work, const std::string& other) const;
     double median(const std::string& work, const std::string& size, const std::string& by) const;

@@ -31,8 +31,8 @@ std::unique_ptr<QWidget> nipPanel(const std::shared_ptr<ado::Connection>& connec
 
 } // namespace
 
-FormMaker::FormMaker(Maker maker, const Size& size, const std::string& database)
-    : mMaker(maker), mSize(size), mConnection(ado::open("sqlite:" + database)) {
+FormMaker::FormMaker(Maker maker, const Size& size, const std::string& address)
+    : mMaker(maker), mSize(size), mConnection(ado::open(address)) {
     if (mMaker == Maker::Tabs) require(mNip.LoadStructure(mConnection) && mNip.Load(1, "P-0001", false));
 }
 

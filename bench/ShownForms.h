@@ -23,7 +23,7 @@ enum class Maker {
 class FormMaker {
   public:
     /// Gets ready what the form is made from.
-    FormMaker(Maker maker, const Size& size, const std::string& database);
+    FormMaker(Maker maker, const Size& size, const std::string& address);
 
     std::unique_ptr<QWidget> show();
 

@@ -1,42 +1,55 @@
+#include "BarePostgres.h"
 #include "BareSqlite.h"
 #include "Benches.h"
+#include "Measure.h"
 #include "SyntheticClinic.h"
 #include "SyntheticNip.h"
 
 #include <korvane/ado/Connection.h>
 #include <korvane/nip/cNIP.h>
 
-#include <benchmark/benchmark.h>
-
 namespace Korvane::Bench {
 
 namespace {
 
-void ours(benchmark::State& state, Size size) {
-    const auto db = ado::open("sqlite:" + databaseOf(size));
+void ours(benchmark::State& state, Place place, Size size) {
+    const auto db = ado::open(databaseOf(place, size));
     cNIP nip;
-    for (auto _ : state)
+    Trips trips(place);
+    for (auto _ : state) {
+        trips.begin();
         if (!nip.LoadStructure(db) || nip.GroupCount() != size.groups)
             return state.SkipWithError("not loaded");
+        trips.end();
+    }
+    trips.report(state);
 }
 
-void literal(benchmark::State& state, Size size) {
-    const BareSqlite db(databaseOf(size));
+template <typename Bare>
+void literal(benchmark::State& state, Place place, Size size) {
+    const Bare db(databaseOf(place, size));
     KeptCells cells;
+    Trips trips(place);
     for (auto _ : state) {
         cells.rewind();
+        trips.begin();
         for (const std::string& statement : structureStatements())
             db.run(statement, cells);
+        trips.end();
     }
+    trips.report(state);
 }
 
 } // namespace
 
 void registerStructure() {
-    for (const Size size : sizes) {
-        benchmark::RegisterBenchmark(("LoadStructure/" + size.name() + "/korvane").c_str(), ours, size);
-        benchmark::RegisterBenchmark(("LoadStructure/" + size.name() + "/literal").c_str(), literal, size);
-    }
+    forEachDatabase([](const Place& place, const Size& size) {
+        measure("LoadStructure", place, size, "korvane", ours);
+        if (place.onServer)
+            measure("LoadStructure", place, size, "libpq", literal<BarePostgres>);
+        else
+            measure("LoadStructure", place, size, "literal", literal<BareSqlite>);
+    });
 }
 
 } // namespace Korvane::Bench

@@ -1,10 +1,13 @@
 #include "SyntheticClinic.h"
 
+#include "BarePostgres.h"
 #include "BareSqlite.h"
 #include "SyntheticNip.h"
+#include "SyntheticRows.h"
 
 #include <korvane/ado/Connection.h>
-#include <korvane/data/Tables.h>
+#include <korvane/ado/Recordset.h>
+#include <korvane/ado/postgres/PostgresConnection.h>
 
 #include <fcntl.h>
 #include <stdlib.h>
@@ -13,8 +16,8 @@
 #include <filesystem>
 #include <iostream>
 #include <map>
+#include <set>
 #include <stdexcept>
-#include <vector>
 
 namespace Korvane::Bench {
 
@@ -49,64 +52,6 @@ class Directory {
     bool mRemove = false;
 };
 
-std::string literalText(std::string_view text) {
-    return "'" + std::string(text) + "'";
-}
-
-void writeField(const BareSqlite& db, const Size& size, int group, int field) {
-    const std::string id = std::to_string((group - 1) * size.fields + field);
-    const std::string owner = std::to_string(group + 1);
-    db.run("Insert Into DBFields "
-           "(ID,Code,FieldName,FieldCaption,DBFieldGroupID,MaxLength,dataType,DisplayType,Indexed,"
-           "Required,Ordinal,InitialValueRuleID) Values (" +
-           id + ",1," + literalText(fieldName(field)) + "," + literalText("Caption of field " + id) + "," +
-           owner + ",255,'dbText'," + literalText(displayType(group, field)) + ",0,0," +
-           std::to_string(field) + ",0)");
-    int ordinal = 0;
-    for (const std::string& value : allowedValues(group, field))
-        db.run(
-            "Insert Into DBFieldValues (FieldValue,DefaultValue,FieldName,DBFieldGroupID,Ordinal) Values (" +
-            literalText(value) + ",0," + literalText(fieldName(field)) + "," + owner + "," +
-            std::to_string(++ordinal) + ")");
-}
-
-// Doubles what is there until it is enough: faster than any number of inserts.
-void multiplyRows(const BareSqlite& db, const std::string& table, const std::string& columns, int present) {
-    for (; present < storedEncounters; present *= 2) {
-        const std::string offset = std::to_string(present);
-        db.run("Insert Into " + table + " Select EncounterID+" + offset + "," + columns + " From " + table +
-               " Where EncounterID<=" + std::to_string(storedEncounters - present));
-    }
-}
-
-void writeGroup(const BareSqlite& db, const Size& size, int group) {
-    constexpr int distinctRows = 16;
-    const std::string table = tableName(group);
-    db.run("Insert Into DBFieldGroups (DBFieldGroupID,GroupName,TableName,Ordinal) Values (" +
-           std::to_string(group + 1) + "," + literalText("Group " + std::to_string(group)) + "," +
-           literalText(table) + "," + std::to_string(group) + ")");
-    std::string declarations = "EncounterID INTEGER PRIMARY KEY";
-    std::string columns;
-    for (int field = 1; field <= size.fields; ++field) {
-        writeField(db, size, group, field);
-        declarations += "," + fieldName(field) + " VARCHAR(255)";
-        columns += (field == 1 ? "" : ",") + fieldName(field);
-    }
-    db.run("Create Table " + table + " (" + declarations + ")");
-    for (int encounter = 1; encounter <= distinctRows; ++encounter)
-        db.run(insertStatement(size, group, encounter, encounter));
-    multiplyRows(db, table, columns, distinctRows);
-}
-
-void writeEncounters(const BareSqlite& db) {
-    db.run("Insert Into Encounter Values (1,1,'P-0001',1,0,0,'2026-11-15 17:21:51',1,'Visit',0)");
-    multiplyRows(db, "Encounter",
-                 "EncounterMethodID,PatientID,ProviderID,ForeignProviderID,LocationID,EncounterDate,Outgoing,"
-                 "Description,Transport",
-                 1);
-    db.run("Insert Into Provider Values (1,'Physician','Anna','Köhler','MD')");
-}
-
 // Until all of it is on the disk, every save that is measured would wait for it.
 void flush(const std::string& path) {
     const int file = ::open(path.c_str(), O_RDWR);
@@ -114,53 +59,69 @@ void flush(const std::string& path) {
     ::close(file);
 }
 
-void make(const std::string& path, const Size& size) {
+void makeFile(const std::string& path, const Size& size) {
     std::cerr << "making " << path << " ..." << std::endl;
-    installTables(*ado::open("sqlite:" + path));
-    const BareSqlite db(path);
-    db.run("Pragma synchronous=off");
-    db.run("Begin");
-    for (int group = 1; group <= size.groups; ++group)
-        writeGroup(db, size, group);
-    writeEncounters(db);
-    db.run("Commit");
-    db.run("Pragma wal_checkpoint(truncate)");
-    db.run("Analyze");
+    const std::string address = "sqlite:" + path;
+    const BareSqlite open(address);
+    const auto db = ado::open(address);
+    db->Execute("Pragma synchronous=off");
+    writeRows(*db, size);
+    db->Close();
+    open.run("Pragma wal_checkpoint(truncate)");
+    open.run("Analyze");
     flush(path);
+}
+
+std::string fileOf(const Size& size) {
+    static const Directory directory;
+    // While one connection stays, the write-ahead log does too: as on any day in a clinic, no run begins with
+    // making a new one.
+    static std::map<std::string, BareSqlite> open;
+    const fs::path path = directory.path() / (size.name() + ".db");
+    const std::string address = "sqlite:" + path.string();
+    if (open.contains(address)) return address;
+    if (!fs::exists(path)) {
+        const fs::path unfinished = path.string() + ".new";
+        fs::remove(unfinished);
+        makeFile(unfinished, size);
+        fs::rename(unfinished, path);
+    }
+    open.try_emplace(address, address);
+    return address;
+}
+
+// The server goes away as a whole, and with it what is made here.
+void makeOnServer(const std::string& name, const Size& size) {
+    const Place near = serverPlaces.front();
+    BarePostgres(serverAddress(near, "postgres")).run("Create Database " + name);
+    std::cerr << "making " << name << " on the server ..." << std::endl;
+    const std::string address = serverAddress(near, name);
+    ado::postgres::Limits patient;
+    patient.statement = std::chrono::minutes(10);
+    writeRows(*ado::postgres::open(address, patient), size);
+    const BarePostgres bare(address);
+    bare.run("Vacuum Analyze");
+    bare.run("Checkpoint");
 }
 
 } // namespace
 
-const std::string& databaseOf(const Size& size) {
-    static const Directory directory;
-    static std::map<std::string, std::string> made;
-    // While one connection stays, the write-ahead log does too: as on any day in a clinic, no run begins with
-    // making a new one.
-    static std::vector<BareSqlite> open;
-    std::string& path = made[size.name()];
-    if (path.empty()) {
-        const fs::path file = directory.path() / (size.name() + ".db");
-        if (!fs::exists(file)) {
-            const fs::path unfinished = file.string() + ".new";
-            fs::remove(unfinished);
-            make(unfinished, size);
-            fs::rename(unfinished, file);
-        }
-        path = file;
-        open.emplace_back(path);
-    }
-    return path;
+std::string databaseOf(const Place& place, const Size& size) {
+    if (!place.onServer) return fileOf(size);
+    static std::set<std::string> made;
+    const std::string name = "bench" + size.name();
+    if (made.insert(name).second) makeOnServer(name, size);
+    return serverAddress(place, name);
 }
 
-int freshEncounter(const Size& size) {
+int freshEncounter(const Place& place, const Size& size) {
     static std::map<std::string, int> last;
-    int& id = last[size.name()];
+    int& id = last[(place.onServer ? "server " : "") + size.name()];
     if (id == 0) {
-        KeptCells cells;
-        const BareSqlite db(databaseOf(size));
-        const auto query = db.prepare("Select Max(EncounterID) From " + tableName(1));
-        sqlite3_step(query.get());
-        id = sqlite3_column_int(query.get(), 0);
+        const auto query = ado::Recordset::create();
+        query->Open("Select Max(EncounterID) As MaxID From " + tableName(1),
+                    ado::open(databaseOf(place, size)));
+        id = query->Value("MaxID").toInt32();
     }
     return ++id;
 }

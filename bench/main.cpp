@@ -1,11 +1,13 @@
 #include "Benches.h"
 #include "Memory.h"
+#include "Place.h"
 #include "RatioTable.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 
+#include <cstdio>
 #include <vector>
 
 // Repetitions of all benchmarks are interleaved, so that noise hits both sides of a ratio alike.
@@ -28,5 +30,7 @@ int main(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
     Korvane::Bench::RatioTable table;
     benchmark::RunSpecifiedBenchmarks(&table);
+    if (!Korvane::Bench::hasServer())
+        std::puts("on a server      skipped: there is none (tools/with-postgres)");
     return 0;
 }
