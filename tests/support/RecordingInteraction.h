@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,6 +20,9 @@ struct ShownBox {
     int style = 0;
     std::string title;
     bool operator==(const ShownBox&) const = default;
+    friend void PrintTo(const ShownBox& box, std::ostream* out) {
+        *out << '"' << box.text << "\" (" << box.style << ", \"" << box.title << "\")";
+    }
 };
 
 /// An input box that was shown.

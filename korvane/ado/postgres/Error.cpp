@@ -6,6 +6,8 @@
 
 #include <array>
 #include <charconv>
+#include <regex>
+#include <utility>
 
 namespace Korvane::ado::postgres {
 
@@ -34,6 +36,8 @@ constexpr std::array reports{
            "a text holds a character that the database's encoding does not have"},
     Report{"25006", RuntimeError::PermissionDenied, "the database, or this transaction, is read-only"},
     Report{"25P02", RuntimeError::DatabaseFailure, "an earlier statement of the transaction has failed"},
+    Report{"28000", RuntimeError::PermissionDenied,
+           "check the user's name; the server may also let that user in from certain machines only"},
     Report{"28", RuntimeError::PermissionDenied, "check the user's name and password"},
     Report{"3D000", RuntimeError::FileNotFound, "check the database's name in the address"},
     Report{"40", RuntimeError::DatabaseFailure, "another program was changing the same rows; try again"},
@@ -56,6 +60,13 @@ const Report* reportFor(std::string_view state) {
         if (state.starts_with(report.state)) return &report;
     }
     return nullptr;
+}
+
+RuntimeError reported(std::string message, std::string_view state) {
+    const Report* report = reportFor(state);
+    if (report && report->advice) message += std::string(" (") + report->advice + ")";
+    if (!state.empty()) message += " [" + std::string(state) + "]";
+    return {report ? report->number : RuntimeError::DatabaseFailure, message, nativeCode(state)};
 }
 
 std::string_view withoutLineEnd(std::string_view text) {
@@ -84,11 +95,7 @@ RuntimeError engineError(const pg_result* result) {
     const char* field = PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY);
     std::string message(withoutLineEnd(field ? field : PQresultErrorMessage(result)));
     const char* code = PQresultErrorField(result, PG_DIAG_SQLSTATE);
-    const std::string_view state = code ? code : "";
-    const Report* report = reportFor(state);
-    if (report && report->advice) message += std::string(" (") + report->advice + ")";
-    if (!state.empty()) message += " [" + std::string(state) + "]";
-    return {report ? report->number : RuntimeError::DatabaseFailure, message, nativeCode(state)};
+    return reported(std::move(message), code ? code : "");
 }
 
 RuntimeError connectionError(const pg_conn* handle, std::string_view what) {
@@ -99,6 +106,25 @@ RuntimeError connectionError(const pg_conn* handle, std::string_view what) {
         message += c == '\n' || c == '\t' ? ' ' : c;
     constexpr std::string_view connectionFailure = "08006";
     return {RuntimeError::DatabaseFailure, message, nativeCode(connectionFailure)};
+}
+
+// Of a refusal the client library keeps the text only. At its most talkative it begins with the code,
+// whatever the server's language: "FATAL:  28P01: password authentication failed".
+RuntimeError refusalError(const pg_conn* handle) {
+    const std::string said = PQerrorMessage(handle);
+    static const std::regex coded(":  ([0-9A-Z]{5}): ([^\n]*)");
+    std::smatch last;
+    for (auto found = std::sregex_iterator(said.begin(), said.end(), coded); found != std::sregex_iterator();
+         ++found)
+        last = *found;
+    if (!last.empty())
+        return reported("The database server refused the connection: " + last.str(2), last.str(1));
+    if (PQconnectionNeedsPassword(handle) != 0) {
+        return reported("The database server asks for a password, and there is none in the address, in "
+                        "PGPASSWORD or in the password file.",
+                        "28P01");
+    }
+    return connectionError(handle, "The database server could not be reached");
 }
 
 } // namespace Korvane::ado::postgres

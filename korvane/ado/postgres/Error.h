@@ -22,4 +22,8 @@ RuntimeError engineError(const pg_result* result);
 /// The connection is gone, or could not be made: what the client library says about it.
 RuntimeError connectionError(const pg_conn* handle, std::string_view what);
 
+/// Why a connection could not be made: what the server said, as of any other failure, when it was reached.
+/// The handle has to be at its most talkative (PQERRORS_VERBOSE).
+RuntimeError refusalError(const pg_conn* handle);
+
 } // namespace Korvane::ado::postgres

@@ -43,6 +43,26 @@ std::string takeStatementTimeout(std::string_view address, Limits& limits) {
     return rest;
 }
 
+// The client library quotes what it does not understand, and that may be a piece of the password.
+void requireUnderstood(const std::string& address) {
+    char* said = nullptr;
+    PQconninfoOption* const options = PQconninfoParse(address.c_str(), &said);
+    PQfreemem(said);
+    bool good = options != nullptr;
+    for (const PQconninfoOption* option = options; option && option->keyword; ++option) {
+        const std::string_view keyword = option->keyword;
+        const std::string_view value = option->val ? option->val : "";
+        if (keyword == "host" && value.find('@') != std::string_view::npos) good = false;
+        if (keyword == "port" && value.find_first_not_of("0123456789,") != std::string_view::npos)
+            good = false;
+    }
+    PQconninfoFree(options);
+    if (good) return;
+    refuse(
+        "The database address is not understood. It reads postgresql://user@host:port/database; in a name or "
+        "a password a character such as @ : / ? is written as % and its two hexadecimal digits (%40 for @).");
+}
+
 Session& sessionOf(Connection& connection) {
     auto* session = dynamic_cast<Session*>(&connection);
     if (!session) refuse("The connection is not one to a PostgreSQL database.");
@@ -55,6 +75,7 @@ std::shared_ptr<Connection> open(std::string_view address, const Limits& limits)
     if (address.find('\0') != std::string_view::npos) refuse("The database address holds the character NUL.");
     Limits own = limits;
     const std::string rest = takeStatementTimeout(address, own);
+    requireUnderstood(rest);
     return std::make_shared<Session>(std::make_unique<Wire>(rest, own));
 }
 

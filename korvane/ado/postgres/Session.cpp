@@ -110,9 +110,9 @@ void Session::setUp() {
         mFormerSettings.emplace_back("client_encoding", encoding);
         for (const auto& [name, value] : settings)
             mFormerSettings.emplace_back(name, mWire->parameter(name.c_str()));
-    } else {
-        settings.emplace_back("statement_timeout", std::to_string(mWire->limits().statement.count()));
     }
+    const auto limit = mWire->limits().statement.count();
+    if (!mWire->isLent() || limit > 0) settings.emplace_back("statement_timeout", std::to_string(limit));
     std::vector<Command> commands;
     commands.reserve(settings.size());
     for (const auto& [name, value] : settings)
@@ -131,8 +131,9 @@ void Session::restoreSettings() {
 }
 
 void Session::limits(const Limits& limits) {
-    requireOpen();
+    if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
     mWire->limits(limits);
+    if (!mWire->isUp()) return; // told to the server by `Reset`
     const Command command{.text = "Select pg_catalog.set_config('statement_timeout', $1, false)",
                           .values = {std::to_string(limits.statement.count())}};
     sendAll({&command, 1});

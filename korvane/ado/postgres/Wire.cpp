@@ -100,6 +100,7 @@ void Wire::hangUp() {
 
 template <typename Poll>
 void Wire::connect(Poll poll) {
+    const PGVerbosity before = PQsetErrorVerbosity(mHandle, PQERRORS_VERBOSE);
     const Moment deadline = std::chrono::steady_clock::now() + mLimits.connect;
     PostgresPollingStatusType state = PGRES_POLLING_WRITING;
     while (PQstatus(mHandle) != CONNECTION_BAD && state != PGRES_POLLING_OK &&
@@ -111,8 +112,8 @@ void Wire::connect(Poll poll) {
         }
         state = poll(mHandle);
     }
-    if (PQstatus(mHandle) != CONNECTION_OK)
-        throw connectionError(mHandle, "The database server could not be reached");
+    PQsetErrorVerbosity(mHandle, before);
+    if (PQstatus(mHandle) != CONNECTION_OK) throw refusalError(mHandle);
 }
 
 void Wire::reset() {

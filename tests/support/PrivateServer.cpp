@@ -1,0 +1,99 @@
+#include "support/PrivateServer.h"
+
+#include <pwd.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <stdexcept>
+
+namespace Korvane::Testing {
+
+namespace {
+
+/// Where the programs of the newest one are; empty when there is none.
+std::string programs() {
+    std::string found;
+    std::error_code none;
+    for (const auto& version : std::filesystem::directory_iterator("/usr/lib/postgresql", none)) {
+        const auto bin = version.path() / "bin";
+        if (std::filesystem::exists(bin / "initdb")) found = std::max(found, bin.string());
+    }
+    return found;
+}
+
+/// A server does not run as root.
+const passwd* otherUser() {
+    return ::geteuid() == 0 ? ::getpwnam("postgres") : nullptr;
+}
+
+} // namespace
+
+bool PrivateServer::isInstalled() {
+    return !programs().empty() && (::geteuid() != 0 || otherUser());
+}
+
+PrivateServer::PrivateServer(std::string_view settings) {
+    if (const passwd* user = otherUser()) {
+        if (::chown(mDir.path().c_str(), user->pw_uid, user->pw_gid) != 0)
+            throw std::runtime_error("the directory of the server cannot be given away");
+    }
+    run("initdb", "-D data -U clinic -A trust -N -E UTF8 --locale=C");
+    write("postgresql.auto.conf", "fsync=off\nlisten_addresses=''\nport=5432\nunix_socket_directories='" +
+                                      mDir.path().string() + "'\n" + std::string(settings) + "\n");
+    start();
+}
+
+PrivateServer::~PrivateServer() {
+    try {
+        stop("immediate");
+    } catch (const std::runtime_error&) {
+        // It went by itself.
+    }
+}
+
+void PrivateServer::start(std::string_view settings, bool wait) {
+    std::string options;
+    if (!settings.empty()) options = " -o \"-c " + std::string(settings) + "\"";
+    run("pg_ctl", std::string(wait ? "-w" : "-W") + " -D data -l log start" + options);
+    mRuns = true;
+}
+
+void PrivateServer::stop(const char* mode) {
+    if (!mRuns) return;
+    mRuns = false;
+    run("pg_ctl", std::string("-w -D data stop -m ") + mode);
+}
+
+std::string PrivateServer::address(const std::string& options) const {
+    return "postgresql://clinic@/postgres?host=" + mDir.path().string() +
+           (options.empty() ? "" : "&" + options);
+}
+
+void PrivateServer::write(const std::string& file, std::string_view content) const {
+    std::ofstream(dataFile(file), std::ios::app | std::ios::binary) << content;
+    if (const passwd* user = otherUser())
+        if (::chown(dataFile(file).c_str(), user->pw_uid, user->pw_gid) != 0)
+            throw std::runtime_error("a file of the server cannot be given away");
+}
+
+void PrivateServer::run(const std::string& program, const std::string& arguments) const {
+    const char* as = otherUser() ? "setpriv --reuid=postgres --regid=postgres --clear-groups " : "";
+    const std::string command = "cd " + mDir.path().string() + " && " + as + programs() + "/" + program +
+                                " " + arguments + " >said 2>&1 </dev/null";
+    if (std::system(command.c_str()) != 0)
+        throw std::runtime_error(program + ": " + mDir.read("said") + mDir.read("log"));
+}
+
+ServerInForce::ServerInForce(const std::string& address) {
+    ::setenv("KORVANE_TEST_POSTGRES", address.c_str(), 1);
+    ::setenv("KORVANE_TEST_ENGINE", "postgresql", 1);
+}
+
+ServerInForce::~ServerInForce() {
+    ::unsetenv("KORVANE_TEST_POSTGRES");
+    ::unsetenv("KORVANE_TEST_ENGINE");
+}
+
+} // namespace Korvane::Testing
