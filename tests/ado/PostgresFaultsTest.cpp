@@ -49,7 +49,7 @@ TEST_F(FaultsOfAServer, SayWhyItLetsNobodyIn) {
     } cases[] = {
         {"user=guarded&password=wr0ng", RuntimeError::PermissionDenied, "28P01",
          "check the user's name and password"},
-        {"user=guarded", RuntimeError::PermissionDenied, "28P01", "asks for a password"},
+        {"user=guarded&password=", RuntimeError::PermissionDenied, "28P01", "asks for a password"},
         {"user=unwanted&password=wr0ng", RuntimeError::PermissionDenied, "28000", "check the user's name"},
         {"user=nobody&password=wr0ng", RuntimeError::PermissionDenied, "28000", "\"nobody\" does not exist"},
         {"dbname=nowhere&password=wr0ng", RuntimeError::FileNotFound, "3D000", "check the database's name"},

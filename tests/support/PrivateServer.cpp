@@ -67,7 +67,7 @@ void PrivateServer::stop(const char* mode) {
 }
 
 std::string PrivateServer::address(const std::string& options) const {
-    return "postgresql://clinic@/postgres?host=" + mDir.path().string() +
+    return "postgresql://clinic@/postgres?port=5432&host=" + mDir.path().string() +
            (options.empty() ? "" : "&" + options);
 }
 
