@@ -52,8 +52,10 @@ std::shared_ptr<Connection> open(std::string_view address) {
         if (scheme == "sqlite") return openSqlite(address.substr(colon + 1));
         if (scheme == "postgresql" || scheme == "postgres") return openPostgres(address);
     }
-    refuse("The database address \"" + std::string(address) +
-           "\" does not begin with a kind of database that is known: sqlite:file, sqlite::memory: or "
+    // The rest of the address may hold a password.
+    const std::string begin = colon == std::string_view::npos ? std::string() : " \"" + scheme + ":\"";
+    refuse("The database address" + begin +
+           " does not begin with a kind of database that is known: sqlite:file, sqlite::memory: or "
            "postgresql://host/database.");
 }
 
