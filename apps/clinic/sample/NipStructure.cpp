@@ -22,17 +22,17 @@ void createDataTable(Connection& connection, const std::string& table, const For
     connection.Execute(statement + ")");
 }
 
-void writeValues(Connection& connection, std::int32_t groupID, const FieldDefinition& field) {
+void writeValues(Batch& batch, std::int32_t groupID, const FieldDefinition& field) {
     std::int32_t ordinal = 0;
     for (const std::string& value : field.values) {
         RowInsert row;
         row.add("FieldName", field.name).add("DBFieldGroupID", groupID).add("FieldValue", value);
         row.add("DefaultValue", value == field.defaultValue).add("Ordinal", ++ordinal);
-        row.into(connection, "DBFieldValues");
+        row.into(batch, "DBFieldValues");
     }
 }
 
-void writeField(Connection& connection, std::int32_t groupID, std::int32_t id, std::int32_t ordinal,
+void writeField(Batch& batch, std::int32_t groupID, std::int32_t id, std::int32_t ordinal,
                 const FieldDefinition& field) {
     RowInsert row;
     row.add("ID", id).add("Code", 1).add("FieldName", field.name).add("FieldCaption", field.caption);
@@ -40,8 +40,8 @@ void writeField(Connection& connection, std::int32_t groupID, std::int32_t id, s
     row.add("dataType", field.maxLength > 0 ? "dbText" : "dbMemo").add("DisplayType", field.displayType);
     row.add("Indexed", 0).add("Required", 0).add("Ordinal", ordinal);
     row.add("InitialValueRuleID", field.carriedForward ? 1 : 0);
-    row.into(connection, "DBFields");
-    writeValues(connection, groupID, field);
+    row.into(batch, "DBFields");
+    writeValues(batch, groupID, field);
 }
 
 } // namespace
@@ -51,18 +51,20 @@ std::string dataTable(std::size_t form) {
 }
 
 void writeStructure(Connection& connection, const std::vector<FormDefinition>& forms) {
+    Batch batch(connection);
     std::int32_t fieldID = 0;
     for (std::size_t i = 0; i < forms.size(); ++i) {
         const auto place = static_cast<std::int32_t>(i);
         RowInsert row;
         row.add("DBFieldGroupID", firstGroupID + place).add("GroupName", forms[i].group);
         row.add("TableName", dataTable(i)).add("Ordinal", place + 1);
-        row.into(connection, "DBFieldGroups");
+        row.into(batch, "DBFieldGroups");
         std::int32_t ordinal = 0;
         for (const FieldDefinition& field : forms[i].fields)
-            writeField(connection, firstGroupID + place, ++fieldID, ++ordinal, field);
+            writeField(batch, firstGroupID + place, ++fieldID, ++ordinal, field);
         createDataTable(connection, dataTable(i), forms[i]);
     }
+    batch.run();
 }
 
 } // namespace Clinic

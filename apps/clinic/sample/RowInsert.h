@@ -1,5 +1,7 @@
 #pragma once
 
+#include "clinic/sample/Batch.h"
+
 #include <korvane/data/SQLData.h>
 
 #include <string>
@@ -11,7 +13,7 @@ namespace Clinic {
 ///
 ///     RowInsert row;
 ///     row.add("PatientID", "P-0001").add("LastName", "O'Brien");
-///     row.into(connection, "Patient");
+///     row.into(batch, "Patient");
 class RowInsert {
   public:
     RowInsert& add(std::string_view column, const Korvane::Variant& value) {
@@ -19,9 +21,9 @@ class RowInsert {
         return *this;
     }
 
-    /// Raises a RuntimeError when it fails.
-    void into(Korvane::ado::Connection& connection, std::string_view table) const {
-        connection.Execute("Insert Into " + std::string(table) + " " + mLists.InsertListGet());
+    /// Raises a RuntimeError when it, or what the batch holds already, fails.
+    void into(Batch& batch, std::string_view table) const {
+        batch.add("Insert Into " + std::string(table) + " " + mLists.InsertListGet());
     }
 
   private:

@@ -22,18 +22,18 @@ struct Visit {
     std::size_t patient = 0;
 };
 
-void insertPeople(Connection& connection) {
+void insertPeople(Batch& batch) {
     for (const Provider& p : sampleProviders()) {
         RowInsert row;
         row.add("ProviderID", p.id).add("ProviderType", p.type).add("FirstName", p.firstName);
         row.add("LastName", p.lastName).add("Suffix", p.suffix);
-        row.into(connection, "Provider");
+        row.into(batch, "Provider");
     }
     for (const Patient& p : samplePatients()) {
         RowInsert row;
         row.add("PatientID", p.id).add("LastName", p.lastName).add("FirstName", p.firstName);
         row.add("BirthDate", p.birthDate).add("Sex", p.sex).add("Phone", p.phone).add("Email", p.email);
-        row.into(connection, "Patient");
+        row.into(batch, "Patient");
     }
 }
 
@@ -60,7 +60,7 @@ std::vector<Visit> planVisits(Random& random) {
     return visits;
 }
 
-void insertEncounter(Connection& connection, std::int32_t id, const Visit& visit, Random& random) {
+void insertEncounter(Batch& batch, std::int32_t id, const Visit& visit, Random& random) {
     static constexpr std::array reasons{"Follow-up",      "Annual examination", "Blood pressure check",
                                         "Acute visit",    "Laboratory results", "Depression follow-up",
                                         "Patient's call", "Medication review",  ""};
@@ -70,10 +70,10 @@ void insertEncounter(Connection& connection, std::int32_t id, const Visit& visit
         .add("ProviderID", random.pick(sampleProviders()).id);
     row.add("ForeignProviderID", 0).add("LocationID", random.between(1, 2)).add("EncounterDate", visit.date);
     row.add("Outgoing", random.chance(80)).add("Description", random.pick(reasons)).add("Transport", 0);
-    row.into(connection, "Encounter");
+    row.into(batch, "Encounter");
 }
 
-void insertNip(Connection& connection, std::int32_t encounter, const std::vector<FormDefinition>& forms,
+void insertNip(Batch& batch, std::int32_t encounter, const std::vector<FormDefinition>& forms,
                CourseOfCare& course, Date day) {
     for (std::size_t i = 0; i < forms.size(); ++i) {
         const std::vector<std::string> answers = course.answers(forms[i], day);
@@ -81,12 +81,12 @@ void insertNip(Connection& connection, std::int32_t encounter, const std::vector
         row.add("EncounterID", encounter);
         for (std::size_t f = 0; f < answers.size(); ++f)
             row.add(forms[i].fields[f].name, answers[f]);
-        row.into(connection, dataTable(i));
+        row.into(batch, dataTable(i));
     }
     course.advance();
 }
 
-void insertEncounters(Connection& connection, const std::vector<FormDefinition>& forms) {
+void insertEncounters(Batch& batch, const std::vector<FormDefinition>& forms) {
     constexpr std::uint64_t seed = 20261113;
     Random random(seed);
     const std::vector<Visit> visits = planVisits(random);
@@ -95,8 +95,8 @@ void insertEncounters(Connection& connection, const std::vector<FormDefinition>&
         courses.emplace_back(patient, random);
     std::int32_t id = 0;
     for (const Visit& visit : visits) {
-        insertEncounter(connection, ++id, visit, random);
-        insertNip(connection, id, forms, courses[visit.patient], visit.date);
+        insertEncounter(batch, ++id, visit, random);
+        insertNip(batch, id, forms, courses[visit.patient], visit.date);
     }
 }
 
@@ -107,8 +107,10 @@ void installSample(Connection& connection) {
     Korvane::ado::Transaction work(connection);
     installTables(connection);
     writeStructure(connection, forms);
-    insertPeople(connection);
-    insertEncounters(connection, forms);
+    Batch batch(connection);
+    insertPeople(batch);
+    insertEncounters(batch, forms);
+    batch.run();
     work.commit();
 }
 
