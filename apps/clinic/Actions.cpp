@@ -45,7 +45,9 @@ Actions::Actions(QMainWindow& window) {
     quit = action("actionQuit", "&Quit", "Close the window", {Qt::CTRL | Qt::Key_Q});
     findPatient = action("actionFindPatient", "&Find Patient", "Search by part of a name or an ID",
                          {Qt::CTRL | Qt::Key_F});
-    reload = action("actionReload", "&Reload", "Read patients and encounters again", {Qt::Key_F5});
+    reload =
+        action("actionReload", "&Reload",
+               "Read patients and encounters again; reconnects to a database that was lost", {Qt::Key_F5});
     nextPane = action("actionNextPane", "Ne&xt Pane", "Go to the next part of the window", {Qt::Key_F6});
     previousPane = action("actionPreviousPane", "&Previous Pane", "Go to the part of the window before",
                           {Qt::SHIFT | Qt::Key_F6});

@@ -2,7 +2,7 @@
 
 #include "clinic/sample/SampleClinic.h"
 
-#include <korvane/ado/Recordset.h>
+#include <korvane/ado/Catalog.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/runtime/RuntimeError.h>
 
@@ -17,13 +17,28 @@ using Korvane::utf8;
 
 namespace {
 
-bool isEmpty(const std::shared_ptr<Korvane::ado::Connection>& connection) {
-    const auto tables = Korvane::ado::Recordset::create();
-    tables->Open("Select Count(*) As Tables From sqlite_master", connection);
-    return tables->Value("Tables").toInt32() == 0;
+/// Two desks may find the same database empty: the one that comes later takes what the other has made.
+void fill(Korvane::ado::Connection& connection) {
+    try {
+        installSample(connection);
+    } catch (const RuntimeError&) {
+        if (!isInstalled(connection)) throw;
+    }
+}
+
+void complete(Korvane::ado::Connection& connection) {
+    try {
+        installTables(connection);
+    } catch (const RuntimeError& error) {
+        if (error.Number() != RuntimeError::PermissionDenied || !isInstalled(connection)) throw;
+    }
 }
 
 } // namespace
+
+bool isEmpty(const std::shared_ptr<Korvane::ado::Connection>& connection) {
+    return Korvane::ado::Catalog(connection).Tables().Count() == 0;
+}
 
 QString defaultDatabase() {
     const QString directory = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
@@ -36,15 +51,27 @@ QString defaultDatabase() {
 std::shared_ptr<Korvane::ado::Connection> openDatabase(const QString& address) {
     auto connection = Korvane::ado::open(utf8(address));
     if (isEmpty(connection))
-        installSample(*connection);
+        fill(*connection);
     else
-        installTables(*connection);
+        complete(*connection);
     return connection;
 }
 
+// What is not plainly a server, a port or a user may be (part of) a password, and is left out.
 QString shownAddress(const QString& address) {
-    static const QRegularExpression password(QStringLiteral("(://[^/@:]*):[^@/]*@"));
-    return QString(address).replace(password, QStringLiteral("\\1@"));
+    if (address.startsWith(QStringLiteral("sqlite:"), Qt::CaseInsensitive)) return address;
+    static const QRegularExpression mark(QStringLiteral("[:@/?=\\s]"));
+    static const QRegularExpression server(QStringLiteral("^([^:@/]*|\\[[^@/]*\\])(:[0-9]*)?(/.*)?$"));
+    const qsizetype begin = address.indexOf(QStringLiteral("://")) + 3;
+    if (begin < 3) return address.section(mark, 0, 0);
+    const QString rest = address.mid(begin);
+    const QString place = rest.section(u'?', 0, 0);
+    const bool hasUser = place.contains(u'@');
+    const QString first = rest.section(mark, 0, 0);
+    const QString host = hasUser ? place.section(u'@', -1) : place;
+    const bool isPlain = rest.count(u'@') == place.count(u'@') && server.match(host).hasMatch();
+    if (!isPlain) return address.left(begin) + first;
+    return address.left(begin) + (hasUser ? first + u'@' : QString()) + host;
 }
 
 } // namespace Clinic

@@ -1,6 +1,7 @@
 #include "clinic/MainWindow.h"
 
 #include "clinic/Actions.h"
+#include "clinic/ConnectionBar.h"
 #include "clinic/EncounterPane.h"
 #include "clinic/Help.h"
 #include "clinic/NipDesk.h"
@@ -18,15 +19,17 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 namespace Clinic {
 
 MainWindow::MainWindow(std::shared_ptr<Korvane::ado::Connection> connection, const QString& databaseName,
                        int textSize)
     : mConnection(std::move(connection)), mTextSize(new TextSize(this)),
-      mSides(new QSplitter(Qt::Horizontal, this)), mLists(new QSplitter(Qt::Vertical, this)),
-      mPatients(new PatientPane(mLists)), mEncounters(new EncounterPane(mLists)), mDesk(new NipDesk(mSides)),
-      mPanes(new PaneCycle({mPatients, mEncounters, mDesk}, this)),
+      mBar(new ConnectionBar(mConnection, this)), mSides(new QSplitter(Qt::Horizontal, this)),
+      mLists(new QSplitter(Qt::Vertical, this)), mPatients(new PatientPane(mLists)),
+      mEncounters(new EncounterPane(mLists)), mDesk(new NipDesk(mSides)),
+      mPanes(new PaneCycle({mPatients, mEncounters, mDesk, mBar}, this)),
       mActions(std::make_unique<Actions>(*this)) {
     const Korvane::Hourglass hourglass;
     if (textSize > 0) mTextSize->setPercent(textSize);
@@ -52,8 +55,15 @@ void MainWindow::build(const QString& databaseName) {
     mSides->setStretchFactor(1, 1);
     mSides->setChildrenCollapsible(false);
     mLists->setChildrenCollapsible(false);
-    setCentralWidget(mSides);
-    auto* database = new QLabel(databaseName.section(u'/', -1), this);
+    auto* all = new QWidget(this);
+    auto* layout = new QVBoxLayout(all);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(mBar);
+    layout->addWidget(mSides, 1);
+    setCentralWidget(all);
+    const QString lastPart = databaseName.section(u'/', -1);
+    auto* database = new QLabel(lastPart.isEmpty() ? databaseName : lastPart, this);
     database->setTextFormat(Qt::PlainText);
     database->setToolTip(databaseName);
     statusBar()->addPermanentWidget(database);
@@ -61,11 +71,13 @@ void MainWindow::build(const QString& databaseName) {
 }
 
 void MainWindow::listen() {
+    connect(mBar, &ConnectionBar::back, this, &MainWindow::connectionIsBack);
     connect(mPatients, &PatientPane::wanted, this, &MainWindow::choosePatient);
     connect(mPatients, &PatientPane::entered, mEncounters, &EncounterPane::takeFocus);
     connect(mEncounters, &EncounterPane::openWanted, this, &MainWindow::openEncounter);
     connect(mEncounters, &EncounterPane::chosenChanged, this, &MainWindow::refresh);
     connect(mDesk, &NipDesk::newNipWanted, this, &MainWindow::newNip);
+    connect(mDesk, &NipDesk::savePressed, mBar, &ConnectionBar::reconnect);
     connect(mDesk, &NipDesk::modifiedChanged, this, &MainWindow::refresh);
     connect(mDesk, &NipDesk::nipOpened, this, [this] {
         mEncounters->setOpen(mDesk->openEncounter());
@@ -113,6 +125,10 @@ void MainWindow::fitIcons() {
 }
 
 void MainWindow::reload() {
+    if (mBar->isLost()) {
+        mBar->reconnect(); // comes back to here
+        return;
+    }
     const Korvane::Hourglass hourglass;
     if (auto patients = readPatients(mConnection)) mPatients->setPatients(std::move(*patients));
     if (mDesk->hasPatient()) readEncountersOfPatient();
@@ -129,18 +145,26 @@ void MainWindow::choosePatient(const PatientLine& patient) {
 
 void MainWindow::readEncountersOfPatient() {
     const Korvane::Hourglass hourglass;
-    mEncounters->setEncounters(mDesk->patient(), readEncounters(mConnection, mDesk->patient().id));
+    const PatientLine& patient = mDesk->patient();
+    mEncounters->setEncounters(patient,
+                               mBar->isLost() ? std::nullopt : readEncounters(mConnection, patient.id));
+}
+
+void MainWindow::connectionIsBack() {
+    reload();
+    say(tr("The database is connected again."));
 }
 
 void MainWindow::openEncounter(qint32 encounterID) {
     if (encounterID < 0) return;
     const bool again = mDesk->isNipOpen() && mDesk->openEncounter() == encounterID;
     if (again && !mDesk->isModified()) return mDesk->takeFocus();
+    if (!mBar->reconnect()) return;
     if (!mDesk->openNip(encounterID) && mDesk->isNipOpen()) mEncounters->choose(mDesk->openEncounter());
 }
 
 void MainWindow::newNip() {
-    if (!mDesk->hasPatient()) return;
+    if (!mDesk->hasPatient() || !mBar->reconnect()) return;
     if (mDesk->createNip()) mEncounters->choose(-1);
 }
 

@@ -73,6 +73,7 @@ void NipDesk::listen() {
             [this](qint16 id, const QString& description, const QDateTime& date) {
                 emit nipRenamed(id, description, Korvane::fromQt(date));
             });
+    connect(&saveButton(), &QAbstractButton::pressed, this, &NipDesk::savePressed);
     connect(mPanel, &ucNIPPanel::modifiedChanged, this, &NipDesk::modifiedChanged);
 }
 
@@ -131,9 +132,12 @@ void NipDesk::leave() {
     emit nipClosed();
 }
 
-void NipDesk::saveNip() {
-    auto* save = mPanel->findChild<QAbstractButton*>(QStringLiteral("cmdNipButton(0)"));
-    if (isNipOpen() && save) save->click();
+QAbstractButton& NipDesk::saveButton() const {
+    return *mPanel->findChild<QAbstractButton*>(QStringLiteral("cmdNipButton(0)"));
+}
+
+void NipDesk::saveNip() const {
+    if (isNipOpen()) saveButton().click();
 }
 
 bool NipDesk::closeNip() {

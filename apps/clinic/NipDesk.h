@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QWidget>
 
+class QAbstractButton;
 class QLabel;
 class QPushButton;
 class QStackedWidget;
@@ -40,7 +41,7 @@ class NipDesk : public QWidget {
     bool openNip(qint32 encounterID);
 
     /// Presses the panel's own button.
-    void saveNip();
+    void saveNip() const;
     /// False when the user wants to go on with it.
     bool closeNip();
 
@@ -58,8 +59,11 @@ class NipDesk : public QWidget {
     void nipRenamed(qint32 encounterID, const QString& description, Korvane::Date date);
     void modifiedChanged();
     void newNipWanted();
+    /// Saving is about to begin.
+    void savePressed();
 
   private:
+    QAbstractButton& saveButton() const;
     QWidget* makeHint();
     void listen();
     void showPatient();

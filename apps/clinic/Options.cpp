@@ -27,12 +27,15 @@ Options readOptions(const QStringList& arguments) {
            "for each encounter that the clinic makes to measure."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption database(
-        QStringLiteral("db"), tr("Work on this database (sqlite:FILE). An empty one gets the sample clinic."),
-        QStringLiteral("url"));
+    const QCommandLineOption database(QStringLiteral("db"),
+                                      tr("Work on this database: sqlite:FILE, or postgresql://USER@HOST/NAME "
+                                         "with the password in PGPASSWORD or "
+                                         "~/.pgpass. An empty one gets the sample clinic."),
+                                      QStringLiteral("url"));
     const QCommandLineOption tour(QStringLiteral("tour"),
-                                  tr("Drive the window through the main job by itself, on a fresh database, "
-                                     "and leave a picture of each step in this directory."),
+                                  tr("Drive the window through the main job by itself, on a fresh database "
+                                     "(or that of --db, which has to be empty), and leave a picture of each "
+                                     "step in this directory."),
                                   QStringLiteral("dir"));
     const QCommandLineOption scale(QStringLiteral("font-scale"),
                                    tr("Text size in percent, 70 to 300; kept for the next start."),
@@ -44,11 +47,9 @@ Options readOptions(const QStringList& arguments) {
             tr("\"%1\" is not understood; --help tells what is.").arg(parser.positionalArguments().first()));
 
     Options options{parser.value(database), parser.value(tour), 0};
-    if (parser.isSet(database) && parser.isSet(tour))
-        refuse(tr("--tour works on a database of its own; leave --db out."));
     if (parser.isSet(tour) && options.tourDirectory.isEmpty()) refuse(tr("--tour needs a directory."));
     if (parser.isSet(database) && options.database.isEmpty())
-        refuse(tr("--db needs an address, like sqlite:clinic.db."));
+        refuse(tr("--db needs an address, like sqlite:clinic.db or postgresql://user@host/clinic."));
     if (parser.isSet(scale)) {
         bool isNumber = false;
         options.fontScale = parser.value(scale).toInt(&isNumber);

@@ -7,7 +7,7 @@ namespace Clinic {
 
 /// What the command line asks for.
 struct Options {
-    QString database;      ///< empty: the usual one
+    QString database;      ///< address; empty: the usual one, or the tour's own
     QString tourDirectory; ///< empty: no tour
     int fontScale = 0;     ///< percent; 0: as it was kept
 };

@@ -43,27 +43,38 @@ bool wantsTour(int argc, char** argv) {
     return std::any_of(argv + 1, argv + argc, [](std::string_view a) { return a.starts_with("--tour"); });
 }
 
-/// Says why the program cannot start: on standard error, and in a box where somebody can press its button.
-int fail(const QString& why) {
+/// Says why the program cannot start: on standard error, and in a box where somebody can press its buttons.
+/// True when that somebody wants to try once more.
+bool failed(const QString& why) {
     std::fprintf(stderr, "korvane-clinic: %s\n", qUtf8Printable(why));
     const QString platform = QGuiApplication::platformName();
-    if (platform != QStringLiteral("offscreen") && platform != QStringLiteral("minimal"))
-        QMessageBox::critical(nullptr, QStringLiteral("Korvane Clinic"), why);
-    return 1;
+    if (platform == QStringLiteral("offscreen") || platform == QStringLiteral("minimal")) return false;
+    return QMessageBox::critical(nullptr, QStringLiteral("Korvane Clinic"), why,
+                                 QMessageBox::Retry | QMessageBox::Close,
+                                 QMessageBox::Retry) == QMessageBox::Retry;
+}
+
+/// Nothing when the database cannot be opened, and the user has given up.
+std::shared_ptr<Korvane::ado::Connection> openAtLast(QString& address) {
+    for (;;) {
+        QString why;
+        try {
+            const Korvane::Hourglass hourglass;
+            if (address.isEmpty()) address = Clinic::defaultDatabase();
+            return Clinic::openDatabase(address);
+        } catch (...) {
+            why = Korvane::qt(Korvane::currentError().Description());
+        }
+        if (!failed(QCoreApplication::translate("main", "The database %1 cannot be opened: %2")
+                        .arg(Clinic::shownAddress(address), why)))
+            return nullptr;
+    }
 }
 
 int openWindow(const Clinic::Options& options) {
     QString address = options.database;
-    std::shared_ptr<Korvane::ado::Connection> connection;
-    try {
-        const Korvane::Hourglass hourglass;
-        if (address.isEmpty()) address = Clinic::defaultDatabase();
-        connection = Clinic::openDatabase(address);
-    } catch (...) {
-        return fail(
-            QCoreApplication::translate("main", "The database %1 cannot be opened: %2")
-                .arg(Clinic::shownAddress(address), Korvane::qt(Korvane::currentError().Description())));
-    }
+    const auto connection = openAtLast(address);
+    if (!connection) return 1;
     Clinic::MainWindow window(connection, Clinic::shownAddress(address), options.fontScale);
     window.show();
     return QApplication::exec();
@@ -94,6 +105,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     const Clinic::Options options = Clinic::readOptions(QCoreApplication::arguments());
     Korvane::QtInteraction::installOnce();
-    if (!options.tourDirectory.isEmpty()) return Clinic::runTour(options.tourDirectory, options.fontScale);
+    if (!options.tourDirectory.isEmpty())
+        return Clinic::runTour(options.tourDirectory, options.database, options.fontScale);
     return openWindow(options);
 }

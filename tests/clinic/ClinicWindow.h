@@ -3,6 +3,7 @@
 #include "clinic/Database.h"
 #include "clinic/MainWindow.h"
 #include "support/RecordingInteraction.h"
+#include "support/ScratchDatabase.h"
 #include "support/ScratchDir.h"
 #include "support/StoppedClock.h"
 
@@ -27,7 +28,9 @@ namespace Korvane::Testing {
 /// The clinic's window on a sample database of its own, with settings of its own and a user who is recorded.
 class ClinicWindow {
   public:
-    ClinicWindow() {
+    ClinicWindow() : ClinicWindow(std::string()) {}
+    /// On an empty database of the test's own choice.
+    explicit ClinicWindow(const std::string& address) : own(address) {
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                            QString::fromStdString(dir.file("settings")));
@@ -108,8 +111,10 @@ class ClinicWindow {
     StoppedClock clock{Date::of(2026, 11, 16, 9, 30)};
     ScratchDir dir{ScratchDir::AsAppPath};
     RecordedInteraction user;
+    std::string own;
+    ScratchDatabase database{dir.file("clinic.db")};
     std::shared_ptr<ado::Connection> db =
-        Clinic::openDatabase(QStringLiteral("sqlite:") + QString::fromStdString(dir.file("clinic.db")));
+        Clinic::openDatabase(QString::fromStdString(own.empty() ? database.address() : own));
     std::unique_ptr<Clinic::MainWindow> window;
 };
 

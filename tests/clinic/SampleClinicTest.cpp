@@ -1,4 +1,5 @@
 #include "clinic/sample/SampleClinic.h"
+#include "support/ScratchDatabase.h"
 #include "support/ScratchDir.h"
 
 #include <korvane/ado/Recordset.h>
@@ -7,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <memory>
 #include <vector>
 
 namespace {
@@ -14,15 +16,10 @@ namespace {
 using Korvane::Variant;
 using Korvane::ado::Connection;
 using Korvane::ado::Recordset;
+using Korvane::Testing::ScratchDatabase;
 using testing::Each;
 using testing::ElementsAre;
 using testing::SizeIs;
-
-std::shared_ptr<Connection> newClinic() {
-    auto db = Korvane::ado::open("sqlite::memory:");
-    Clinic::installSample(*db);
-    return db;
-}
 
 std::vector<std::string> column(const std::shared_ptr<Connection>& db, const std::string& query) {
     auto rows = Recordset::create();
@@ -32,7 +29,24 @@ std::vector<std::string> column(const std::shared_ptr<Connection>& db, const std
     return texts;
 }
 
-TEST(SampleClinic, HoldsPatientsProvidersAndThreeYearsOfEncounters) {
+class SampleClinic : public testing::Test {
+  protected:
+    std::shared_ptr<Connection> newClinic() {
+        auto db = empty();
+        Clinic::installSample(*db);
+        return db;
+    }
+    std::shared_ptr<Connection> empty() {
+        const std::string name = "clinic" + std::to_string(databases.size());
+        return Korvane::ado::open(
+            databases.emplace_back(std::make_unique<ScratchDatabase>(dir.file(name)))->address());
+    }
+
+    Korvane::Testing::ScratchDir dir;
+    std::vector<std::unique_ptr<ScratchDatabase>> databases;
+};
+
+TEST_F(SampleClinic, HoldsPatientsProvidersAndThreeYearsOfEncounters) {
     const auto db = newClinic();
     EXPECT_TRUE(Clinic::isInstalled(*db));
     EXPECT_THAT(column(db, "Select LastName From Patient Where PatientID='P-0002'"), ElementsAre("O'Brien"));
@@ -49,7 +63,7 @@ TEST(SampleClinic, HoldsPatientsProvidersAndThreeYearsOfEncounters) {
         EXPECT_THAT(column(db, "Select EncounterID From " + table), SizeIs(encounters.size())) << table;
 }
 
-TEST(SampleClinic, LoadsIntoANipWithValuesFromItsLists) {
+TEST_F(SampleClinic, LoadsIntoANipWithValuesFromItsLists) {
     const auto db = newClinic();
     Korvane::cNIP nip;
     ASSERT_TRUE(nip.LoadStructure(db));
@@ -65,7 +79,7 @@ TEST(SampleClinic, LoadsIntoANipWithValuesFromItsLists) {
     EXPECT_GT(nip.ChoiceListCount(5, 1), 0);
 }
 
-TEST(SampleClinic, IsTheSameEveryTime) {
+TEST_F(SampleClinic, IsTheSameEveryTime) {
     const std::string query = "Select Description From Encounter Order By EncounterID";
     const std::string answers = "Select services From NIP_Custom6 Order By EncounterID";
     const auto first = newClinic();
@@ -74,7 +88,7 @@ TEST(SampleClinic, IsTheSameEveryTime) {
     EXPECT_EQ(column(first, answers), column(second, answers));
 }
 
-TEST(SampleClinic, LeavesADatabaseThatHoldsOneAsItIs) {
+TEST_F(SampleClinic, LeavesADatabaseThatHoldsOneAsItIs) {
     const auto db = newClinic();
     EXPECT_THROW(Clinic::installSample(*db), Korvane::RuntimeError);
     EXPECT_EQ(db->transactionLevel(), 0);
@@ -82,7 +96,7 @@ TEST(SampleClinic, LeavesADatabaseThatHoldsOneAsItIs) {
     Clinic::installTables(*db);
     EXPECT_THAT(column(db, "Select PatientID From Patient"), SizeIs(22));
 
-    const auto empty = Korvane::ado::open("sqlite::memory:");
+    const auto empty = this->empty();
     EXPECT_FALSE(Clinic::isInstalled(*empty));
     Clinic::installTables(*empty);
     EXPECT_TRUE(Clinic::isInstalled(*empty));

@@ -24,29 +24,46 @@ Ledger::Ledger(const QString& address) : mConnection(Korvane::ado::open(Korvane:
     require(mStructure.LoadStructure(mConnection), QStringLiteral("The Nip's structure cannot be read."));
 }
 
-StoredRow Ledger::read(const std::string& table, qint32 encounterID) {
+// Each column by its name as the clinic spells it: what a database calls it is up to the engine.
+StoredRow Ledger::read(const std::string& table, const std::vector<std::string>& columns,
+                       qint32 encounterID) {
+    std::string list;
+    for (const std::string& column : columns)
+        list += (list.empty() ? "[" : ",[") + column + "]";
     const auto rows = Recordset::create();
-    rows->Open("Select * From " + table + " Where EncounterID=" + std::to_string(encounterID), mConnection);
+    rows->Open("Select " + list + " From " + table + " Where EncounterID=" + std::to_string(encounterID),
+               mConnection);
     const QString where = QStringLiteral("%1 of encounter %2").arg(qt(table)).arg(encounterID);
     require(!rows->Eof(), QStringLiteral("There is no row in ") + where);
     StoredRow row{table, {}};
-    for (int i = 0; i < rows->FieldCount(); ++i)
-        row.columns.emplace_back(rows->Fields(i).Name(), rows->Value(i).textOrEmpty());
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        row.columns.emplace_back(columns[i], rows->Value(static_cast<int>(i)).textOrEmpty());
     rows->MoveNext();
     require(rows->Eof(), QStringLiteral("There is more than one row in ") + where);
     return row;
 }
 
 std::vector<StoredRow> Ledger::rowsOf(qint32 encounterID) {
-    std::vector<StoredRow> rows{read("Encounter", encounterID)};
+    std::vector<StoredRow> rows{
+        read("Encounter",
+             {"EncounterID", "EncounterMethodID", "PatientID", "ProviderID", "ForeignProviderID",
+              "LocationID", "EncounterDate", "Outgoing", "Description", "Transport"},
+             encounterID)};
     for (std::int16_t g = 1; g <= mStructure.GroupCount(); ++g) {
-        if (mStructure.FieldCount(g) > 0) rows.push_back(read(mStructure.TableName(g, 1), encounterID));
+        if (mStructure.FieldCount(g) > 0) rows.push_back(groupRow(encounterID, g));
     }
     return rows;
 }
 
 StoredRow Ledger::groupRow(qint32 encounterID, std::string_view group) {
-    return read(mStructure.TableName(groupIndex(group), 1), encounterID);
+    return groupRow(encounterID, groupIndex(group));
+}
+
+StoredRow Ledger::groupRow(qint32 encounterID, std::int16_t group) {
+    std::vector<std::string> columns{"EncounterID"};
+    for (std::int16_t f = 1; f <= mStructure.FieldCount(group); ++f)
+        columns.push_back(mStructure.fieldName(group, f));
+    return read(mStructure.TableName(group, 1), columns, encounterID);
 }
 
 qint32 Ledger::number(const std::string& expression) {

@@ -13,7 +13,8 @@
 
 namespace Clinic {
 
-/// A row as the database holds it: its columns in their order, each value as text, null as empty text.
+/// A row as the database holds it: its columns as the Nip orders and spells them, each value as text, null as
+/// empty text.
 struct StoredRow {
     std::string table;
     std::vector<std::pair<std::string, std::string>> columns;
@@ -47,7 +48,8 @@ class Ledger {
   private:
     std::int16_t groupIndex(std::string_view group) const;
     qint32 number(const std::string& expression);
-    StoredRow read(const std::string& table, qint32 encounterID);
+    StoredRow groupRow(qint32 encounterID, std::int16_t group);
+    StoredRow read(const std::string& table, const std::vector<std::string>& columns, qint32 encounterID);
 
     std::shared_ptr<Korvane::ado::Connection> mConnection;
     Korvane::cNIP mStructure;

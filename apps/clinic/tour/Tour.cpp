@@ -41,6 +41,14 @@ void settleLooks(const QDir& directory) {
         QApplication::setEffectEnabled(effect, false);
 }
 
+/// A tour writes into what it finds: it may find nothing but what it has made.
+QString emptyDatabase(const QString& address) {
+    require(isEmpty(Korvane::ado::open(Korvane::utf8(address))),
+            QStringLiteral("%1 is not empty; a tour works on an empty database only.")
+                .arg(shownAddress(address)));
+    return address;
+}
+
 QString freshDatabase(const QDir& directory) {
     for (const char* name : {"tour.db", "tour.db-wal", "tour.db-shm", "tour.db-journal"}) {
         const QString file = directory.filePath(QLatin1String(name));
@@ -70,13 +78,13 @@ void travel(Journey& journey, const char*& title) {
     }
 }
 
-void drive(const QDir& directory, int textSize, const char*& title) {
+void drive(const QDir& directory, const QString& address, int textSize, const char*& title) {
     require(directory.mkpath(QStringLiteral(".")),
             QStringLiteral("%1 cannot be made.").arg(directory.absolutePath()));
     settleLooks(directory);
     limitTime();
-    const QString database = freshDatabase(directory);
-    MainWindow window(openDatabase(database), QStringLiteral("tour.db"), textSize);
+    const QString database = address.isEmpty() ? freshDatabase(directory) : emptyDatabase(address);
+    MainWindow window(openDatabase(database), QStringLiteral("tour"), textSize);
     window.resize(1280, 800);
     window.show();
     window.activateWindow();
@@ -90,10 +98,10 @@ void drive(const QDir& directory, int textSize, const char*& title) {
 
 } // namespace
 
-int runTour(const QString& directory, int textSize) {
+int runTour(const QString& directory, const QString& database, int textSize) {
     const char* title = "begin";
     try {
-        drive(QDir(directory), textSize > 0 ? textSize : 100, title);
+        drive(QDir(directory), database, textSize > 0 ? textSize : 100, title);
         return 0;
     } catch (...) {
         std::fprintf(stderr, "korvane-clinic: the tour failed at \"%s\": %s\n", title,

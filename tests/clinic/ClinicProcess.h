@@ -1,0 +1,33 @@
+#pragma once
+
+#include "support/ScratchDir.h"
+
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <string>
+
+namespace Korvane::Testing {
+
+/// How a run of the program ended.
+struct Outcome {
+    int code = -1;
+    std::string output, errors;
+};
+
+/// Runs the program without a screen, with a home of its own, to its end.
+inline Outcome run(const ScratchDir& home, const QStringList& arguments) {
+    QProcess clinic;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    for (const char* place : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
+        environment.insert(place, QString::fromStdString(home.path().string()));
+    clinic.setProcessEnvironment(environment);
+    clinic.start(QStringLiteral(KORVANE_CLINIC), arguments);
+    constexpr int limit = 100000;
+    if (!clinic.waitForFinished(limit)) return {};
+    return {clinic.exitCode(), clinic.readAllStandardOutput().toStdString(),
+            clinic.readAllStandardError().toStdString()};
+}
+
+} // namespace Korvane::Testing
