@@ -1,10 +1,9 @@
 #include <korvane/ado/Catalog.h>
 
 #include <korvane/ado/CatalogDialect.h>
+#include <korvane/ado/TableState.h>
 #include <korvane/runtime/RuntimeError.h>
-#include <korvane/runtime/Text.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace Korvane::ado {
@@ -28,7 +27,42 @@ std::vector<std::string> Tables::Names() const {
 }
 
 bool Tables::Exists(std::string_view name) const {
-    return std::ranges::any_of(Names(), [&](const std::string& known) { return sameName(known, name); });
+    const auto found = findRelation(*mConnection, name);
+    return found && found->isTable;
+}
+
+Table Tables::Item(std::string_view name) const {
+    auto state = std::make_shared<TableState>();
+    state->name = requireTable(*mConnection, name).name;
+    state->connection = mConnection;
+    return Table(std::move(state));
+}
+
+void Tables::Append(const Table& table) {
+    TableState& state = *table.mState;
+    const auto refuse = [&](int number, const std::string& reason) {
+        throw RuntimeError(number, "The table \"" + state.name + "\" " + reason);
+    };
+    if (state.connection) refuse(RuntimeError::InvalidArgument, "is in a database already.");
+    const CatalogDialect& dialect = mConnection->catalogDialect();
+    dialect.requireName(state.name);
+    if (state.columns.empty()) refuse(RuntimeError::InvalidArgument, "needs a column.");
+    for (const Column& column : state.columns)
+        dialect.requireName(column.Name());
+    if (const auto known = findRelation(*mConnection, state.name)) {
+        refuse(RuntimeError::DuplicateKey, std::string("cannot be made: there is already a ") +
+                                               (known->isTable ? "table" : "view") + " \"" + known->name +
+                                               "\".");
+    }
+    runSteps(*mConnection, dialect.createTable(state.name, state.columns, state.indexes));
+    state.connection = mConnection;
+    state.columns.clear();
+    state.indexes.clear();
+}
+
+void Tables::Delete(std::string_view name) {
+    const std::string table = requireTable(*mConnection, name).name;
+    runSteps(*mConnection, {mConnection->catalogDialect().dropTable(table)});
 }
 
 } // namespace Korvane::ado

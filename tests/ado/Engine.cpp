@@ -62,6 +62,8 @@ class PostgresEngine : public Engine {
 
     // Texts are UTF-8 there, and nothing else.
     bool keepsAnyBytes() const override { return false; }
+    std::size_t longestName() const override { return 63; }
+    bool bindsSizes() const override { return true; }
 
   private:
     Korvane::Testing::ScratchSchema mSchema;

@@ -28,6 +28,11 @@ class Engine {
 
     /// Whether a text may hold bytes that are no UTF-8; otherwise they are refused.
     virtual bool keepsAnyBytes() const { return true; }
+
+    /// How many bytes a name may have; 0 when there is no limit.
+    virtual std::size_t longestName() const { return 0; }
+    /// Whether the size of a text column binds.
+    virtual bool bindsSizes() const { return false; }
 };
 
 struct EngineChoice {

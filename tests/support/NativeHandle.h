@@ -22,14 +22,14 @@ class NativeHandle {
     PGconn* get() const { return mHandle; }
 
     /// Runs a statement; the first value of its first row, if it has any.
-    std::string value(const char* statement) const {
-        PGresult* result = PQexec(mHandle, statement);
+    std::string value(const std::string& statement) const {
+        PGresult* result = PQexec(mHandle, statement.c_str());
         EXPECT_NE(PQresultStatus(result), PGRES_FATAL_ERROR) << PQresultErrorMessage(result);
         const std::string value = PQntuples(result) > 0 ? PQgetvalue(result, 0, 0) : "";
         PQclear(result);
         return value;
     }
-    void run(const char* statement) const { value(statement); }
+    void run(const std::string& statement) const { value(statement); }
 
   private:
     PGconn* mHandle;

@@ -7,6 +7,15 @@ namespace Korvane::ado::postgres {
 class CatalogDialect final : public ado::CatalogDialect {
   public:
     std::string tablesQuery() const override;
+    std::string relationQuery(std::string_view name) const override;
+    ColumnInfo column(const Cursor& row) const override;
+    std::string indexesQuery(const std::string& table) const override;
+    std::optional<std::string> widenColumn(const std::string& table, const Column& column) const override;
+    bool dropsIndexesWithColumn() const override { return true; }
+
+  private:
+    std::string typeName(const Column& column) const override;
+    std::optional<std::size_t> longestName() const override { return 63; }
 };
 
 } // namespace Korvane::ado::postgres

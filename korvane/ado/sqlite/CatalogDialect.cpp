@@ -1,10 +1,53 @@
 #include <korvane/ado/sqlite/CatalogDialect.h>
 
+#include <korvane/ado/sqlite/Types.h>
+#include <korvane/runtime/Text.h>
+
 namespace Korvane::ado::sqlite {
 
+namespace {
+
+constexpr const char* isTable = "l.type In ('table','virtual')";
+constexpr const char* isOurs = "l.schema='main' And l.name Not Like 'sqlite\\_%' Escape '\\'";
+
+} // namespace
+
 std::string CatalogDialect::tablesQuery() const {
-    return "Select name From pragma_table_list Where schema='main' And type In ('table','virtual') "
-           "And name Not Like 'sqlite\\_%' Escape '\\' Order By name";
+    return std::string("Select l.name From pragma_table_list l Where ") + isOurs + " And " + isTable +
+           " Order By l.name";
+}
+
+std::string CatalogDialect::relationQuery(std::string_view name) const {
+    return std::string("Select l.name, ") + isTable +
+           ", c.name, c.\"notnull\", c.type "
+           "From pragma_table_list l Left Join pragma_table_info(l.name) c Where " +
+           isOurs + " And lower(l.name)='" + escapeQuotes(lowerCase(name)) + "' Order By c.cid";
+}
+
+ColumnInfo CatalogDialect::column(const Cursor& row) const {
+    Variant name;
+    Variant notNull;
+    Variant declaration;
+    row.value(2, name);
+    row.value(3, notNull);
+    row.value(4, declaration);
+    const DeclaredType declared = declaredType(declaration.textOrEmpty());
+    return {name.text(), declared.type, declared.size, !notNull.toBoolean()};
+}
+
+// The list has no index for a primary key that is the row number itself.
+std::string CatalogDialect::indexesQuery(const std::string& table) const {
+    const std::string quoted = "('" + escapeQuotes(table) + "')";
+    return "Select '', 1, 1, k.name, k.pk From pragma_table_info" + quoted +
+           " k Where k.pk>0 Union All Select i.name, i.\"unique\", 0, c.name, c.seqno From "
+           "pragma_index_list" +
+           quoted + " i Join pragma_index_info(i.name) c Where i.origin<>'pk' Order By 1, 5";
+}
+
+std::string CatalogDialect::typeName(const Column& column) const {
+    if (column.Type() == DataType::Currency) return "Currency";
+    if (column.Type() == DataType::LongVarBinary) return "Blob";
+    return ado::CatalogDialect::typeName(column);
 }
 
 } // namespace Korvane::ado::sqlite

@@ -7,6 +7,14 @@ namespace Korvane::ado::sqlite {
 class CatalogDialect final : public ado::CatalogDialect {
   public:
     std::string tablesQuery() const override;
+    std::string relationQuery(std::string_view name) const override;
+    ColumnInfo column(const Cursor& row) const override;
+    std::string indexesQuery(const std::string& table) const override;
+    std::optional<std::string> widenColumn(const std::string&, const Column&) const override { return {}; }
+    bool dropsIndexesWithColumn() const override { return false; }
+
+  private:
+    std::string typeName(const Column& column) const override;
 };
 
 } // namespace Korvane::ado::sqlite
