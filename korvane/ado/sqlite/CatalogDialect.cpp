@@ -8,20 +8,21 @@ namespace Korvane::ado::sqlite {
 namespace {
 
 constexpr const char* isTable = "l.type In ('table','virtual')";
-constexpr const char* isOurs = "l.schema='main' And l.name Not Like 'sqlite\\_%' Escape '\\'";
+// Of several the one that a plain name means.
+constexpr const char* relations =
+    "(Select name, type, Min(Case schema When 'temp' Then 0 When 'main' Then 1 Else 2 End) "
+    "From pragma_table_list Where name Not Like 'sqlite\\_%' Escape '\\' Group By name Collate NoCase) l";
 
 } // namespace
 
 std::string CatalogDialect::tablesQuery() const {
-    return std::string("Select l.name From pragma_table_list l Where ") + isOurs + " And " + isTable +
-           " Order By l.name";
+    return std::string("Select l.name From ") + relations + " Where " + isTable + " Order By l.name";
 }
 
 std::string CatalogDialect::relationQuery(std::string_view name) const {
-    return std::string("Select l.name, ") + isTable +
-           ", c.name, c.\"notnull\", c.type "
-           "From pragma_table_list l Left Join pragma_table_info(l.name) c Where " +
-           isOurs + " And lower(l.name)='" + escapeQuotes(lowerCase(name)) + "' Order By c.cid";
+    return std::string("Select l.name, ") + isTable + ", c.name, c.\"notnull\", c.type From " + relations +
+           " Left Join pragma_table_info(l.name) c Where lower(l.name)='" + escapeQuotes(lowerCase(name)) +
+           "' Order By c.cid";
 }
 
 ColumnInfo CatalogDialect::column(const Cursor& row) const {
