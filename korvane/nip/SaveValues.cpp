@@ -78,21 +78,42 @@ bool cNIP::Save() {
     });
 }
 
+/// Raises when the row under the encounter's identifier is not this patient's, or when there are two. None at
+/// all is the caller's business, and so is everything when no patient has been given.
+void cNIP::requireOwnEncounter(std::string_view statement) const {
+    if (mPatientID.empty()) return;
+    SQLData query;
+    run(query, mConnection, statement);
+    for (bool first = true; !query.Eof(); first = false) {
+        const std::string what = "The encounter " + std::to_string(mEncounterID);
+        if (!first) throw RuntimeError(RuntimeError::DuplicateKey, what + " is there more than once");
+        if (trim(query.DataView("PatientID").textOrEmpty()) != trim(mPatientID))
+            throw RuntimeError(RuntimeError::InvalidProcedureCall, what + " is another patient's");
+        query.NextRow();
+    }
+    raiseFailure(query);
+}
+
 void cNIP::saveValues() {
+    const std::string owner =
+        "Select PatientID From Encounter Where EncounterID=" + std::to_string(mEncounterID);
     std::vector<const GroupRecord*> groups;
-    std::vector<std::string> updates;
+    std::vector<std::string> statements;
     SQLData lists;
+    if (!mPatientID.empty()) statements.push_back(owner);
+    const std::size_t before = statements.size();
     for (std::size_t i = 1; i < mGroups.size(); ++i) {
         if (fieldListOf(mGroups[i]).columns.empty()) continue;
         groups.push_back(&mGroups[i]);
-        updates.push_back(updateStatement(lists, mGroups[i], mEncounterID));
+        statements.push_back(updateStatement(lists, mGroups[i], mEncounterID));
     }
-    mConnection->Announce(updates);
+    mConnection->Announce(statements);
+    requireOwnEncounter(owner);
     // A group without a row is seldom alone: an encounter that is new has none at all.
     std::vector<std::string> inserts;
     for (std::size_t i = 0; i < groups.size(); ++i) {
         SQLData query;
-        run(query, mConnection, updates[i], true);
+        run(query, mConnection, statements[before + i], true);
         if (query.RecordsAffected() != 0) continue;
         if (inserts.empty()) {
             inserts.resize(groups.size());

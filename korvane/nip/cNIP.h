@@ -108,7 +108,10 @@ class cNIP {
     /// that is still as it was loaded leaves a column that is no text column as it is, so that what its text
     /// does not show (further digits, a fraction of a second, another program's notes) is not lost. False,
     /// with a line in the error log and nothing written, after a failure; a model without a structure or
-    /// without an encounter (-1) is such a failure.
+    /// without an encounter (-1) is such a failure, and so is an identifier under which the encounter of
+    /// another patient than the last `Load` was for is stored by now, or two encounters. When two desks write
+    /// the first row of a group at once, the table's key refuses one of them: its next `Save` updates. Two
+    /// that save the same encounter one after the other both succeed, and the later values stay.
     bool Save();
 
   private:
@@ -129,6 +132,7 @@ class cNIP {
     void loadValues();
     void fillGroup(GroupRecord& group, SQLData& current, SQLData& latest);
     void forgetValues();
+    void requireOwnEncounter(std::string_view statement) const;
     void saveValues();
 
     std::shared_ptr<ado::Connection> mConnection;

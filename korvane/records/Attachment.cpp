@@ -170,8 +170,9 @@ bool Attachment::SaveObjectToDatabase() {
         ErrLog(std::string(kSaving) + "Invalid EncounterID, aborting!");
         return false;
     }
+    if (!mRow.settle(*this, mConnection, kSaving)) return false;
     const std::string id = mAttachmentID.textOrEmpty();
-    if (id.empty() || mRow.insertFailed()) return mRow.insert(*this, mConnection, kSaving);
+    if (id.empty()) return mRow.insert(*this, mConnection, kSaving);
     if (mRow.unread()) {
         ErrLog(std::string(kSaving) + "The stored row could not be read, aborting!");
         return false;
@@ -191,7 +192,7 @@ bool Attachment::DeleteObjectFromDatabase(std::string_view id) {
     SQLData query;
     const auto number = wholeNumber(id);
     if (number && !mRow.find(query, mConnection, *number)) return false;
-    if (!number || query.Eof() || mRow.insertFailed()) {
+    if (!number || query.Eof()) {
         vLogAdd("Attachment:DeleteObjectFromDatabase", "AttachmentID doesn't exist, aborting!", 2);
         return false;
     }

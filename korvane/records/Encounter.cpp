@@ -3,6 +3,7 @@
 #include <korvane/data/ErrLog.h>
 #include <korvane/data/SQLData.h>
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Text.h>
 
 #include <algorithm>
 #include <limits>
@@ -58,9 +59,8 @@ bool Encounter::Save() {
     return true;
 }
 
-/// Also after an insert that failed: the row that has its identifier is not its own.
 bool Encounter::isNew() const {
-    return mEncounterID == -1 || mRow.insertFailed();
+    return mEncounterID == -1;
 }
 
 /// What keeps it from being saved; empty when nothing does.
@@ -78,9 +78,23 @@ bool Encounter::SaveObjectToDatabase() {
         ErrLog(std::string(kSaving).append(reason));
         return false;
     }
+    if (!Settle()) return false;
     if (isNew()) return mRow.insert(*this, mConnection, kSaving);
     mRow.update(*this, mConnection, std::to_string(mEncounterID));
     return true;
+}
+
+bool Encounter::Settle() {
+    return mRow.settle(*this, mConnection, kSaving);
+}
+
+std::optional<bool> Encounter::Claim() const {
+    SQLData query;
+    const std::string statement =
+        "Update Encounter Set [PatientID]=[PatientID] Where EncounterID=" + std::to_string(mEncounterID) +
+        " And PatientID='" + escapeQuotes(mPatientID) + "'";
+    if (!query.SQL(mConnection, statement, true, AccessMode::Read)) return std::nullopt;
+    return query.RecordsAffected() == 1;
 }
 
 bool Encounter::Delete() {
@@ -90,7 +104,7 @@ bool Encounter::Delete() {
 bool Encounter::DeleteObjectFromDatabase(std::string_view id) {
     SQLData query;
     if (!mRow.find(query, mConnection, id)) return false;
-    if (query.Eof() || mRow.insertFailed())
+    if (query.Eof())
         ErrLog("Error in Encounter.DeleteObjectFromDatabase: EncounterID doesn't exist, aborting!");
     else
         query.SQL(mConnection, "delete From Encounter WHERE EncounterID=" + std::string(id), true,

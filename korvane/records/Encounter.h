@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -30,10 +31,12 @@ class Encounter {
     Encounter() = default;
 
     /// Raised when a new row has been inserted and `EncounterID` is its identifier; also when that insert
-    /// failed. What a listener throws is written to the error log ("Error in Encounter.SaveObjectToDatabase:
-    /// " and its description); the listeners behind it are not called.
+    /// failed, with -1: the identifier it tried is then another desk's. What a listener throws is written to
+    /// the error log ("Error in Encounter.SaveObjectToDatabase: " and its description); the listeners behind
+    /// it are not called.
     Event<> SavedNewEncounter;
 
+    /// -1 in a new one until its row has been inserted.
     std::int32_t EncounterID() const { return mEncounterID; }
     /// Stores the identifier and loads its row; without a row numbers are 0, texts empty and the date the
     /// zero date. A column whose value does not fit its property is written to the error log and reads as
@@ -62,8 +65,24 @@ class Encounter {
 
     /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
     /// an update of a row that is gone, and before any `Save`. It does not know of a transaction that is
-    /// rolled back later: keep a copy from before to go back to. For use within the library.
+    /// rolled back later: keep a copy from before to go back to.
     bool Stored() const { return mRow.stored(); }
+    /// Whether the last `Save` failed because another desk had inserted a row with the same identifier. The
+    /// next one finds a free one.
+    bool KeyTaken() const { return mRow.keyTaken(); }
+
+    /// In a transaction: whether the row is there and this patient's. From then on to the end of the
+    /// transaction nobody else changes or deletes it. Nothing when that could not be found out.
+    std::optional<bool> Claim() const;
+
+    /// Says that nobody knows whether the transaction in which `attempt`, a copy of this one, was inserted
+    /// has been committed. Before it inserts again, `Save` then looks whether the row is there, in every
+    /// column as it was, and if so updates it, so that nothing is stored twice. An insert that itself lost
+    /// its connection needs no such word.
+    void MayBeStored(const Encounter& attempt) { mRow.doubt(attempt.mRow); }
+    /// Has that look now: `EncounterID` is the identifier if the row is there. False, with a line in the
+    /// error log, when it cannot be read.
+    bool Settle();
     /// Whether the last load failed, which is another thing than finding no row. For use within the library.
     bool Unread() const { return mRow.unread(); }
 
@@ -74,8 +93,9 @@ class Encounter {
     /// Inserts with the next free identifier (the highest plus 1, at least 1), or updates. False, with a line
     /// in the error log, when the method, patient, provider or location is invalid (in this order), when no
     /// next identifier could be found, or when the row it would overwrite could not be read before. The
-    /// outcome of the statement itself is not told: see `Stored`. After an insert that failed the next `Save`
-    /// inserts again, with an identifier that is then free, and raises the event again.
+    /// outcome of the statement itself is not told: see `Stored`. After an insert that failed `EncounterID`
+    /// is -1 still, and the next `Save` inserts again, with an identifier that is then free, and raises the
+    /// event again.
     bool Save();
 
     /// Replaces the collection by the attachments stored for this encounter; by an empty one when they cannot

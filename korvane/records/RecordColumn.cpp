@@ -35,6 +35,14 @@ void assignColumn(std::string& member, const Variant& value) {
         member = value.textOrEmpty();
 }
 
+bool readAlike(const Variant& stored, const Variant& written) {
+    const std::string a = stored.textOrEmpty();
+    const std::string b = written.textOrEmpty();
+    if (a == b) return true;
+    const auto date = parseDate(a);
+    return date && date == parseDate(b);
+}
+
 void logColumnFailure(std::string_view prefix) {
     ErrLog(std::string(prefix) + currentError().Description());
 }

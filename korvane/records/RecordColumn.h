@@ -29,6 +29,9 @@ void assignColumn(Date& member, const Variant& value);
 void assignColumn(Variant& member, const Variant& value);
 void assignColumn(std::string& member, const Variant& value);
 
+/// Whether a value read back is the one that was written: the same text, or the same date in other words.
+bool readAlike(const Variant& stored, const Variant& written);
+
 template <auto Member, typename Record, typename T>
 constexpr RecordColumn<Record> recordColumnOf(T Record::*, std::string_view name, std::int32_t insertQuoting,
                                               std::int32_t updateQuoting) {

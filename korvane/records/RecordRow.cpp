@@ -39,4 +39,8 @@ std::optional<std::int32_t> nextIdentifier(const std::shared_ptr<ado::Connection
     return std::nullopt;
 }
 
+void logUnsettled(std::string_view prefix) {
+    ErrLog(std::string(prefix) + "Whether the row was stored before could not be read, aborting!");
+}
+
 } // namespace Korvane

@@ -2,6 +2,7 @@
 
 #include <korvane/data/SQLData.h>
 #include <korvane/records/RecordColumn.h>
+#include <korvane/runtime/RuntimeError.h>
 
 #include <cstdint>
 #include <memory>
@@ -19,8 +20,11 @@ namespace Korvane {
 std::optional<std::int32_t> nextIdentifier(const std::shared_ptr<ado::Connection>& connection,
                                            std::string_view statement, std::string_view prefix);
 
+/// Writes to the error log that it could not be found out whether a row is stored.
+void logUnsettled(std::string_view prefix);
+
 /// The row that a record object stands for: loads, inserts and updates it, and remembers how that went, so
-/// that a save overwrites nothing that it must not.
+/// that a save overwrites nothing that it must not, and stores nothing twice.
 ///
 ///     RecordRow<Encounter> mRow{"Encounter", columns()};
 ///     mRow.load(*this, mConnection, "12", "Error in Encounter.LoadObjectFromDatabase: ");
@@ -38,11 +42,11 @@ class RecordRow {
 
     /// Whether the last insert or update touched exactly one row; not so once a save has begun.
     bool stored() const { return mStored; }
-    void beginSave() { mStored = false; }
+    void beginSave() { mStored = mKeyTaken = false; }
     /// Whether the last load failed: nobody knows what an update would overwrite.
     bool unread() const { return mUnread; }
-    /// Whether the last insert failed: the row of that identifier, if there is one, is somebody else's.
-    bool insertFailed() const { return mInsertFailed; }
+    /// Whether the last insert failed because a row with its identifier was there already.
+    bool keyTaken() const { return mKeyTaken; }
 
     /// Runs the statement that finds the row. False when it failed.
     bool find(SQLData& query, const Connection& connection, std::string_view id) const {
@@ -55,7 +59,7 @@ class RecordRow {
               std::string_view prefix) {
         SQLData query;
         mUnread = id && !find(query, connection, *id);
-        mInsertFailed = false;
+        mInDoubt = false;
         mStandIns.assign(mColumns.size(), std::nullopt);
         const bool found = query.State() == 1 && !query.Eof();
         for (std::size_t i = 1; i < mColumns.size(); ++i) {
@@ -66,19 +70,50 @@ class RecordRow {
         }
     }
 
-    /// Inserts with the next free identifier, which the record then holds, also when the insert fails. False
-    /// when there is no such identifier.
+    /// Inserts with the next free identifier, which the record then holds. When the insert fails the key is
+    /// what it was: the row of that identifier, if there is one, is somebody else's, and nothing that belongs
+    /// to this record may be written under it. False when there is no such identifier.
     bool insert(Record& record, const Connection& connection, std::string_view prefix) {
         const std::string maximum = "Select Max(" + key() + ") as MaxID From " + mTable;
         const auto id = nextIdentifier(connection, maximum, prefix);
         if (!id) return false;
+        const Variant before = mColumns.front().get(record);
         mColumns.front().set(record, *id);
+        const std::vector<Variant> attempt = valuesOf(record);
         SQLData query;
-        for (const auto& column : mColumns)
-            query.InsertListAdd(column.name, column.get(record), std::int32_t{column.insertQuoting});
+        for (std::size_t i = 0; i < mColumns.size(); ++i)
+            query.InsertListAdd(mColumns[i].name, attempt[i], std::int32_t{mColumns[i].insertQuoting});
         run(query, connection, "Insert into " + mTable + " " + query.InsertListGet());
-        mInsertFailed = !mStored;
         mStandIns.clear();
+        mKeyTaken = query.LastError() && query.LastError()->Number() == RuntimeError::DuplicateKey;
+        if (mStored || lostItsLine(connection)) {
+            mAttempt = attempt;
+            mInDoubt = !mStored;
+        }
+        if (!mStored) mColumns.front().set(record, before);
+        return true;
+    }
+
+    /// Says that nobody knows whether the insert that `other` made was committed.
+    void doubt(const RecordRow& other) {
+        mAttempt = other.mAttempt;
+        mInDoubt = !mAttempt.empty();
+    }
+
+    /// Finds out whether an insert that is in doubt took place after all; the record then has its identifier,
+    /// and what is saved next updates that row. False, with a line in the error log, when that cannot be
+    /// read. Where no row is found it stays in doubt until the record is stored: the database may be slower
+    /// to store it than its user is to try again.
+    bool settle(Record& record, const Connection& connection, std::string_view prefix) {
+        if (!mInDoubt) return true;
+        SQLData query;
+        if (!find(query, connection, mAttempt.front().text())) {
+            logUnsettled(prefix);
+            return false;
+        }
+        if (query.Eof() || !isAttempt(query, prefix)) return true;
+        mColumns.front().set(record, mAttempt.front());
+        mInDoubt = false;
         return true;
     }
 
@@ -104,6 +139,25 @@ class RecordRow {
         return i < mStandIns.size() && mStandIns[i] && *mStandIns[i] == mColumns[i].get(record);
     }
 
+    std::vector<Variant> valuesOf(const Record& record) const {
+        std::vector<Variant> values;
+        for (const auto& column : mColumns)
+            values.push_back(column.get(record));
+        return values;
+    }
+
+    static bool lostItsLine(const Connection& connection) { return connection && connection->State() != 1; }
+
+    /// Whether the query's row is the one that was inserted, in every column.
+    bool isAttempt(SQLData& query, std::string_view prefix) const {
+        Record there;
+        for (std::size_t i = 0; i < mColumns.size(); ++i) {
+            loadColumn(query, there, mColumns[i], prefix);
+            if (!readAlike(mColumns[i].get(there), mAttempt[i])) return false;
+        }
+        return true;
+    }
+
     static void addToUpdate(SQLData& query, const Record& record, const RecordColumn<Record>& column) {
         query.UpdateListAdd(column.name, column.get(record), std::int32_t{column.updateQuoting});
     }
@@ -119,7 +173,9 @@ class RecordRow {
     std::vector<std::optional<Variant>> mStandIns; ///< beside `mColumns`, or empty
     bool mStored = false;
     bool mUnread = false;
-    bool mInsertFailed = false;
+    bool mKeyTaken = false;
+    std::vector<Variant> mAttempt; ///< beside `mColumns`: what was inserted last, or may have been
+    bool mInDoubt = false;         ///< whether it was is not known
 };
 
 } // namespace Korvane

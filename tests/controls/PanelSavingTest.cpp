@@ -186,6 +186,48 @@ TEST(SavingANip, AFailedRenameIsToldOnlyOnceItIsStored) {
     }
 }
 
+TEST(SavingANip, ANumberThatAnotherDeskHasTakenIsSaidAndTheNextTryFindsOne) {
+    PanelDesk desk;
+    desk.enterNewNip();
+    desk.db->failOn = "Insert into Encounter";
+    desk.db->failure = RuntimeError(RuntimeError::DuplicateKey);
+    desk.save();
+    EXPECT_EQ(desk.user->boxes.back(),
+              (ShownBox{"This Nip could not be saved, because another desk took its number at the same "
+                        "moment. Everything you entered is still here; please try again.",
+                        MsgBoxStyle::Exclamation, ""}));
+    desk.db->failOn.clear();
+    desk.encounter(8, "P2", "1/1/2026");
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("created 9", "closed"));
+    EXPECT_EQ(desk.rows("Select EncounterID,Pulse From NIP_Custom1 Where EncounterID>7"), "9|80");
+}
+
+TEST(SavingANip, ACommitWithoutAnAnswerStoresNothingTwice) {
+    for (const bool carriedOut : {true, false}) {
+        SCOPED_TRACE(carriedOut);
+        PanelDesk desk;
+        desk.enterNewNip();
+        for (int lost = 0; lost < 2; ++lost) {
+            desk.db->loseAnswerOf = "Commit";
+            desk.db->carriedOut = carriedOut;
+            desk.save();
+            EXPECT_THAT(desk.user->boxes.back().text,
+                        HasSubstr("it is not known whether this Nip was saved"));
+            EXPECT_THAT(desk.heard, IsEmpty());
+            EXPECT_TRUE(desk.panel.isModified());
+            desk.db->Reset();
+            desk.type(desk.pulse(), "85");
+            desk.type(desk.description(), "Seen");
+        }
+        desk.save();
+        EXPECT_THAT(desk.heard, ElementsAre("created 8", "closed"));
+        EXPECT_EQ(desk.rows("Select EncounterID,PatientID,Description From Encounter Where EncounterID>7"),
+                  "8|P2|Seen");
+        EXPECT_EQ(desk.rows("Select EncounterID,Pulse From NIP_Custom1 Where EncounterID>7"), "8|85");
+    }
+}
+
 TEST(SavingANip, AnEncounterThatIsGoneIsNotSavedAndSaidSo) {
     const std::function<void(PanelDesk&)> saves[] = {[](PanelDesk& desk) { desk.save(); },
                                                      [](PanelDesk& desk) { desk.panel.SaveNipInfo(); }};
@@ -196,10 +238,20 @@ TEST(SavingANip, AnEncounterThatIsGoneIsNotSavedAndSaidSo) {
         desk.db->quietly("Delete From Encounter");
         desk.db->quietly("Delete From NIP_Custom1");
         save(desk);
-        EXPECT_THAT(desk.user->boxes, Contains(notSaved));
+        EXPECT_THAT(desk.user->boxes,
+                    ElementsAre(ShownBox{"This Nip could not be saved, because its encounter is no longer "
+                                         "there. It may have been deleted at another desk. Everything you "
+                                         "entered is still here.",
+                                         MsgBoxStyle::Exclamation, ""}));
         EXPECT_THAT(desk.heard, IsEmpty());
         EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "") << "values of no encounter";
         EXPECT_EQ(desk.pulse().text(), "99");
+
+        desk.encounter(7, "P3", "1/1/2026"); // the next desk gets its number
+        save(desk);
+        EXPECT_EQ(desk.user->boxes.size(), 2u);
+        EXPECT_EQ(desk.rows("Select PatientID From Encounter"), "P3");
+        EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "") << "values of another patient";
     }
 }
 

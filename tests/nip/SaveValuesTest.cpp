@@ -97,11 +97,12 @@ TEST(SaveValues, WritesARowAtFirstAndTheSameRowAfterwards) {
         "Update NIP_Custom1 Set [Temp-1]='x',[Order]=5,[Chosen]='x||x' Where EncounterID=12";
     const std::string insert =
         "Insert Into NIP_Custom1([Temp-1],[Order],[Chosen],[EncounterID])  values ('x',5,'x||x',12)";
-    EXPECT_THAT(nips.db->statements, ElementsAre(update, insert));
-    EXPECT_THAT(nips.db->announced, ElementsAre(update, insert));
+    const std::string owner = "Select PatientID From Encounter Where EncounterID=12";
+    EXPECT_THAT(nips.db->statements, ElementsAre(owner, update, insert));
+    EXPECT_THAT(nips.db->announced, ElementsAre(owner, update, insert));
     nips.db->statements.clear();
     ASSERT_TRUE(nip.Save());
-    EXPECT_THAT(nips.db->statements, ElementsAre(update));
+    EXPECT_THAT(nips.db->statements, ElementsAre(owner, update));
     EXPECT_EQ(nips.rows("Select Count(*) From NIP_Custom1"), "1");
     EXPECT_EQ(nips.errorLog(), "");
 }
@@ -170,8 +171,8 @@ TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
     nips.db->statements.clear();
     EXPECT_TRUE(nip.Save()) << nips.errorLog();
     EXPECT_EQ(rows(), before);
-    EXPECT_THAT(nips.db->statements[0], testing::StartsWith("Update NIP_Custom1 Set [F0]=[F0],"));
-    EXPECT_THAT(nips.db->statements[0], HasSubstr("='text',[F9]=[F9] Where EncounterID=1"));
+    EXPECT_THAT(nips.db->statements[1], testing::StartsWith("Update NIP_Custom1 Set [F0]=[F0],"));
+    EXPECT_THAT(nips.db->statements[1], HasSubstr("='text',[F9]=[F9] Where EncounterID=1"));
 
     // A value that was changed and changed back is the user's own, also when the first save came to nothing.
     const std::string shown = nip.value(1, 1).text();
@@ -210,6 +211,32 @@ TEST(SaveValues, WritesNothingForAStructureThatWasLoadedAnew) {
     nip.ChoiceListCount(1, 3, -1);
     EXPECT_FALSE(nip.Save()) << "no count";
     EXPECT_EQ(nips.rows("Select [Temp-1], Chosen From NIP_Custom1"), "kept|kept||kept");
+}
+
+TEST(SaveValues, WritesNothingUnderAnEncounterThatIsNotThePatients) {
+    NipDatabase nips;
+    makeGroups(nips, 2);
+    nips.db->quietly("Drop Table Encounter");
+    nips.db->quietly("Create Table Encounter (EncounterID INTEGER, EncounterMethodID INTEGER, PatientID "
+                     "VARCHAR(9), ProviderID INTEGER, EncounterDate TIMESTAMP, Description TEXT)");
+    nips.encounter(1, "P1", "1/2/2026");
+    nips.encounter(2, "P2", "1/2/2026");
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    setAll(nip, "x");
+    nip.EncounterID(2);
+    EXPECT_FALSE(nip.Save());
+    nip.EncounterID(1);
+    nips.encounter(1, "P1", "1/2/2026"); // no key has refused it
+    EXPECT_FALSE(nip.Save());
+    EXPECT_EQ(nips.rows("Select EncounterID From NIP_Custom1"), "");
+    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.Save: The encounter 2 is another patient's\n"));
+    EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.Save: The encounter 1 is there more than once\n"));
+    nips.encounter(3, "P1", "1/2/2026");
+    nip.EncounterID(3);
+    EXPECT_TRUE(nip.Save());
+    EXPECT_EQ(nips.rows("Select EncounterID From NIP_Custom2"), "3");
 }
 
 TEST(SaveValues, WaitsForTheLockOfAnotherProgramThenFails) {

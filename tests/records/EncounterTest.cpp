@@ -150,13 +150,19 @@ TEST_F(EncounterTest, KeepsAListenersErrorToItself) {
 
 TEST_F(EncounterTest, TellsApartWhatIsStoredAndWhatIsNot) {
     encounter.EncounterDate(Date(3e6)); // beyond what has a text
+    std::int32_t announced = 0;
+    const auto hearing = encounter.SavedNewEncounter.connect([&] { announced = encounter.EncounterID(); });
     EXPECT_TRUE(encounter.Save());
     EXPECT_FALSE(encounter.Stored());
+    EXPECT_EQ(announced, -1);
     EXPECT_EQ(db->statements.size(), 1u) << "an insert list that is not whole was run";
     encounter.EncounterDate(Date(1));
     db->failOn = "Insert";
+    db->failure = RuntimeError(RuntimeError::DuplicateKey);
     EXPECT_TRUE(encounter.Save());
     EXPECT_FALSE(encounter.Stored());
+    EXPECT_TRUE(encounter.KeyTaken());
+    EXPECT_EQ(announced, -1) << "the identifier is somebody else's";
     EXPECT_EQ(raised, 2);
     EXPECT_THAT(user->boxes, SizeIs(2));
 
@@ -174,6 +180,36 @@ TEST_F(EncounterTest, TellsApartWhatIsStoredAndWhatIsNot) {
     EXPECT_TRUE(encounter.Save());
     EXPECT_FALSE(encounter.Stored());
     EXPECT_EQ(rows("Select * From Encounter"), "");
+}
+
+TEST_F(EncounterTest, IsStoredOnceAlsoWhenNobodyCouldSayWhetherItWas) {
+    for (const bool carriedOut : {true, false}) {
+        Encounter lost;
+        lost.Connection(db);
+        lost.PatientID("P-0042");
+        lost.ProviderID(3);
+        db->loseAnswerOf = "Insert";
+        db->carriedOut = carriedOut;
+        EXPECT_TRUE(lost.Save());
+        EXPECT_FALSE(lost.Stored());
+        EXPECT_EQ(lost.EncounterID(), -1);
+        EXPECT_FALSE(lost.Save()) << "it cannot be looked for yet";
+        db->Reset();
+        lost.Description("changed meanwhile");
+        EXPECT_TRUE(lost.Save());
+        EXPECT_TRUE(lost.Stored());
+        EXPECT_EQ(rows("Select EncounterID, Description From Encounter"), "1|changed meanwhile");
+        db->quietly("Delete From Encounter");
+    }
+    EXPECT_THAT(errors(), HasSubstr("Whether the row was stored before could not be read, aborting!\n"));
+
+    // A row that another desk has inserted under that number is left alone.
+    db->loseAnswerOf = "Insert";
+    EXPECT_TRUE(encounter.Save());
+    db->Reset();
+    db->quietly("Insert Into Encounter (EncounterID, PatientID) Values (1, 'P-0042')");
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_EQ(encounter.EncounterID(), 2);
 }
 
 TEST_F(EncounterTest, IsEmptyWithoutARowAndTakesNullsForNothing) {

@@ -11,7 +11,8 @@
 
 namespace Korvane::Testing {
 
-/// A connection that writes down every statement and hands it on to a real one; it can be told to fail.
+/// A connection that writes down every statement and hands it on to a real one; it can be told to fail
+/// or to lose its line.
 ///
 ///     auto db = std::make_shared<RecordingConnection>(ado::open("sqlite::memory:"));
 ///     ...
@@ -28,24 +29,39 @@ class RecordingConnection : public ado::Connection {
     std::string failOn;
     RuntimeError failure{RuntimeError::DatabaseFailure, "disk I/O error", 10};
 
+    /// The line is lost with a statement that contains this text, or with the outermost "Commit": no answer
+    /// comes, whether it was `carriedOut` or not, and `State` is 0 until `Reset`.
+    std::string loseAnswerOf;
+    bool carriedOut = true;
+
     /// Runs `statement` past the record, to prepare or look at what is stored.
     std::int32_t quietly(std::string_view statement) { return mReal->Execute(statement); }
     const std::shared_ptr<ado::Connection>& real() const { return mReal; }
 
-    std::int32_t State() const override { return mReal->State(); }
+    std::int32_t State() const override { return mLost ? 0 : mReal->State(); }
     std::int32_t Execute(std::string_view statement) override {
         note(statement);
-        return mReal->Execute(statement);
+        const bool loses = losesAnswerOf(statement);
+        const std::int32_t touched = loses && !carriedOut ? 0 : mReal->Execute(statement);
+        if (loses) loseLine();
+        return touched;
     }
     std::int32_t BeginTrans(ado::TransactionFor use) override { return mReal->BeginTrans(use); }
-    void CommitTrans() override { mReal->CommitTrans(); }
+    void CommitTrans() override {
+        if (transactionLevel() > 1 || !losesAnswerOf("Commit")) return mReal->CommitTrans();
+        carriedOut ? mReal->CommitTrans() : mReal->RollbackTrans();
+        loseLine();
+    }
     void RollbackTrans() override { mReal->RollbackTrans(); }
     std::int32_t transactionLevel() const override { return mReal->transactionLevel(); }
     void Announce(std::span<const std::string> coming) override {
         announced.insert(announced.end(), coming.begin(), coming.end());
         mReal->Announce(coming);
     }
-    void Reset() override { mReal->Reset(); }
+    void Reset() override {
+        mReal->Reset();
+        mLost = false;
+    }
     void Close() override { mReal->Close(); }
     std::unique_ptr<ado::Cursor> openCursor(std::string_view statement, ado::CursorType cursorType,
                                             ado::LockType lockType) override {
@@ -64,7 +80,18 @@ class RecordingConnection : public ado::Connection {
         if (!failOn.empty() && statement.find(failOn) != std::string_view::npos) throw failure;
     }
 
+    bool losesAnswerOf(std::string_view statement) const {
+        return !loseAnswerOf.empty() && statement.find(loseAnswerOf) != std::string_view::npos;
+    }
+
+    void loseLine() {
+        mLost = true;
+        loseAnswerOf.clear();
+        throw RuntimeError(RuntimeError::DatabaseFailure, "the connection was lost");
+    }
+
     std::shared_ptr<ado::Connection> mReal;
+    bool mLost = false;
 };
 
 } // namespace Korvane::Testing

@@ -25,6 +25,9 @@ struct ucNIPPanel::Members {
     /// Why a Nip is not shown.
     enum class Shown { Yes, NotReadable, NotFound, OfAnotherPatient };
 
+    /// What became of a save.
+    enum class Outcome { Stored, NotStored, NumberTaken, Gone, Unknown };
+
     static constexpr qint16 customizing = 1;
 
     explicit Members(ucNIPPanel& owner);
@@ -89,8 +92,10 @@ struct ucNIPPanel::Members {
     bool leadTo(void (EncounterPane::*focus)(), std::string_view message);
     bool storeAll();
     bool storeValues();
-    bool store(std::string_view routineName, const std::function<bool()>& encounter);
-    bool isStillThere() const;
+    Outcome store(std::string_view routineName, const std::function<Outcome()>& encounter);
+    static std::string_view reportOf(Outcome outcome);
+    Outcome storeEncounter();
+    Outcome claim() const;
     void raiseCreated();
     void raiseRenamed();
 };

@@ -70,50 +70,87 @@ bool ucNIPPanel::Members::leadTo(void (EncounterPane::*focus)(), std::string_vie
 }
 
 bool ucNIPPanel::Members::storeAll() {
+    mEncounter->Settle();
     const Encounter before = *mEncounter;
     form->encounterPane().copyInto(*mEncounter);
-    if (store("Error in ucNipPanel.SaveEncounterInfo: ",
-              [&] { return mEncounter->Save() && mEncounter->Stored(); })) {
+    const Outcome outcome =
+        store("Error in ucNipPanel.SaveEncounterInfo: ", [&] { return storeEncounter(); });
+    if (outcome == Outcome::Stored) {
         form->encounterPane().settle(*mEncounter);
         setChanged(false);
         return true;
     }
     // As it was before, a new one without its identifier: the next try inserts again.
+    const Encounter attempt = *mEncounter;
     *mEncounter = before;
+    if (outcome == Outcome::Unknown) mEncounter->MayBeStored(attempt);
     nip->EncounterID(before.EncounterID());
     return false;
 }
 
 /// The encounter pane is not saved here: what was edited there stays unsaved.
 bool ucNIPPanel::Members::storeValues() {
-    if (!store("Error in ucNipPanel.SaveNipInfo: ", [&] { return isStillThere(); })) return false;
+    const Outcome outcome = store("Error in ucNipPanel.SaveNipInfo: ", [&] { return claim(); });
+    if (outcome != Outcome::Stored) return false;
     setChanged(form->encounterPane().isEdited());
     return true;
 }
 
-/// The encounter and the values in one transaction.
-bool ucNIPPanel::Members::store(std::string_view routineName, const std::function<bool()>& encounter) {
+std::string_view ucNIPPanel::Members::reportOf(Outcome outcome) {
+    switch (outcome) {
+    case Outcome::NumberTaken:
+        return "This Nip could not be saved, because another desk took its number at the same moment. "
+               "Everything you entered is still here; please try again.";
+    case Outcome::Gone:
+        return "This Nip could not be saved, because its encounter is no longer there. It may have been "
+               "deleted at another desk. Everything you entered is still here.";
+    case Outcome::Unknown:
+        return "The connection was lost at the last moment, so it is not known whether this Nip was saved. "
+               "Everything you entered is still here; please save it again. It is not stored twice.";
+    default:
+        return "This Nip could not be saved. Everything you entered is still here; please try again.";
+    }
+}
+
+/// The encounter and the values in one transaction. Tells the user of any outcome but `Stored`.
+ucNIPPanel::Members::Outcome ucNIPPanel::Members::store(std::string_view routineName,
+                                                        const std::function<Outcome()>& encounter) {
+    Outcome outcome = Outcome::NotStored;
+    bool committing = false;
     const bool stored = routine(routineName, false, [&] {
         const Hourglass hourglass;
         ado::Transaction work(*connection);
-        if (!encounter()) return false;
+        outcome = encounter();
+        if (outcome != Outcome::Stored) return false;
+        outcome = Outcome::NotStored;
         form->tabs().collect();
         if (!nip->Save()) return false;
+        committing = true;
         work.commit();
         return true;
     });
-    if (!stored)
-        tell("This Nip could not be saved. Everything you entered is still here; please try again.",
-             MsgBoxStyle::Exclamation);
-    return stored;
+    if (stored) return Outcome::Stored;
+    // Without an answer to the commit it may have taken place or not.
+    if (committing && connection->State() != 1) outcome = Outcome::Unknown;
+    tell(reportOf(outcome), MsgBoxStyle::Exclamation);
+    return outcome;
 }
 
-/// Values without their encounter would never be seen again.
-bool ucNIPPanel::Members::isStillThere() const {
-    Encounter stored;
-    stored.Connection(connection);
-    stored.EncounterID(mEncounter->EncounterID());
-    return !stored.PatientID().empty();
+/// Inserts the encounter or updates it. Its identifier may lead to another desk's row: when that one was
+/// inserted at the same moment, or when this one was deleted and its number given away again.
+ucNIPPanel::Members::Outcome ucNIPPanel::Members::storeEncounter() {
+    nip->EncounterID(mEncounter->EncounterID());
+    const Outcome claimed = mEncounter->EncounterID() == -1 ? Outcome::Stored : claim();
+    if (claimed != Outcome::Stored) return claimed;
+    if (mEncounter->Save() && mEncounter->Stored()) return Outcome::Stored;
+    return mEncounter->KeyTaken() ? Outcome::NumberTaken : Outcome::NotStored;
+}
+
+/// Values without their encounter would never be seen again; those of another patient's would be seen there.
+ucNIPPanel::Members::Outcome ucNIPPanel::Members::claim() const {
+    const std::optional<bool> own = mEncounter->Claim();
+    if (!own) return Outcome::NotStored;
+    return *own ? Outcome::Stored : Outcome::Gone;
 }
 
 /// No longer being created whatever becomes of the event: the row is there, and a slot may start the next
