@@ -25,7 +25,13 @@ bool isAnyWord(const Token& token, std::initializer_list<std::string_view> words
 class Translator : public sql::Translator {
   public:
     Translator(std::string_view text, const sql::Tables& tables)
-        : sql::Translator(text, tables), mTop(sql::topClauses(statement())) {}
+        : sql::Translator(text, tables), mTop(sql::topClauses(statement())),
+          mTableAt(statement().tokens.size()) {
+        for (const sql::Scope& scope : statement().scopes) {
+            for (const sql::Source& source : scope.sources)
+                mTableAt[source.at] = source.table.empty() ? nullptr : &source;
+        }
+    }
 
   private:
     std::string literalText(const sql::ColumnValue& value) const override {
@@ -58,22 +64,13 @@ class Translator : public sql::Translator {
     // Names
 
     void name(std::size_t at) {
-        if (const sql::Source* source = tableAt(at)) return write(at, tables().nameOf(source->table));
+        if (const sql::Source* source = mTableAt[at]) return write(at, tables().nameOf(source->table));
         if (token(at + 1).isSymbol('.')) return write(at, qualifier(at));
         const auto ref = sql::refBefore(statement(), at + 1);
         if (!ref || !operandMayBegin(ref->begin)) return write(at, {});
         if (token(at + 1).isSymbol('(')) return aggregate(at);
         const ColumnInfo* column = sql::resolve(statement(), *ref, place(at).scope, tables());
         write(at, column ? column->name : std::string());
-    }
-
-    const sql::Source* tableAt(std::size_t at) const {
-        for (const sql::Scope& scope : statement().scopes) {
-            for (const sql::Source& source : scope.sources) {
-                if (source.at == at && !source.table.empty()) return &source;
-            }
-        }
-        return nullptr;
     }
 
     // The table that a column is qualified with, as it is spelled; empty for an alias.
@@ -112,8 +109,7 @@ class Translator : public sql::Translator {
                                "on",     "by",       "set",  "having", "when",   "then",     "else",
                                "case",   "between",  "like", "in",     "escape", "returning"}))
             return true;
-        return std::any_of(mTop.begin(), mTop.end(),
-                           [&](const sql::TopClause& top) { return top.last + 1 == at; });
+        return std::ranges::binary_search(mTop, at - 1, {}, &sql::TopClause::last);
     }
 
     // The engine has no largest and smallest truth.
@@ -152,7 +148,7 @@ class Translator : public sql::Translator {
                isAnyWord(end,
                          {"and",    "or",        "escape", "group",     "order", "having", "limit", "union",
                           "except", "intersect", "then",   "else",      "end",   "when",   "inner", "left",
-                          "right",  "join",      "where",  "returning", "as",    "is"});
+                          "right",  "join",      "where",  "returning", "as",    "is",     "like",  "not"});
     }
 
     // Order
@@ -171,8 +167,9 @@ class Translator : public sql::Translator {
         const Token& end = token(at);
         if (end.kind == TokenKind::End || place(at).depth < depth) return true;
         return place(at).depth == depth &&
-               (end.isSymbol(';') || isAnyWord(end, {"limit", "offset", "union", "except", "intersect",
-                                                     "fetch", "for", "rows", "range"}));
+               ((end.isWord("order") && token(at + 1).isWord("by")) || end.isSymbol(';') ||
+                isAnyWord(end, {"limit", "offset", "union", "except", "intersect", "fetch", "for", "rows",
+                                "range"}));
     }
 
     void orderItem(std::size_t begin, std::size_t end) {
@@ -206,7 +203,8 @@ class Translator : public sql::Translator {
                                 "offset", "returning"});
     }
 
-    std::vector<sql::TopClause> mTop;
+    std::vector<sql::TopClause> mTop;         ///< in their order
+    std::vector<const sql::Source*> mTableAt; ///< by token; null where no table is named
     int mSubqueries = 0;
 };
 

@@ -55,8 +55,8 @@ class Characters {
   private:
     static constexpr std::array<std::uint8_t, 256> classes() {
         std::array<std::uint8_t, 256> all{};
-        for (const unsigned char blank : {' ', '\t', '\n', '\f', '\r'})
-            all[blank] = Blank;
+        for (const char blank : {' ', '\t', '\n', '\f', '\r'})
+            all[static_cast<unsigned char>(blank)] = Blank;
         for (std::size_t c = 'a'; c <= 'z'; ++c)
             all[c] = all[c - 0x20] = Letter | InWord;
         for (std::size_t c = 0x80; c < 256; ++c)

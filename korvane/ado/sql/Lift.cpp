@@ -51,7 +51,8 @@ bool endsPlace(std::string_view word) {
 class Scan {
   public:
     Scan(std::string_view statement, std::string& shape, std::vector<Literal>& literals)
-        : mLexer(statement), mCopied(statement.data()), mShape(shape), mLiterals(literals) {}
+        : mLexer(statement), mCopied(statement.data()), mEnd(statement.data() + statement.size()),
+          mShape(shape), mLiterals(literals) {}
 
     /// False when the statement has to stay as it is.
     bool run() {
@@ -201,11 +202,14 @@ class Scan {
         // A mark of its own width at each side would be needed behind a word: Like'x' must not become Like?
         mShape += " ?";
         mCopied = token.text.data() + token.text.size();
+        // and 'x'And must not become ?And.
+        if (mCopied != mEnd && Characters::is(*mCopied, Characters::InWord)) mShape += ' ';
         mLiterals.push_back(literal);
     }
 
     Lexer mLexer;
     const char* mCopied;
+    const char* mEnd;
     std::string& mShape;
     std::vector<Literal>& mLiterals;
     Place mPlace = Place::Elsewhere;

@@ -31,7 +31,7 @@ class Analysis {
     }
 
     Statement run() {
-        for (mAt = 0; mAt < mResult.tokens.size(); ++mAt) {
+        for (mAt = 0; mAt < mResult.tokens.size() && !mTooLarge; ++mAt) {
             if (token().kind == TokenKind::Word) word();
             if (token().isSymbol(')')) close();
             note();
@@ -41,6 +41,10 @@ class Analysis {
         }
         while (!mFrames.empty())
             endFrame(mResult.tokens.size() - 1);
+        if (mTooLarge) {
+            mResult.scopes.clear();
+            mResult.places.assign(mResult.tokens.size(), {});
+        }
         return std::move(mResult);
     }
 
@@ -53,7 +57,10 @@ class Analysis {
         int ordinal = 0;
         bool tableFollows = false;
         bool ownsScope = false;
+        std::size_t sources = 0; ///< that can be seen in it
     };
+    static constexpr std::size_t deepest = 128;
+    static constexpr std::size_t mostSources = 256;
 
     const Token& token() const { return mResult.tokens[mAt]; }
     const Token& ahead(std::size_t by) const {
@@ -85,6 +92,7 @@ class Analysis {
         mResult.scopes.push_back(std::move(begun));
         frame().scope = static_cast<int>(mResult.scopes.size()) - 1;
         frame().ownsScope = true;
+        frame().sources = mFrames.size() > 1 ? mFrames[mFrames.size() - 2].sources : 0;
     }
 
     void endScope(std::size_t at) {
@@ -152,6 +160,7 @@ class Analysis {
     void addSource(Source source) {
         scope()->sources.push_back(std::move(source));
         frame().tableFollows = false;
+        mTooLarge |= ++frame().sources > mostSources;
     }
 
     void comma() {
@@ -165,6 +174,7 @@ class Analysis {
         inner.clause = frame().clause;
         inner.clauseDepth = frame().clauseDepth;
         inner.open = mAt;
+        inner.sources = frame().sources;
         Scope* current = scope();
         if (current && frame().clause == Clause::From) {
             const bool columnList = !current->isSelect && !current->sources.empty();
@@ -174,6 +184,7 @@ class Analysis {
             if (inner.tableFollows && ahead(1).isWord("select")) addSource({"", "", mAt});
         }
         mFrames.push_back(inner);
+        mTooLarge |= mFrames.size() > deepest;
     }
 
     void close() {
@@ -202,6 +213,7 @@ class Analysis {
     std::vector<Frame> mFrames;
     std::size_t mAt = 0;
     bool mCompound = false;
+    bool mTooLarge = false;
 };
 
 bool isColumnName(const Token& token) {

@@ -48,9 +48,16 @@ struct Statement {
     std::vector<Token> tokens;
     std::vector<Place> places; ///< one for each token
     std::vector<Scope> scopes; ///< the outermost first
+
+    /// Whether no text, name or date is still open at its end.
+    bool endsProperly() const {
+        return tokens.size() < 2 || tokens[tokens.size() - 2].kind != TokenKind::Broken;
+    }
 };
 
-/// Reads a statement. What it does not understand is left without scopes.
+/// Reads a statement. What it does not understand is left without scopes, and so is one with parentheses
+/// deeper than 128 or with a part that sees more than 256 tables: SQLite takes
+/// neither, and the time to read it would grow with all its names by all its tables.
 Statement analyse(std::string_view text);
 
 /// A reference to a column, as written: [T].[Name] or Name, and where its tokens begin and end (one behind).

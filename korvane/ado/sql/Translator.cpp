@@ -173,6 +173,8 @@ void Translator::insertBefore(std::size_t token, std::string text) {
 }
 
 std::string Translator::edited() {
+    // A text that has no end would swallow what is written behind it.
+    if (!mStatement.endsProperly()) return std::string(mText);
     std::stable_sort(mEdits.begin(), mEdits.end(),
                      [](const Edit& a, const Edit& b) { return a.begin < b.begin; });
     std::string text;
