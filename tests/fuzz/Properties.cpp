@@ -1,0 +1,17 @@
+#include "fuzz/Properties.h"
+
+#include <array>
+
+namespace Korvane::Fuzz {
+
+std::span<const Property> properties() {
+    static constexpr std::array all{
+        Property{"lexing", lexing},           Property{"lifting", lifting},
+        Property{"translating", translating}, Property{"settling", settling},
+        Property{"growing", growing},         Property{"keeping", keeping},
+        Property{"selecting", selecting},     Property{"converting", converting},
+    };
+    return all;
+}
+
+} // namespace Korvane::Fuzz

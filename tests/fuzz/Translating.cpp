@@ -1,0 +1,119 @@
+#include "fuzz/Properties.h"
+
+#include <korvane/ado/sql/Lift.h>
+#include <korvane/ado/sql/Top.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include "support/Translating.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Korvane::Fuzz {
+
+namespace {
+
+using namespace ado::sql;
+using Testing::KnownTables;
+using Testing::Translating;
+
+KnownTables textTables(const Translating& engine) {
+    KnownTables tables = engine.tables();
+    tables.becomeTexts();
+    return tables;
+}
+
+/// Text, or one that has no end.
+bool isText(const Token& token) {
+    return token.kind == TokenKind::Text || (token.kind == TokenKind::Broken && token.text.size() > 1);
+}
+
+bool has(const std::vector<Token>& all, TokenKind kind) {
+    return std::ranges::any_of(all, [&](const Token& token) { return token.kind == kind; });
+}
+
+bool hasWord(const std::vector<Token>& all, std::initializer_list<std::string_view> words) {
+    return std::ranges::any_of(all, [&](const Token& token) {
+        return std::ranges::any_of(words, [&](std::string_view word) { return token.isWord(word); });
+    });
+}
+
+/// What no engine's translation has anything to do with.
+bool needsNothing(const std::vector<Token>& all, const Translating& engine) {
+    if (has(all, TokenKind::Date) || hasWord(all, {"top", "true", "false"})) return false;
+    if (!engine.isServer) return true;
+    return !has(all, TokenKind::Parameter) &&
+           !hasWord(all, {"select", "insert", "update", "delete", "replace", "create", "alter", "drop"});
+}
+
+/// A text that a translation may have written: that of a date, a number or a truth, or none at all.
+bool mayBeMade(std::string_view text) {
+    return text == "''" || text == "'True'" || text == "'False'" ||
+           text.find_first_not_of("'0123456789-+.:e /APM") == std::string_view::npos;
+}
+
+/// Each text of a statement stands in its translation, in the same order, and no others but made ones.
+void keepsTexts(std::string_view text, std::string_view translated) {
+    const auto after = tokens(translated);
+    auto at = after.begin();
+    const auto nextText = [&] { at = std::find_if(at, after.end(), isText); };
+    for (const Token& token : tokens(text)) {
+        if (!isText(token)) continue;
+        for (nextText(); at != after.end() && at->text != token.text; nextText()) {
+            require(mayBeMade(at->text), "A text was changed", text);
+            ++at;
+        }
+        require(at != after.end(), "A text was lost", text);
+        ++at;
+    }
+    for (nextText(); at != after.end(); nextText())
+        require(mayBeMade(at++->text), "A text came from nowhere", text);
+}
+
+std::optional<std::string> translated(std::string_view text, const Translating& engine,
+                                      const KnownTables& tables) {
+    try {
+        return engine.translate(text, tables, {}).text;
+    } catch (const RuntimeError& error) {
+        require(error.Number() == RuntimeError::TypeMismatch || error.Number() == RuntimeError::Overflow,
+                "Another error than about a value", text);
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+void translating(std::string_view text) {
+    static const std::vector<KnownTables> tables{textTables(Testing::translations().front()),
+                                                 textTables(Testing::translations().back())};
+    const auto all = tokens(text);
+    for (const Translating& engine : Testing::translations()) {
+        const Translation translation = engine.translate(text, tables[engine.isServer ? 1 : 0], {});
+        require(translation.text.size() <= 40 * text.size() + 100, "The translation is far longer", text);
+        require(translation.parameters.size() ==
+                    static_cast<std::size_t>(std::ranges::count(all, TokenKind::Parameter, &Token::kind)),
+                "A parameter was overlooked", text);
+        if (needsNothing(all, engine)) require(translation.text == text, "Nothing was to be changed", text);
+        keepsTexts(text, translation.text);
+    }
+}
+
+void settling(std::string_view text) {
+    static const std::vector<KnownTables> tables{Testing::translations().front().tables(),
+                                                 Testing::translations().back().tables()};
+    Lifter lifter;
+    lifter.lift(text);
+    for (const Translating& engine : Testing::translations()) {
+        translated(lifter.shape(), engine, tables[engine.isServer ? 1 : 0]);
+        const auto once = translated(text, engine, tables[engine.isServer ? 1 : 0]);
+        if (!once || engine.isServer || !topClauses(analyse(*once)).empty()) continue;
+        const auto twice = translated(*once, engine, tables.front());
+        require(twice == once, "What was translated is translated again", text);
+    }
+    rowSource(text);
+    effectOf(text);
+}
+
+} // namespace Korvane::Fuzz
