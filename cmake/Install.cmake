@@ -1,4 +1,4 @@
-# `find_package(Korvane COMPONENTS Core Controls)` for whoever builds on the installed library.
+# `find_package(Korvane COMPONENTS Core Controls QtSql)` for whoever builds on the installed library.
 include(CMakePackageConfigHelpers)
 
 set(korvane_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Korvane)
@@ -10,5 +10,6 @@ install(FILES ${CMAKE_BINARY_DIR}/KorvaneConfig.cmake ${CMAKE_BINARY_DIR}/Korvan
 install(EXPORT KorvaneCore NAMESPACE Korvane:: DESTINATION ${korvane_package_dir})
 if(KORVANE_CONTROLS)
     install(EXPORT KorvaneControls NAMESPACE Korvane:: DESTINATION ${korvane_package_dir})
+    install(EXPORT KorvaneQtSql NAMESPACE Korvane:: DESTINATION ${korvane_package_dir})
 endif()
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -3,6 +3,7 @@
 #include <korvane/ado/Cursor.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -76,6 +77,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
   protected:
     Connection() = default;
 };
+
+/// Says whether a handle that was lent is still there; an empty one never says no.
+using StillLent = std::function<bool()>;
 
 /// Opens a database by its address: "sqlite:clinic.db", "sqlite:/var/lib/clinic/clinic.db",
 /// "sqlite::memory:"; for SQLite,

@@ -11,5 +11,6 @@ cmake -S "$source/tests/install" -B "$work/build" -DCMAKE_PREFIX_PATH="$work/pre
     -DCMAKE_CXX_FLAGS="$flags" >/dev/null
 cmake --build "$work/build"
 "$work/build/batch"
+"$work/build/lender"
 # The window stays open until somebody closes it: it only has to come up and live.
 cd "$work" && { QT_QPA_PLATFORM=offscreen timeout 3 "$work/build/host" || [ $? -eq 124 ]; }

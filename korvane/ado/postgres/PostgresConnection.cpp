@@ -8,6 +8,7 @@
 
 #include <charconv>
 #include <string>
+#include <utility>
 
 namespace Korvane::ado::postgres {
 
@@ -79,12 +80,12 @@ std::shared_ptr<Connection> open(std::string_view address, const Limits& limits)
     return std::make_shared<Session>(std::make_unique<Wire>(rest, own));
 }
 
-std::shared_ptr<Connection> adopt(pg_conn* handle) {
+std::shared_ptr<Connection> adopt(pg_conn* handle, StillLent stillLent) {
     if (!handle || PQstatus(handle) != CONNECTION_OK || PQpipelineStatus(handle) != PQ_PIPELINE_OFF ||
         PQtransactionStatus(handle) == PQTRANS_ACTIVE) {
         throw RuntimeError(RuntimeError::InvalidConnection);
     }
-    return std::make_shared<Session>(std::make_unique<Wire>(handle));
+    return std::make_shared<Session>(std::make_unique<Wire>(handle, std::move(stillLent)));
 }
 
 void setLimits(Connection& connection, const Limits& limits) {

@@ -34,7 +34,10 @@ std::shared_ptr<Connection> open(std::string_view address, const Limits& limits 
 /// outlive the use of what is returned. Meanwhile its texts are UTF-8 and its dates in the ISO form; what
 /// they were comes back at the end. A transaction that the host has open is joined. It is used by one side at
 /// a time; a host that has a pipeline or an answer pending cannot hand it over (InvalidConnection).
-std::shared_ptr<Connection> adopt(pg_conn* handle);
+///
+/// A host that cannot promise to keep it gives `stillLent`, which is asked before every use. Once it says no,
+/// the handle is not touched any more, and the connection is as good as closed (`State` is 0).
+std::shared_ptr<Connection> adopt(pg_conn* handle, StillLent stillLent = {});
 
 /// How long is waited for a connection (by `Reset`) and for a statement. A statement that takes longer is
 /// stopped and fails. When not even that is answered, the line is taken for dead: `State` is 0 then. Only

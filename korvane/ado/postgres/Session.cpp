@@ -15,8 +15,16 @@ Session::~Session() {
     letGo();
 }
 
-void Session::requireOpen() const {
+void Session::requireLine() const {
     if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
+    if (mWire->isTakenBack()) {
+        throw RuntimeError(RuntimeError::ObjectClosed,
+                           "The connection was closed by the program that opened it.");
+    }
+}
+
+void Session::requireOpen() const {
+    requireLine();
     if (!mWire->isUp()) {
         throw RuntimeError(RuntimeError::ObjectClosed,
                            "The connection to the database server was lost; it has to be opened again.");
@@ -68,7 +76,7 @@ void Session::Announce(std::span<const std::string> statements) {
 }
 
 void Session::Reset() {
-    if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
+    requireLine();
     if (mWire->isUp()) return;
     if (transactionLevel() > 0) throw RuntimeError(RuntimeError::TransactionOpen);
     mWire->reset();

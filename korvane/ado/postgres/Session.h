@@ -63,6 +63,7 @@ class Session final : public Connection {
     };
 
     void setUp();
+    void requireLine() const;
     void requireOpen() const;
     void requireReady(std::string_view statement) const;
     Request request(std::string_view statement);

@@ -86,7 +86,8 @@ Wire::Wire(const std::string& address, const Limits& limits) : mOwned(true), mLi
         mHandle, [](void*, const PGresult*) {}, nullptr);
 }
 
-Wire::Wire(pg_conn* lent) : mHandle(lent), mOwned(false) {
+Wire::Wire(pg_conn* lent, StillLent stillLent)
+    : mHandle(lent), mOwned(false), mStillLent(std::move(stillLent)) {
     mLimits.statement = milliseconds(0);
 }
 
@@ -125,7 +126,7 @@ void Wire::reset() {
 }
 
 bool Wire::isUp() const {
-    return mHandle && !mLost && PQstatus(mHandle) == CONNECTION_OK;
+    return mHandle && !mLost && !isTakenBack() && PQstatus(mHandle) == CONNECTION_OK;
 }
 
 Wire::Transaction Wire::transaction() const {

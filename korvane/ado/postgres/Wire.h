@@ -41,7 +41,7 @@ class Wire {
     /// Connects.
     Wire(const std::string& address, const Limits& limits);
     /// Works on a handle that somebody else owns.
-    explicit Wire(pg_conn* lent);
+    Wire(pg_conn* lent, StillLent stillLent);
     ~Wire();
     Wire(const Wire&) = delete;
     Wire& operator=(const Wire&) = delete;
@@ -52,6 +52,8 @@ class Wire {
 
     bool isUp() const;
     bool isLent() const { return !mOwned; }
+    /// Whether the owner of a lent handle has closed it. It must not be touched then.
+    bool isTakenBack() const { return mStillLent && !mStillLent(); }
     /// Ends the line, for good.
     void hangUp();
     /// Connects again as before. Raises when that fails.
@@ -78,6 +80,7 @@ class Wire {
 
     pg_conn* mHandle = nullptr;
     bool mOwned;
+    StillLent mStillLent;
     bool mLost = false;
     Limits mLimits;
 };

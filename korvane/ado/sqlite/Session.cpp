@@ -32,8 +32,14 @@ class Returned {
 
 } // namespace
 
-Session::Session(sqlite3* handle, Handle ownership)
-    : mHandle(handle), mOwned(ownership == Handle::Owned), mSchema(handle), mTransactions(handle) {}
+Session::Session(sqlite3* handle) : mHandle(handle), mOwned(true), mSchema(handle), mTransactions(handle) {}
+
+Session::Session(sqlite3* handle, StillLent stillLent)
+    : mHandle(handle), mOwned(false), mStillLent(std::move(stillLent)), mSchema(handle),
+      mTransactions(handle) {
+    // The engine keeps a handle for as long as there is a statement of it: nobody can close it under us.
+    if (mStillLent) versionQuery();
+}
 
 Session::~Session() {
     letGo();
@@ -41,6 +47,10 @@ Session::~Session() {
 
 sqlite3* Session::handle() const {
     if (!mHandle) throw RuntimeError(RuntimeError::ObjectClosed);
+    if (isTakenBack()) {
+        throw RuntimeError(RuntimeError::ObjectClosed,
+                           "The connection was closed by the program that opened it.");
+    }
     return mHandle;
 }
 
@@ -55,7 +65,6 @@ void Session::letGo() noexcept {
     while (!mCursors.empty())
         mCursors.back()->close();
     mShapes.forget();
-    mVersionQuery = {};
     while (transactionLevel() > 0) {
         try {
             mTransactions.rollback();
@@ -63,7 +72,9 @@ void Session::letGo() noexcept {
             break; // closing the handle undoes it as well; a lent one is its owner's to mend
         }
     }
-    if (mOwned) sqlite3_close_v2(mHandle);
+    // A lender who closed the handle early could not, because of our statements: the last one does it.
+    if (mOwned || isTakenBack()) sqlite3_close_v2(mHandle);
+    mVersionQuery = {};
     mHandle = nullptr;
 }
 
@@ -214,11 +225,16 @@ void Session::bindLiterals(const Lease& lease, TextLives lives) {
     }
 }
 
-std::int64_t Session::schemaVersion() {
+CompiledStatement& Session::versionQuery() {
     if (!mVersionQuery) mVersionQuery = CompiledStatement(mHandle, "Pragma schema_version", true);
-    mVersionQuery.step();
-    const std::int64_t version = sqlite3_column_int64(mVersionQuery.get(), 0);
-    mVersionQuery.reset();
+    return mVersionQuery;
+}
+
+std::int64_t Session::schemaVersion() {
+    CompiledStatement& query = versionQuery();
+    query.step();
+    const std::int64_t version = sqlite3_column_int64(query.get(), 0);
+    query.reset();
     return version;
 }
 

@@ -23,11 +23,13 @@ class ResultCursor;
 /// The connection over one handle of the engine.
 class Session final : public Connection {
   public:
-    enum class Handle : bool { Owned, Lent };
-    Session(sqlite3* handle, Handle ownership);
+    /// Owns the handle.
+    explicit Session(sqlite3* handle);
+    /// Works on a lent one, for as long as it is.
+    Session(sqlite3* handle, StillLent stillLent);
     ~Session() override;
 
-    std::int32_t State() const override { return mHandle ? 1 : 0; }
+    std::int32_t State() const override { return mHandle && !isTakenBack() ? 1 : 0; }
     std::int32_t Execute(std::string_view statement) override;
     std::int32_t BeginTrans(TransactionFor use) override;
     void CommitTrans() override;
@@ -51,6 +53,7 @@ class Session final : public Connection {
     void forget(const ResultCursor& cursor);
 
   private:
+    bool isTakenBack() const { return mStillLent && !mStillLent(); }
     void requireReady(std::string_view statement) const;
     Lease prepare(std::string_view statement);
     Lease prepareOnce(std::string_view statement, std::string_view addedColumns);
@@ -59,6 +62,7 @@ class Session final : public Connection {
     void liftFrom(std::string_view statement);
     void bindLiterals(const Lease& lease, TextLives lives);
     void refreshSchema();
+    CompiledStatement& versionQuery();
     std::int64_t schemaVersion();
     void forgetSchema();
     void settleCursors();
@@ -71,6 +75,7 @@ class Session final : public Connection {
     sqlite3* mHandle;
     bool mOwned;
     CatalogDialect mCatalogDialect;
+    StillLent mStillLent;
     Schema mSchema;
     Transactions mTransactions;
     Shapes mShapes;

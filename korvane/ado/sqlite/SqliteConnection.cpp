@@ -6,6 +6,7 @@
 #include <sqlite3.h>
 
 #include <string>
+#include <utility>
 
 namespace Korvane::ado::sqlite {
 
@@ -70,14 +71,14 @@ std::shared_ptr<Connection> open(std::string_view path, bool readOnly) {
         sqlite3_exec(opened, "Pragma journal_mode=WAL", nullptr, nullptr, nullptr);
         run(opened, "Pragma synchronous=Full");
     }
-    auto session = std::make_shared<Session>(opened, Session::Handle::Owned);
+    auto session = std::make_shared<Session>(opened);
     (void)handle.release();
     return session;
 }
 
-std::shared_ptr<Connection> adopt(sqlite3* handle) {
+std::shared_ptr<Connection> adopt(sqlite3* handle, StillLent stillLent) {
     if (!handle) throw RuntimeError(RuntimeError::InvalidConnection);
-    return std::make_shared<Session>(handle, Session::Handle::Lent);
+    return std::make_shared<Session>(handle, std::move(stillLent));
 }
 
 namespace {

@@ -18,7 +18,11 @@ std::shared_ptr<Connection> open(std::string_view path, bool readOnly = false);
 
 /// Works on a handle that the host opened and goes on owning: its settings are left as they are, it is never
 /// closed here, and it must outlive the connection's use. A transaction that the host has open is joined.
-std::shared_ptr<Connection> adopt(sqlite3* handle);
+///
+/// A host that cannot promise so gives `stillLent`, which is asked before every use. Once it says no, the
+/// connection is as good as closed (`State` is 0). Whoever closes the handle early finds it busy then, with
+/// statements that are kept here, and it is closed here in the end.
+std::shared_ptr<Connection> adopt(sqlite3* handle, StillLent stillLent = {});
 
 /// How long a statement waits for another writer before it fails. 5 seconds unless set; only connections of
 /// this provider.
