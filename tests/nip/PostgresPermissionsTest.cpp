@@ -1,0 +1,321 @@
+#include "support/NativeHandle.h"
+#include "support/RecordingInteraction.h"
+#include "support/ScratchDir.h"
+#include "support/ScratchSchema.h"
+#include "support/StoppedClock.h"
+
+#include <korvane/ado/Recordset.h>
+#include <korvane/ado/Transaction.h>
+#include <korvane/ado/postgres/Error.h>
+#include <korvane/data/Tables.h>
+#include <korvane/nip/cNIP.h>
+#include <korvane/records/Attachment.h>
+#include <korvane/records/Encounter.h>
+#include <korvane/runtime/Text.h>
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <memory>
+#include <string>
+
+namespace Korvane::Testing {
+
+using testing::HasSubstr;
+
+namespace {
+
+/// A clinic whose logins have the rights that docs/permissions.md gives them: its very statements are run, on
+/// a schema and with roles of the test's own. The encounter 7 of the patient P1 has the pulse 72.
+class Permissions : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!ScratchSchema::hasServer()) GTEST_SKIP() << ScratchSchema::noServer;
+        mSchema = std::make_unique<ScratchSchema>();
+        mAdmin = std::make_unique<NativeHandle>(mSchema->address());
+        mAdmin->run(documented(1).c_str());
+        carla = login("carla");
+        installTables(*carla);
+        makeGroup(2);
+        for (const char* row : {"Insert Into Provider (ProviderID,LastName) Values (1,'Hale')",
+                                "Insert Into Encounter (EncounterID,EncounterMethodID,PatientID,ProviderID,"
+                                "EncounterDate,[Description]) Values (7,1,'P1',1,'1/2/2026','Visit')",
+                                "Insert Into Attachment (AttachmentID,EncounterID) Values (1,7)",
+                                "Insert Into NIP_Custom2 (EncounterID,Pulse) Values (7,'72')"})
+            carla->Execute(row);
+        NativeHandle(loginAddress("carla")).run(documented(2).c_str());
+        alice = login("alice");
+    }
+
+    void TearDown() override {
+        if (!mSchema) return;
+        alice.reset();
+        carla.reset();
+        for (const char* role : {"alice", "rita", "carla", "clinic_entry", "clinic_reading", "clinic_owner"})
+            mAdmin->run(own(std::string("Drop Owned By ") + role + " Cascade; Drop Role " + role).c_str());
+    }
+
+    /// The n-th SQL of the document, for this test's schema and roles.
+    std::string documented(int n) const {
+        std::ifstream file(KORVANE_TESTS_DIR "/../docs/permissions.md");
+        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        const std::string fence = "```sql\n";
+        std::size_t begin = 0;
+        for (; n > 0; --n) {
+            begin = text.find(fence, begin);
+            if (begin == std::string::npos) throw std::runtime_error("the document has no such statements");
+            begin += fence.size();
+        }
+        return own(text.substr(begin, text.find("```", begin) - begin));
+    }
+
+    std::string own(std::string sql) const {
+        const auto replace = [&](const std::string& word, const std::string& by) {
+            for (std::size_t at = 0; (at = sql.find(word, at)) != std::string::npos; at += by.size())
+                sql.replace(at, word.size(), by);
+        };
+        for (const std::string role : {"clinic_", "alice", "carla", "rita"})
+            replace(role, mSchema->name() + "_" + role);
+        replace("Schema public", "Schema " + mSchema->name());
+        return sql;
+    }
+
+    std::string loginAddress(const std::string& name) const {
+        return mSchema->address("password=change-me&user=" + own(name));
+    }
+    std::shared_ptr<ado::Connection> login(const std::string& name) const {
+        return ado::open(loginAddress(name));
+    }
+
+    /// A group of one text field, Pulse, which is carried forward.
+    void makeGroup(int id) const {
+        const std::string number = std::to_string(id);
+        const std::string table = "NIP_Custom" + number;
+        carla->Execute("Insert Into DBFieldGroups (DBFieldGroupID,GroupName,TableName,Ordinal) Values (" +
+                       number + ",'Group','" + table + "'," + number + ")");
+        carla->Execute("Insert Into DBFields (ID,FieldName,DBFieldGroupID,MaxLength,DisplayType,Ordinal,"
+                       "InitialValueRuleID) Values (" +
+                       number + ",'Pulse'," + number + ",50,'TEXT',1,1)");
+        carla->Execute("Create Table [" + table + "] ([EncounterID] Integer Primary Key)");
+        carla->Execute("Alter Table [" + table + "] Add Column [Pulse] VarChar(50)");
+    }
+
+    /// Everything that is stored, seen by one who may see it.
+    std::string stored() const {
+        std::string all;
+        for (const char* table :
+             {"DBFieldGroups", "DBFields", "DBFieldValues", "Encounter", "Attachment", "NIP_Custom2"}) {
+            const auto rs = ado::Recordset::create();
+            rs->Open(std::string("Select * From ") + table + " Order By 1", carla);
+            for (; !rs->Eof(); rs->MoveNext())
+                for (int i = 0; i < rs->FieldCount(); ++i)
+                    all += rs->Value(i).textOrEmpty() + "|";
+        }
+        return all;
+    }
+
+    std::string told() {
+        std::string all = dir.read("ERR.txt") + dir.read("err.txt");
+        for (const ShownBox& box : user->boxes)
+            all += box.text;
+        return all;
+    }
+
+    void forgetWhatWasTold() {
+        user->clear();
+        for (const char* log : {"ERR.txt", "err.txt"})
+            std::filesystem::remove(dir.file(log));
+    }
+
+    StoppedClock clock;
+    ScratchDir dir{ScratchDir::AsAppPath};
+    RecordedInteraction user;
+    std::shared_ptr<ado::Connection> carla;
+    std::shared_ptr<ado::Connection> alice;
+
+  private:
+    std::unique_ptr<ScratchSchema> mSchema;
+    std::unique_ptr<NativeHandle> mAdmin;
+};
+
+using Login = std::shared_ptr<ado::Connection>;
+
+bool seesTheForm(const Login& db) {
+    return cNIP().LoadStructure(db);
+}
+
+bool seesAVisit(const Login& db) {
+    cNIP nip;
+    Encounter encounter;
+    encounter.Connection(db);
+    encounter.EncounterID(7);
+    encounter.LoadAttachments();
+    return nip.LoadStructure(db) && nip.Load(7, "P1", false) && nip.value(1, 1).textOrEmpty() == "72" &&
+           encounter.PatientID() == "P1" && encounter.AttachmentCount() == 1;
+}
+
+bool saveVisit(const Login& db, Encounter& encounter, const char* pulse) {
+    cNIP nip;
+    const bool isNew = encounter.EncounterID() == -1;
+    if (!nip.LoadStructure(db)) return false;
+    ado::Transaction work(*db);
+    if (!encounter.Save() || !encounter.Stored()) return false;
+    if (!nip.Load(encounter.EncounterID(), "P1", isNew)) return false;
+    for (std::int16_t group = 1; group <= nip.GroupCount(); ++group) {
+        // Carried forward from the visit before; a group made since has nothing yet.
+        if (isNew) {
+            EXPECT_EQ(nip.value(group, 1).textOrEmpty(), group == 1 ? "72" : "");
+        }
+        nip.value(group, 1, pulse);
+    }
+    if (!nip.Save()) return false;
+    work.commit();
+    return true;
+}
+
+bool entersAVisit(const Login& db) {
+    Encounter encounter;
+    encounter.Connection(db);
+    encounter.PatientID("P1");
+    encounter.ProviderID(1);
+    return saveVisit(db, encounter, "80");
+}
+
+bool changesAVisit(const Login& db) {
+    Encounter encounter;
+    encounter.Connection(db);
+    encounter.EncounterID(7);
+    encounter.Description("Changed");
+    return saveVisit(db, encounter, "81");
+}
+
+// Whether it was stored is not told by the record.
+bool saveAttachment(const Login& db, Attachment& attachment) {
+    attachment.Connection(db);
+    attachment.Description("Scan");
+    const auto count = [&] {
+        const auto rs = ado::Recordset::create();
+        rs->Open("Select Count(*) From Attachment Where [Description]='Scan'", db);
+        return rs->Value(0).toInt32();
+    };
+    attachment.Save();
+    return count() == 1;
+}
+
+bool addsAnAttachment(const Login& db) {
+    Attachment attachment;
+    attachment.EncounterID(7);
+    return saveAttachment(db, attachment);
+}
+
+bool changesAnAttachment(const Login& db) {
+    Attachment attachment;
+    attachment.Connection(db);
+    attachment.AttachmentID(1);
+    return saveAttachment(db, attachment);
+}
+
+struct Denied {
+    const char* right;
+    const char* table;
+    bool (*work)(const Login&);
+};
+
+} // namespace
+
+TEST_F(Permissions, OfDataEntryAreEnoughForADaysWork) {
+    installTables(*alice);
+    EXPECT_TRUE(seesAVisit(alice));
+    EXPECT_TRUE(entersAVisit(alice));
+    EXPECT_TRUE(changesAVisit(alice));
+    EXPECT_TRUE(addsAnAttachment(alice));
+    carla->Execute("Delete From Attachment Where AttachmentID=2");
+    EXPECT_TRUE(changesAnAttachment(alice));
+    makeGroup(3); // made later, by one who customizes
+    carla->Execute("Update NIP_Custom2 Set Pulse='72'");
+    EXPECT_TRUE(entersAVisit(alice));
+    EXPECT_TRUE(changesAVisit(alice));
+    EXPECT_EQ(told(), "");
+    EXPECT_THAT(stored(), HasSubstr("7|81|8|72|9|80|"));
+}
+
+TEST_F(Permissions, ThatAreMissingAreNamedAndNothingIsHalfSaved) {
+    const Denied cases[] = {
+        {"Select", "DBFieldGroups", seesTheForm},      {"Select", "DBFields", seesTheForm},
+        {"Select", "DBFieldValues", seesTheForm},      {"Select", "NIP_Custom2", seesAVisit},
+        {"Select", "Encounter", seesAVisit},           {"Select", "Attachment", seesAVisit},
+        {"Insert", "Encounter", entersAVisit},         {"Update", "Encounter", changesAVisit},
+        {"Insert", "NIP_Custom2", entersAVisit},       {"Update", "NIP_Custom2", changesAVisit},
+        {"Select", "Encounter", entersAVisit},         {"Select", "Encounter", changesAVisit},
+        {"Select", "NIP_Custom2", changesAVisit},      {"Insert", "Attachment", addsAnAttachment},
+        {"Update", "Attachment", changesAnAttachment},
+    };
+    const std::string before = stored();
+    for (const Denied& c : cases) {
+        SCOPED_TRACE(std::string(c.right) + " on " + c.table);
+        const std::string right = std::string(c.right) + " On " + c.table;
+        const std::string role = own(std::string(c.right) == "Select" ? "clinic_reading" : "clinic_entry");
+        forgetWhatWasTold();
+        carla->Execute("Revoke " + right + " From " + role);
+        EXPECT_FALSE(c.work(alice));
+        EXPECT_THAT(lowerCase(told()), HasSubstr(lowerCase(std::string("for table ") + c.table)));
+        EXPECT_THAT(told(), HasSubstr("this login lacks a right"));
+        EXPECT_EQ(stored(), before);
+        EXPECT_EQ(alice->transactionLevel(), 0);
+        carla->Execute("Grant " + right + " To " + role);
+    }
+    EXPECT_TRUE(entersAVisit(alice)); // the same connection, once the rights are there
+}
+
+TEST_F(Permissions, OfALoginThatOnlyLooksRefuseEverySave) {
+    const Login rita = login("rita");
+    const std::string before = stored();
+    installTables(*rita);
+    EXPECT_TRUE(seesAVisit(rita));
+    EXPECT_EQ(told(), "");
+    for (const auto work : {entersAVisit, changesAVisit, addsAnAttachment, changesAnAttachment}) {
+        user->clear();
+        EXPECT_FALSE(work(rita));
+        ASSERT_EQ(user->boxes.size(), 1u);
+        EXPECT_THAT(user->boxes[0].text, HasSubstr("lacks a right"));
+    }
+    EXPECT_EQ(stored(), before);
+}
+
+TEST_F(Permissions, OfDataEntryDoNotReachTheStructureAndThoseOfCustomizingDo) {
+    const struct {
+        const char* statement;
+        const char* names;
+    } cases[] = {
+        {"Create Table [NIP_Custom4] ([EncounterID] Integer Primary Key)", "schema"},
+        {"Alter Table [NIP_Custom2] Add Column [Weight] Integer", "table"},
+        {"Alter Table [NIP_Custom2] Rename Column [Weight] To [Mass]", "table"},
+        {"Alter Table [NIP_Custom2] Drop Column [Mass]", "table"},
+        {"Drop Table [NIP_Custom2]", "table"},
+        {"Insert Into DBFieldGroups (DBFieldGroupID,GroupName) Values (9,'New')", "dbfieldgroups"},
+        {"Update DBFieldGroups Set GroupName='Renamed' Where DBFieldGroupID=2", "dbfieldgroups"},
+        {"Delete From DBFieldGroups Where DBFieldGroupID=2", "dbfieldgroups"},
+        {"Insert Into DBFields (ID,FieldName) Values (9,'New')", "dbfields"},
+        {"Update DBFields Set FieldName='Renamed' Where ID=2", "dbfields"},
+        {"Delete From DBFields Where ID=2", "dbfields"},
+        {"Insert Into DBFieldValues (FieldName) Values ('Pulse')", "dbfieldvalues"},
+        {"Delete From DBFieldValues Where FieldName='Pulse'", "dbfieldvalues"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.statement);
+        try {
+            alice->Execute(c.statement);
+            ADD_FAILURE() << "it was allowed";
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.Number(), RuntimeError::PermissionDenied);
+            EXPECT_EQ(ado::postgres::sqlState(error.NativeCode()), "42501");
+            EXPECT_THAT(error.Description(), HasSubstr(c.names));
+        }
+        EXPECT_NO_THROW(carla->Execute(c.statement));
+    }
+}
+
+} // namespace Korvane::Testing
