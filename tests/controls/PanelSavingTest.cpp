@@ -7,16 +7,21 @@
 namespace Korvane {
 
 using namespace Testing;
+using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
+using testing::Field;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 namespace {
 
-const ShownBox notSaved{
-    "This Nip could not be saved. Everything you entered is still here; please try again.",
-    MsgBoxStyle::Exclamation, ""};
+// Why is told behind it when nothing else has.
+const auto notSaved = AllOf(
+    Field(&ShownBox::text, StartsWith("This Nip could not be saved. Everything you entered is still here; "
+                                      "please try again.")),
+    Field(&ShownBox::style, MsgBoxStyle::Exclamation));
 
 /// A way in which the database refuses a save, and how it comes round.
 struct Hindrance {
@@ -151,7 +156,7 @@ TEST(SavingANip, AFailedFirstSaveKeepsEverythingAndTheNextInsertsAnew) {
         c.begin(desk);
         desk.save();
         EXPECT_THAT(desk.heard, IsEmpty());
-        EXPECT_EQ(desk.user->boxes.back(), notSaved);
+        EXPECT_THAT(desk.user->boxes.back(), notSaved);
         EXPECT_TRUE(desk.panel.isModified());
         EXPECT_EQ(desk.pulse().text() + desk.description().text(), "80First visit");
         EXPECT_EQ(desk.db->transactionLevel(), 0);
@@ -177,7 +182,7 @@ TEST(SavingANip, AFailedRenameIsToldOnlyOnceItIsStored) {
         c.begin(desk);
         desk.save();
         EXPECT_THAT(desk.heard, IsEmpty());
-        EXPECT_EQ(desk.user->boxes.back(), notSaved);
+        EXPECT_THAT(desk.user->boxes.back(), notSaved);
         EXPECT_EQ(desk.state(), "Saved Nip with changes that are not saved");
         c.end(desk);
         EXPECT_EQ(desk.rows("Select Description From Encounter"), "Visit");

@@ -87,13 +87,23 @@ void PrivateServer::run(const std::string& program, const std::string& arguments
 }
 
 ServerInForce::ServerInForce(const std::string& address) {
-    ::setenv("KORVANE_TEST_POSTGRES", address.c_str(), 1);
-    ::setenv("KORVANE_TEST_ENGINE", "postgresql", 1);
+    put("KORVANE_TEST_POSTGRES", address);
+    put("KORVANE_TEST_ENGINE", "postgresql");
 }
 
 ServerInForce::~ServerInForce() {
-    ::unsetenv("KORVANE_TEST_POSTGRES");
-    ::unsetenv("KORVANE_TEST_ENGINE");
+    for (const auto& [name, value] : mBefore) {
+        if (value)
+            ::setenv(name, value->c_str(), 1);
+        else
+            ::unsetenv(name);
+    }
+}
+
+void ServerInForce::put(const char* name, const std::string& value) {
+    const char* before = std::getenv(name);
+    mBefore.emplace_back(name, before ? std::optional<std::string>(before) : std::nullopt);
+    ::setenv(name, value.c_str(), 1);
 }
 
 } // namespace Korvane::Testing

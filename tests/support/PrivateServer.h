@@ -2,8 +2,11 @@
 
 #include "support/ScratchDir.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace Korvane::Testing {
 
@@ -59,6 +62,11 @@ class ServerInForce {
     ~ServerInForce();
     ServerInForce(const ServerInForce&) = delete;
     ServerInForce& operator=(const ServerInForce&) = delete;
+
+  private:
+    void put(const char* name, const std::string& value);
+
+    std::vector<std::pair<const char*, std::optional<std::string>>> mBefore;
 };
 
 } // namespace Korvane::Testing

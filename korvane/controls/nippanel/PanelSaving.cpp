@@ -8,6 +8,7 @@
 #include <korvane/controls/nippanel/PanelForm.h>
 #include <korvane/controls/nippanel/Routine.h>
 #include <korvane/runtime/Interaction.h>
+#include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Variant.h>
 
 namespace Korvane {
@@ -117,22 +118,31 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::store(std::string_view routine
                                                         const std::function<Outcome()>& encounter) {
     Outcome outcome = Outcome::NotStored;
     bool committing = false;
-    const bool stored = routine(routineName, false, [&] {
+    std::string untold; // no query has reported it
+    const auto work = [&] {
         const Hourglass hourglass;
-        ado::Transaction work(*connection);
+        ado::Transaction transaction(*connection);
         outcome = encounter();
         if (outcome != Outcome::Stored) return false;
         outcome = Outcome::NotStored;
         form->tabs().collect();
         if (!nip->Save()) return false;
         committing = true;
-        work.commit();
+        transaction.commit();
         return true;
+    };
+    const bool stored = routine(routineName, false, [&] {
+        try {
+            return work();
+        } catch (...) {
+            untold = "\r\n\r\n" + currentError().Description();
+            throw;
+        }
     });
     if (stored) return Outcome::Stored;
     // Without an answer to the commit it may have taken place or not.
     if (committing && connection->State() != 1) outcome = Outcome::Unknown;
-    tell(reportOf(outcome), MsgBoxStyle::Exclamation);
+    tell(std::string(reportOf(outcome)) + untold, MsgBoxStyle::Exclamation);
     return outcome;
 }
 
