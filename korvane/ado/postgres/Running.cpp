@@ -2,6 +2,7 @@
 
 #include <korvane/ado/postgres/Session.h>
 
+#include <korvane/ado/postgres/ChangedTable.h>
 #include <korvane/ado/postgres/Error.h>
 #include <korvane/ado/postgres/Translate.h>
 #include <korvane/ado/postgres/Values.h>
@@ -71,6 +72,7 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
     shape->translation = translate(text, mSchema, addedColumns);
     shape->effect = sql::effectOf(text);
     shape->dropped = mDropped;
+    if (shape->effect == sql::Effect::Schema) shape->table = changedTable(text);
     shape->isInsert = statement.tokens.front().isWord("insert");
     const bool namesTable = shape->isInsert || statement.tokens.front().isWord("update");
     if (namesTable && !statement.scopes.empty() && !statement.scopes.front().sources.empty())
@@ -287,8 +289,8 @@ Outcome Session::outcomeOf(const Request& request, Answer answer) {
     if (request.shape->effect == sql::Effect::Rows)
         outcome.touched = std::atoi(PQcmdTuples(const_cast<pg_result*>(rows)));
     if (request.shape->effect == sql::Effect::Schema) {
-        mSchemaTouched = mTransactions.isOpen();
-        forgetSchema();
+        if (mTransactions.isOpen()) mTouched.insert(request.shape->table);
+        forgetTable(request.shape->table);
     }
     if (PQnfields(rows) == 0) return outcome;
     if (!request.form) {

@@ -9,7 +9,14 @@
 
 namespace Korvane::ado::postgres {
 
-std::string_view Schema::query() {
+std::string Schema::query() const {
+    if (mIsRead && mForgotten.empty()) return {};
+    std::string names;
+    for (const std::string& name : mForgotten)
+        names += (names.empty() ? "'" : ",'") + escapeQuotes(name) + "'";
+    // In the collation named so, lower() knows ASCII letters only.
+    const std::string which =
+        mIsRead ? "And pg_catalog.lower(c.relname::pg_catalog.text Collate \"C\") In (" + names + ") " : "";
     return "Select c.oid, c.relname, c.relkind In ('r','p'), a.attname, a.attnum, a.attnotnull, "
            "Case When t.typtype='d' Then t.typbasetype Else a.atttypid End, "
            "Case When t.typtype='d' Then t.typtypmod Else a.atttypmod End, "
@@ -19,12 +26,12 @@ std::string_view Schema::query() {
            "Join pg_catalog.pg_type t On t.oid=a.atttypid "
            "Left Join pg_catalog.pg_index i On i.indrelid=c.oid And i.indisprimary "
            "Where c.relkind In ('r','p','v','m','f') And pg_catalog.pg_table_is_visible(c.oid) "
-           "And c.relnamespace<>'pg_catalog'::pg_catalog.regnamespace "
-           "Order By c.relname, c.oid, a.attnum";
+           "And c.relnamespace<>'pg_catalog'::pg_catalog.regnamespace " +
+           which + "Order By c.relname, c.oid, a.attnum";
 }
 
 void Schema::read(const pg_result* catalog) {
-    mTables.clear();
+    mForgotten.clear();
     mIsRead = true;
     for (int row = 0; row < PQntuples(catalog); ++row) {
         const auto text = [&](int column) { return PQgetvalue(catalog, row, column); };
@@ -51,7 +58,14 @@ void Schema::read(const pg_result* catalog) {
 
 void Schema::forget() {
     mTables.clear();
+    mForgotten.clear();
     mIsRead = false;
+}
+
+void Schema::forget(std::string_view table) {
+    const std::string name = lowerCase(table);
+    mTables.erase(name);
+    mForgotten.insert(name);
 }
 
 const Schema::Table* Schema::find(std::string_view name) const {

@@ -3,7 +3,9 @@
 #include <korvane/ado/postgres/Types.h>
 #include <korvane/ado/sql/Tables.h>
 
+#include <set>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -11,17 +13,20 @@ struct pg_result;
 
 namespace Korvane::ado::postgres {
 
-/// What the catalog says of the tables on the search path, read as a whole, in one round trip, until
-/// `forget`. Names are found without regard to case; where several differ in nothing else, the one written
-/// exactly so comes first, then the one in lower case.
+/// What the catalog says of the tables on the search path, read as a whole, in one round trip; after `forget`
+/// what was forgotten is read again. Names are found without regard to case; where several differ in nothing
+/// else, the one written exactly so comes first, then the one in lower case.
 class Schema : public sql::Tables {
   public:
-    /// Asks for what `read` takes.
-    static std::string_view query();
-
-    bool isRead() const { return mIsRead; }
+    /// Asks for what has to be read, which `read` takes; empty when all is known.
+    std::string query() const;
     void read(const pg_result* catalog);
+
+    /// Whether something is known that may have grown old.
+    bool isRead() const { return mIsRead; }
+    /// Forgets all, or what goes by one name.
     void forget();
+    void forget(std::string_view table);
 
     std::span<const ColumnInfo> columnsOf(std::string_view table) const override;
     std::string nameOf(std::string_view table) const override;
@@ -46,6 +51,7 @@ class Schema : public sql::Tables {
     const Table* find(std::string_view name) const;
 
     std::unordered_map<std::string, std::vector<Table>> mTables; ///< by the name in lower case
+    std::set<std::string> mForgotten;                            ///< names in lower case, to be read again
     bool mIsRead = false;
 };
 

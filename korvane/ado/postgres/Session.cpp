@@ -1,5 +1,6 @@
 #include <korvane/ado/postgres/Session.h>
 
+#include <korvane/ado/postgres/ChangedTable.h>
 #include <korvane/ado/postgres/ResultCursor.h>
 #include <korvane/ado/sql/Names.h>
 #include <korvane/runtime/RuntimeError.h>
@@ -59,15 +60,16 @@ void Session::CommitTrans() {
     mTransactions.commit();
     if (transactionLevel() > 0) return;
     mAnnouncements.clear();
-    mSchemaTouched = false;
+    mTouched.clear();
 }
 
 void Session::RollbackTrans() {
     if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
     mAnnouncements.clear();
     mTransactions.rollback();
-    if (mSchemaTouched) forgetSchema();
-    if (transactionLevel() == 0) mSchemaTouched = false;
+    for (const std::string& table : mTouched)
+        forgetTable(table);
+    if (transactionLevel() == 0) mTouched.clear();
 }
 
 void Session::Announce(std::span<const std::string> statements) {
@@ -148,14 +150,22 @@ void Session::limits(const Limits& limits) {
 }
 
 void Session::requireSchema() {
-    if (mSchema.isRead()) return;
-    const Command command{.text = std::string(Schema::query())};
+    const Command command{.text = mSchema.query()};
+    if (command.text.empty()) return;
     mSchema.read(sendAll({&command, 1}).front().get());
 }
 
 void Session::forgetSchema() {
     mShapes.forget();
     mSchema.forget();
+}
+
+void Session::forgetTable(std::string_view name) {
+    mShapes.forget();
+    if (name.empty())
+        mSchema.forget();
+    else
+        mSchema.forget(name);
 }
 
 std::unique_ptr<Cursor> Session::openCursor(std::string_view statement, CursorType cursorType,
@@ -172,6 +182,7 @@ std::unique_ptr<Cursor> Session::openNative(std::string_view statement) {
     Request once;
     once.shape = std::make_shared<Shape>();
     once.shape->effect = sql::effectOf(statement);
+    if (once.shape->effect == sql::Effect::Schema) once.shape->table = changedTable(statement);
     once.command.text = statement;
     if (once.shape->effect != sql::Effect::None) mAnnouncements.dropReads();
     return cursorOn(outcomeOf(once, std::move(run({&once, 1}).front())), CursorType::ForwardOnly,

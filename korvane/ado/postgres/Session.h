@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -82,6 +83,7 @@ class Session final : public Connection {
     std::unique_ptr<Cursor> openKeyset(std::string_view statement, LockType lockType);
     std::unique_ptr<Cursor> cursorOn(Outcome outcome, CursorType cursorType, LockType lockType);
     void forgetSchema();
+    void forgetTable(std::string_view name);
     void letGo() noexcept;
     void restoreSettings();
 
@@ -89,7 +91,7 @@ class Session final : public Connection {
     bool mOpen = true;
     CatalogDialect mCatalogDialect;
     Schema mSchema;
-    bool mSchemaTouched = false; ///< in the transaction that is open
+    std::set<std::string> mTouched; ///< tables changed in the transaction that is open; empty for any
     Transactions mTransactions;
     Shapes mShapes;
     std::shared_ptr<std::vector<std::string>> mDropped = std::make_shared<std::vector<std::string>>();

@@ -26,7 +26,8 @@ struct Shape {
     std::string text;
     sql::Translation translation;
     sql::Effect effect = sql::Effect::None;
-    std::string table; ///< of an Insert or Update: the table it writes, in lower case
+    std::string table; ///< of an Insert or Update: the table it writes, in lower case; of what changes the
+                       ///< schema: the table it changes, empty when it may be any
     bool isInsert = false;
     std::deque<Form> forms; ///< most often one: it is the values' columns that decide
     std::shared_ptr<std::vector<std::string>> dropped; ///< names that the server may forget
