@@ -153,14 +153,6 @@ TEST_F(Reconnect, IsOfferedWithinTheUsualWindowAtTwiceTheTextSize) {
     QTest::qWait(10);
     EXPECT_LE(clinic->window->minimumSizeHint().width(), 1280);
     EXPECT_LE(clinic->window->minimumSizeHint().height(), 800);
-    if (const char* pictures = std::getenv("KORVANE_PICTURES")) {
-        clinic->window->resize(1280, 800);
-        QTest::qWait(50);
-        clinic->window->grab().save(QString(pictures) + "/lost-200.png");
-        QApplication::setFont(usual);
-        QTest::qWait(50);
-        clinic->window->grab().save(QString(pictures) + "/lost-100.png");
-    }
     QApplication::setFont(usual);
 }
 
