@@ -90,18 +90,24 @@ std::string fileOf(const Size& size) {
     return address;
 }
 
-// The server goes away as a whole, and with it what is made here.
+// A throw-away server goes with all that is made here; another one keeps it for the next run.
 void makeOnServer(const std::string& name, const Size& size) {
     const Place near = serverPlaces.front();
-    BarePostgres(serverAddress(near, "postgres")).run("Create Database " + name);
+    const BarePostgres server(serverAddress(near, "postgres"));
+    KeptCells dropped;
+    if (server.run("Select 1 From pg_database Where datname='" + name + "'", dropped) > 0) return;
     std::cerr << "making " << name << " on the server ..." << std::endl;
-    const std::string address = serverAddress(near, name);
-    ado::postgres::Limits patient;
-    patient.statement = std::chrono::minutes(10);
-    writeRows(*ado::postgres::open(address, patient), size);
-    const BarePostgres bare(address);
-    bare.run("Vacuum Analyze");
-    bare.run("Checkpoint");
+    const std::string unfinished = name + "_new";
+    server.run("Set client_min_messages=warning");
+    server.run("Drop Database If Exists " + unfinished);
+    server.run("Create Database " + unfinished);
+    {
+        const std::string address = serverAddress(near, unfinished);
+        writeRows(*ado::postgres::open(address, {.statement = std::chrono::minutes(10)}), size);
+        BarePostgres(address).run("Vacuum Analyze");
+    }
+    server.run("Checkpoint");
+    server.run("Alter Database " + unfinished + " Rename To " + name);
 }
 
 } // namespace
