@@ -87,7 +87,7 @@ Form& Session::formFor(Shape& shape, std::vector<TypeId> types) {
     return shape.forms.emplace_back(Form{std::move(types), newName(), false, nullptr});
 }
 
-Session::Request Session::request(std::string_view statement) {
+Request Session::request(std::string_view statement) {
     mLifter.lift(statement);
     Request request;
     request.shape = mShapes.find(mLifter.shape());
@@ -120,7 +120,7 @@ Session::Request Session::request(std::string_view statement) {
     return request;
 }
 
-Session::Request Session::literalRequest(std::string_view statement, std::string_view addedColumns) {
+Request Session::literalRequest(std::string_view statement, std::string_view addedColumns) {
     Request request;
     request.shape = makeShape(statement, addedColumns);
     if (!request.shape->translation.parameters.empty()) {
@@ -134,12 +134,12 @@ Session::Request Session::literalRequest(std::string_view statement, std::string
 
 Outcome Session::perform(std::string_view statement) {
     if (auto outcome = takeAnnounced(statement)) return std::move(*outcome);
+    settle();
     if (sql::effectOf(statement) != sql::Effect::None) mAnnouncements.dropReads();
     const bool knewSchema = mSchema.isRead();
     bool nothingPrepared = false;
     try {
-        Request once = request(statement);
-        return outcomeOf(once, std::move(run({&once, 1}).front()));
+        return run(request(statement));
     } catch (const RuntimeError& error) {
         const bool isOurs = error.NativeCode() == 0;
         if (State() == 0 || !mayDoBetterAsText(error) || (isOurs && !knewSchema)) throw;
@@ -148,49 +148,83 @@ Outcome Session::perform(std::string_view statement) {
     forgetSchema();
     // The owner of a lent handle may have discarded what was prepared on it.
     if (nothingPrepared) mDropped->clear();
-    Request once = literalRequest(statement, {});
-    return outcomeOf(once, std::move(run({&once, 1}).front()));
+    return run(literalRequest(statement, {}));
 }
 
 std::optional<Outcome> Session::takeAnnounced(std::string_view statement) {
     Announcements::Item* item = mAnnouncements.find(statement);
-    if (!item) return std::nullopt;
-    if (!item->outcome) {
+    const auto receive = [&] {
+        while (mAhead && item && !item->outcome) {
+            receiveAhead();
+            item = mAnnouncements.find(statement);
+        }
+    };
+    receive();
+    if (item && !item->outcome) {
         sendAnnounced(*item);
         item = mAnnouncements.find(statement);
+        receive();
     }
     if (!item) return std::nullopt;
     item->taken = true;
     return std::exchange(item->outcome, std::nullopt);
 }
 
-// Sends what was announced, as far as it may go ahead. When one of them fails, all is as if none had been
-// sent: they are run one by one, as they are asked for, and the one that fails says so.
+// Sends what was announced, as far as it may go ahead.
 void Session::sendAnnounced(const Announcements::Item& first) {
     auto ahead = requestsFrom(first);
     if (ahead.size() < 2) return;
+    std::vector<Announcements::Item*> items;
     std::vector<Request> requests;
-    requests.reserve(ahead.size());
-    for (auto& [item, request] : ahead)
+    for (auto& [item, request] : ahead) {
+        item->writes = request.shape->effect != sql::Effect::None;
+        items.push_back(item);
         requests.push_back(std::move(request));
-    std::vector<Answer> answers;
+    }
+    const bool later = mayBeReadLater(requests);
+    mAhead.emplace(Ahead{std::move(items), send(std::move(requests))});
+    while (mAhead && !later)
+        receiveAhead();
+}
+
+// Answers may be read one by one, as they are asked for, while the server is at work on the others, where it
+// does no harm that one is known before another has failed. The owner of a lent handle may use it meanwhile.
+bool Session::mayBeReadLater(const std::vector<Request>& requests) const {
+    return !mWire->isLent() && mTransactions.isReading() &&
+           std::all_of(requests.begin(), requests.end(),
+                       [](const Request& request) { return request.shape->effect == sql::Effect::None; });
+}
+
+// Waits for the next answer of what was sent ahead. When one of the statements failed, all is as if none had
+// been sent: those not yet answered are run one by one, as they are asked for, and the one that fails says
+// so.
+void Session::receiveAhead() {
     try {
-        answers = run(requests);
+        Batch& batch = mAhead->batch;
+        Announcements::Item& item = *mAhead->items[batch.answered()];
+        const Request& request = batch.requests()[batch.answered()];
+        item.outcome = outcomeOf(request, batch.next());
+        if (item.writes && !request.shape->isInsert)
+            mAnnouncements.noteUpdate(request.shape->table, item.outcome->touched);
+        if (batch.isOver()) mAhead.reset();
     } catch (const RuntimeError& error) {
+        mAhead.reset();
         mAnnouncements.clear();
         if (State() == 0 || endsTheBatch(error)) throw;
-        return;
-    }
-    for (std::size_t i = 0; i < ahead.size(); ++i) {
-        Announcements::Item& item = *ahead[i].first;
-        const Shape& shape = *requests[i].shape;
-        item.writes = shape.effect != sql::Effect::None;
-        item.outcome = outcomeOf(requests[i], std::move(answers[i]));
-        if (item.writes && !shape.isInsert) mAnnouncements.noteUpdate(shape.table, item.outcome->touched);
     }
 }
 
-std::vector<std::pair<Announcements::Item*, Session::Request>>
+// What is on its way has to arrive before the line is used for anything else.
+void Session::settle() {
+    try {
+        while (mAhead)
+            receiveAhead();
+    } catch (const RuntimeError&) {
+        // Whoever uses the line next, or asks for one of the statements, gets to know.
+    }
+}
+
+std::vector<std::pair<Announcements::Item*, Request>>
 Session::requestsFrom(const Announcements::Item& first) {
     std::vector<std::pair<Announcements::Item*, Request>> ahead;
     bool heldBack = false;
@@ -218,59 +252,38 @@ Session::requestsFrom(const Announcements::Item& first) {
     return ahead;
 }
 
-std::vector<Command> Session::preliminaries() const {
+std::vector<Command> Session::preliminaries(bool plansOnce) const {
     std::vector<Command> commands;
     for (const std::string& text : mTransactions.unsent())
         commands.push_back({.text = text});
+    // The server would plan the first five of a shape anew; what is announced is found by its key. It ends
+    // with the transaction.
+    if (plansOnce && mPlansAsNeeded && mTransactions.begins())
+        commands.push_back({.text = "Set Local plan_cache_mode To force_generic_plan"});
     for (const std::string& name : *mDropped)
         commands.push_back({.text = "Deallocate " + name});
     return commands;
 }
 
-// Runs requests in one round trip. When one of them fails, none has had any effect, and a transaction goes
-// on.
-std::vector<Answer> Session::run(std::span<Request> requests) {
-    std::vector<Command> commands = preliminaries();
-    const std::size_t begun = commands.size();
-    const bool guarded = mTransactions.isOpen();
-    if (guarded) commands.push_back({.text = "Savepoint korvane_guard"});
-    std::vector<std::size_t> places;
-    std::vector<std::pair<std::size_t, Form*>> preparing;
-    for (Request& request : requests) {
-        Form* form = request.form;
-        const auto same = [&](const auto& other) { return other.second == form; };
-        if (form && !form->prepared && std::none_of(preparing.begin(), preparing.end(), same)) {
-            preparing.emplace_back(commands.size(), form);
-            commands.push_back({Command::Prepare, form->name, request.shape->translation.text, form->types});
-        }
-        places.push_back(commands.size());
-        commands.push_back(std::move(request.command));
-    }
-    if (guarded) commands.push_back({.text = "Release Savepoint korvane_guard"});
-
-    std::vector<Answer> answers = mWire->send(commands);
+// Sends requests in one round trip.
+Batch Session::send(std::vector<Request> requests) {
+    std::vector<Command> before = preliminaries(requests.size() > 1);
+    Batch batch(*mWire, mTransactions.isOpen(), std::move(before), std::move(requests));
     mTransactions.sent();
     mDropped->clear();
-    const auto failure = std::find_if(answers.begin(), answers.end(), failed);
-    const auto done = static_cast<std::size_t>(failure - answers.begin());
-    for (const auto& [place, form] : preparing)
-        form->prepared = place < done;
-    // In a batch of many, one may have had to make room for another.
-    for (const Request& request : requests) {
-        if (request.form && request.shape->forgotten) request.shape->drop();
-    }
-    if (failure != answers.end()) {
-        const RuntimeError error = engineError(failure->get());
-        const std::array<Command, 2> undo{Command{.text = "Rollback To Savepoint korvane_guard"},
-                                          Command{.text = "Release Savepoint korvane_guard"}};
-        if (guarded && done > begun) mWire->send(undo);
-        throw error;
-    }
-    std::vector<Answer> wanted;
-    wanted.reserve(places.size());
-    for (const std::size_t place : places)
-        wanted.push_back(std::move(answers[place]));
-    return wanted;
+    return batch;
+}
+
+Batch Session::sendAlone(Request request) {
+    settle();
+    std::vector<Request> alone;
+    alone.push_back(std::move(request));
+    return send(std::move(alone));
+}
+
+Outcome Session::run(Request request) {
+    Batch batch = sendAlone(std::move(request));
+    return outcomeOf(batch.requests().front(), batch.next());
 }
 
 // For what the library asks on its own behalf.

@@ -6,6 +6,8 @@
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
 
+#include <libpq-fe.h>
+
 namespace Korvane::ado::postgres {
 
 Session::Session(std::unique_ptr<Wire> wire) : mWire(std::move(wire)), mTransactions(*mWire) {
@@ -47,11 +49,13 @@ std::int32_t Session::Execute(std::string_view statement) {
 
 std::int32_t Session::BeginTrans(TransactionFor use) {
     requireOpen();
+    settle();
     return mTransactions.begin(use);
 }
 
 void Session::CommitTrans() {
     requireOpen();
+    settle();
     if (mAnnouncements.hasUnaskedWrites()) {
         throw RuntimeError(
             RuntimeError::InvalidProcedureCall,
@@ -65,6 +69,7 @@ void Session::CommitTrans() {
 
 void Session::RollbackTrans() {
     if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
+    settle();
     mAnnouncements.clear();
     mTransactions.rollback();
     for (const std::string& table : mTouched)
@@ -73,12 +78,14 @@ void Session::RollbackTrans() {
 }
 
 void Session::Announce(std::span<const std::string> statements) {
+    settle();
     if (transactionLevel() == 0) mAnnouncements.clear();
     mAnnouncements.add(statements);
 }
 
 void Session::Reset() {
     requireLine();
+    settle();
     if (mWire->isUp()) return;
     if (transactionLevel() > 0) throw RuntimeError(RuntimeError::TransactionOpen);
     mWire->reset();
@@ -96,6 +103,7 @@ void Session::Close() {
 
 void Session::letGo() noexcept {
     if (!mOpen) return;
+    settle();
     while (!mCursors.empty())
         mCursors.back()->close();
     try {
@@ -124,10 +132,13 @@ void Session::setUp() {
     const auto limit = mWire->limits().statement.count();
     if (!mWire->isLent() || limit > 0) settings.emplace_back("statement_timeout", std::to_string(limit));
     std::vector<Command> commands;
-    commands.reserve(settings.size());
+    commands.reserve(settings.size() + 1);
     for (const auto& [name, value] : settings)
         commands.push_back({.text = "Select pg_catalog.set_config($1, $2, false)", .values = {name, value}});
-    sendAll(commands);
+    // It is not there before version 12. Who has set it has reasons.
+    commands.push_back({.text = "Select pg_catalog.current_setting('plan_cache_mode', true)"});
+    const std::vector<Answer> answers = sendAll(commands);
+    mPlansAsNeeded = std::string_view(PQgetvalue(answers.back().get(), 0, 0)) == "auto";
 }
 
 void Session::restoreSettings() {
@@ -142,6 +153,7 @@ void Session::restoreSettings() {
 
 void Session::limits(const Limits& limits) {
     if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
+    settle();
     mWire->limits(limits);
     if (!mWire->isUp()) return; // told to the server by `Reset`
     const Command command{.text = "Select pg_catalog.set_config('statement_timeout', $1, false)",
@@ -152,6 +164,7 @@ void Session::limits(const Limits& limits) {
 void Session::requireSchema() {
     const Command command{.text = mSchema.query()};
     if (command.text.empty()) return;
+    settle();
     mSchema.read(sendAll({&command, 1}).front().get());
 }
 
@@ -185,8 +198,7 @@ std::unique_ptr<Cursor> Session::openNative(std::string_view statement) {
     if (once.shape->effect == sql::Effect::Schema) once.shape->table = changedTable(statement);
     once.command.text = statement;
     if (once.shape->effect != sql::Effect::None) mAnnouncements.dropReads();
-    return cursorOn(outcomeOf(once, std::move(run({&once, 1}).front())), CursorType::ForwardOnly,
-                    LockType::ReadOnly);
+    return cursorOn(run(std::move(once)), CursorType::ForwardOnly, LockType::ReadOnly);
 }
 
 std::unique_ptr<Cursor> Session::cursorOn(Outcome outcome, CursorType cursorType, LockType lockType) {
@@ -209,7 +221,7 @@ std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType
             keyColumns += ", " + sql::quotedName(called) + "." + sql::quotedName(column);
     }
     Request once = literalRequest(statement, keyColumns);
-    Outcome outcome = outcomeOf(once, std::move(run({&once, 1}).front()));
+    Outcome outcome = run(std::move(once));
     if (!outcome.columns) return nullptr;
     auto cursor = std::make_unique<ResultCursor>(*this, std::move(outcome.rows), std::move(outcome.columns),
                                                  CursorType::Keyset, lockType, std::move(writeback));
@@ -223,7 +235,7 @@ Answer Session::runForWriting(Command command) {
     mAnnouncements.dropReads();
     Request request;
     request.command = std::move(command);
-    return std::move(run({&request, 1}).front());
+    return sendAlone(std::move(request)).next();
 }
 
 void Session::forget(const ResultCursor& cursor) {

@@ -2,6 +2,7 @@
 
 #include <korvane/ado/Connection.h>
 #include <korvane/ado/postgres/Announcements.h>
+#include <korvane/ado/postgres/Batch.h>
 #include <korvane/ado/postgres/CatalogDialect.h>
 #include <korvane/ado/postgres/Schema.h>
 #include <korvane/ado/postgres/Shapes.h>
@@ -56,11 +57,10 @@ class Session final : public Connection {
     void forget(const ResultCursor& cursor);
 
   private:
-    /// A statement ready to be sent.
-    struct Request {
-        std::shared_ptr<Shape> shape;
-        Form* form = nullptr; ///< null for a text that is sent as it is
-        Command command;
+    /// Announced statements on their way.
+    struct Ahead {
+        std::vector<Announcements::Item*> items; ///< one for each request
+        Batch batch;
     };
 
     void setUp();
@@ -75,8 +75,13 @@ class Session final : public Connection {
     std::optional<Outcome> takeAnnounced(std::string_view statement);
     void sendAnnounced(const Announcements::Item& first);
     std::vector<std::pair<Announcements::Item*, Request>> requestsFrom(const Announcements::Item& first);
-    std::vector<Answer> run(std::span<Request> requests);
-    std::vector<Command> preliminaries() const;
+    bool mayBeReadLater(const std::vector<Request>& requests) const;
+    void receiveAhead();
+    void settle();
+    Batch send(std::vector<Request> requests);
+    Batch sendAlone(Request request);
+    Outcome run(Request request);
+    std::vector<Command> preliminaries(bool plansOnce) const;
     std::vector<Answer> sendAll(std::span<const Command> commands);
     Outcome outcomeOf(const Request& request, Answer answer);
     std::shared_ptr<const ResultColumns> describe(const Shape& shape, const pg_result* rows) const;
@@ -96,6 +101,8 @@ class Session final : public Connection {
     Shapes mShapes;
     std::shared_ptr<std::vector<std::string>> mDropped = std::make_shared<std::vector<std::string>>();
     Announcements mAnnouncements;
+    std::optional<Ahead> mAhead;
+    bool mPlansAsNeeded = false; ///< the server decides by itself whether to plan for every value anew
     sql::Lifter mLifter;
     std::string mScratch;
     std::vector<ResultCursor*> mCursors;

@@ -21,6 +21,7 @@ std::string savepoint(std::int32_t level) {
 std::int32_t Transactions::begin(TransactionFor use) {
     requireNotLost();
     const bool joins = isOpen();
+    if (mLevels.empty()) mReads = !joins && use == TransactionFor::Reading;
     mLevels.push_back(joins);
     if (joins)
         mUnsent.push_back("Savepoint " + savepoint(level()));

@@ -22,9 +22,14 @@ class Transactions {
     void rollback();
     std::int32_t level() const { return static_cast<std::int32_t>(mLevels.size()); }
 
+    /// Whether all of it only reads: the outermost one was begun here, for that.
+    bool isReading() const { return level() > 0 && mReads; }
+
     /// What has to be sent before the next statement. `sent` says that it was.
     const std::vector<std::string>& unsent() const { return mUnsent; }
     void sent() { mUnsent.clear(); }
+    /// Whether that begins the transaction.
+    bool begins() const { return !hasBegun(); }
 
     /// Whether a statement that is sent now runs inside a transaction, ours or the owner's.
     bool isOpen() const { return level() > 0 || mWire.transaction() != Wire::Transaction::None; }
@@ -40,6 +45,7 @@ class Transactions {
 
     Wire& mWire;
     std::vector<bool> mLevels; ///< for each level whether it is a savepoint
+    bool mReads = false;
     std::vector<std::string> mUnsent;
 };
 

@@ -39,26 +39,6 @@ std::optional<milliseconds> connectTimeout(PGconn* handle) {
     return found;
 }
 
-// For the time of an exchange the handle is in pipeline mode and never blocks.
-class Pipeline {
-  public:
-    explicit Pipeline(PGconn* handle) : mHandle(handle), mWasNonBlocking(PQisnonblocking(handle)) {
-        mEntered = PQsetnonblocking(handle, 1) == 0 && PQenterPipelineMode(handle) == 1;
-    }
-    ~Pipeline() {
-        PQexitPipelineMode(mHandle);
-        PQsetnonblocking(mHandle, mWasNonBlocking);
-    }
-    Pipeline(const Pipeline&) = delete;
-    Pipeline& operator=(const Pipeline&) = delete;
-    bool entered() const { return mEntered; }
-
-  private:
-    PGconn* mHandle;
-    int mWasNonBlocking;
-    bool mEntered = false;
-};
-
 } // namespace
 
 void ClearResult::operator()(pg_result* result) const {
@@ -130,6 +110,8 @@ bool Wire::isUp() const {
 }
 
 Wire::Transaction Wire::transaction() const {
+    // Nobody sends ahead but inside a transaction.
+    if (mUnderWay) return Transaction::Open;
     switch (PQtransactionStatus(mHandle)) {
     case PQTRANS_INTRANS:
         return Transaction::Open;
@@ -153,16 +135,35 @@ std::string Wire::encoding(const std::string& name) {
 }
 
 std::vector<Answer> Wire::send(std::span<const Command> commands) {
-    const Pipeline pipeline(mHandle);
-    if (!pipeline.entered()) {
+    begin(commands);
+    std::vector<Answer> answers;
+    answers.reserve(commands.size());
+    while (answers.size() < commands.size())
+        answers.push_back(next());
+    if (Answer failure = end(); failure && !answers.empty()) answers.back() = std::move(failure);
+    return answers;
+}
+
+void Wire::begin(std::span<const Command> commands) {
+    // What came back would be taken for the answers to what went before.
+    if (mUnderWay) throw RuntimeError(RuntimeError::InvalidProcedureCall);
+    mUnderWay = true;
+    mWasNonBlocking = PQisnonblocking(mHandle);
+    if (PQsetnonblocking(mHandle, 1) != 0 || PQenterPipelineMode(mHandle) != 1) {
         if (PQstatus(mHandle) != CONNECTION_OK) lose("The connection to the database server was lost");
+        leavePipeline();
         throw RuntimeError(RuntimeError::InvalidConnection,
                            "The connection cannot be used now: its owner has something pending on it.");
     }
     for (const Command& command : commands)
         queue(command);
     if (PQpipelineSync(mHandle) == 0) lose("The connection to the database server was lost");
-    return receive(commands.size());
+}
+
+void Wire::leavePipeline() {
+    PQexitPipelineMode(mHandle);
+    PQsetnonblocking(mHandle, mWasNonBlocking);
+    mUnderWay = false;
 }
 
 void Wire::queue(const Command& command) {
@@ -188,23 +189,32 @@ void Wire::queue(const Command& command) {
     if (sent == 0) lose("The connection to the database server was lost");
 }
 
-std::vector<Answer> Wire::receive(std::size_t count) {
-    std::vector<Answer> answers;
+Answer Wire::next() {
     for (;;) {
-        Answer answer(next());
-        if (!answer) {
-            if (!isUp()) lose("The connection to the database server was lost");
-            continue; // the end of one command's answer
-        }
-        if (PQresultStatus(answer.get()) == PGRES_PIPELINE_SYNC) break;
-        if (answers.size() < count) answers.push_back(std::move(answer));
+        Answer answer = receive();
+        if (answer && PQresultStatus(answer.get()) == PGRES_PIPELINE_SYNC)
+            lose("The database server gave an answer that was not understood");
+        if (answer) return answer;
+        // Nothing is the end of one command's answer.
+        if (!isUp()) lose("The connection to the database server was lost");
     }
-    if (answers.size() != count) lose("The database server gave an answer that was not understood");
-    return answers;
+}
+
+Answer Wire::end() {
+    Answer failure;
+    for (;;) {
+        Answer answer = receive();
+        if (!answer && !isUp()) lose("The connection to the database server was lost");
+        if (!answer) continue;
+        if (PQresultStatus(answer.get()) == PGRES_PIPELINE_SYNC) break;
+        failure = std::move(answer);
+    }
+    leavePipeline();
+    return failure;
 }
 
 // The next answer; every byte that comes begins the waiting anew.
-pg_result* Wire::next() {
+Answer Wire::receive() {
     const milliseconds patience = mLimits.statement.count() > 0 ? mLimits.statement + grace : withoutLimit;
     while (PQisBusy(mHandle) != 0) {
         const int unsent = PQflush(mHandle);
@@ -217,7 +227,7 @@ pg_result* Wire::next() {
         if (!read || (unsent < 0 && PQisBusy(mHandle) != 0))
             lose("The connection to the database server was lost");
     }
-    return PQgetResult(mHandle);
+    return Answer(PQgetResult(mHandle));
 }
 
 bool Wire::await(short events, milliseconds patience) const {
@@ -233,7 +243,9 @@ bool Wire::await(short events, milliseconds patience) const {
 
 void Wire::lose(std::string_view what) {
     mLost = true;
-    throw connectionError(mHandle, what);
+    const RuntimeError error = connectionError(mHandle, what);
+    if (mUnderWay) leavePipeline();
+    throw error;
 }
 
 } // namespace Korvane::ado::postgres

@@ -50,6 +50,12 @@ class Wire {
     /// have not been carried out; their answers say so. Raises when the line is lost.
     std::vector<Answer> send(std::span<const Command> commands);
 
+    /// The same step by step: sends them, waits for the answer to each in turn, and for the end, where the
+    /// server may still say that all of it failed (null when it does not).
+    void begin(std::span<const Command> commands);
+    Answer next();
+    Answer end();
+
     bool isUp() const;
     bool isLent() const { return !mOwned; }
     /// Whether the owner of a lent handle has closed it. It must not be touched then.
@@ -73,8 +79,8 @@ class Wire {
     template <typename Poll>
     void connect(Poll poll);
     void queue(const Command& command);
-    std::vector<Answer> receive(std::size_t count);
-    pg_result* next();
+    Answer receive();
+    void leavePipeline();
     bool await(short events, std::chrono::milliseconds patience) const;
     [[noreturn]] void lose(std::string_view what);
 
@@ -82,6 +88,8 @@ class Wire {
     bool mOwned;
     StillLent mStillLent;
     bool mLost = false;
+    bool mUnderWay = false; ///< between `begin` and `end`: in pipeline mode, and never blocking
+    int mWasNonBlocking = 0;
     Limits mLimits;
 };
 

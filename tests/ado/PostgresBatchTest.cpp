@@ -1,0 +1,107 @@
+#include "ado/Engine.h"
+#include "support/ScratchSchema.h"
+
+#include <korvane/ado/Connection.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace Korvane::ado::Testing {
+
+using Korvane::Testing::ScratchSchema;
+
+/// A connection of our own, where announced reads are answered one by one.
+class ReadAhead : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!ScratchSchema::hasServer()) GTEST_SKIP() << ScratchSchema::noServer;
+        mSchema = std::make_unique<ScratchSchema>();
+        mDb = ado::open(mSchema->address());
+        mDb->Execute("Create Table T (ID Integer Primary Key, Value Integer)");
+        mDb->Execute("Insert Into T Values (1,10)");
+        mDb->Execute("Insert Into T Values (2,0)");
+        mDb->Execute("Insert Into T Values (3,30)");
+    }
+    static std::string select(int id) { return "Select 60/Value From T Where ID=" + std::to_string(id); }
+    std::string ask(const std::string& statement) { return one(mDb, statement); }
+
+    std::unique_ptr<ScratchSchema> mSchema;
+    std::shared_ptr<Connection> mDb;
+};
+
+TEST_F(ReadAhead, GivesTheFirstAnswerWhileTheServerIsAtWorkOnTheNext) {
+    // The server does not send less than it has room for until all is done.
+    const std::vector<std::string> statements{"Select repeat('x', 20000) As A", "Select 7 From pg_sleep(2)",
+                                              select(3)};
+    mDb->BeginTrans(TransactionFor::Reading);
+    mDb->Announce(statements);
+    const auto begun = std::chrono::steady_clock::now();
+    EXPECT_EQ(ask(statements[0]), std::string(20000, 'x'));
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::milliseconds(1900));
+    EXPECT_EQ(ask("Select 8"), "8"); // in between; what is on its way arrives first
+    EXPECT_EQ(ask(statements[2]) + ask(statements[1]), "27");
+    mDb->CommitTrans();
+}
+
+TEST_F(ReadAhead, FailsWhereTheStatementFails) {
+    const std::vector<std::string> statements{select(1), select(2), select(3)};
+    for (int turn = 0; turn < 2; ++turn) {
+        mDb->BeginTrans(TransactionFor::Reading);
+        mDb->Announce(statements);
+        EXPECT_EQ(ask(statements[0]), "6");
+        EXPECT_EQ(errorOf([&] { ask(statements[1]); }), RuntimeError::DivisionByZero);
+        EXPECT_EQ(ask(statements[2]), "2");
+        mDb->CommitTrans();
+    }
+}
+
+TEST_F(ReadAhead, IsLeftBehindAtAnyPoint) {
+    const std::vector<std::string> statements{select(1), select(2), select(3)};
+    const std::vector<std::function<void()>> leave{
+        [&] { mDb->RollbackTrans(); }, [&] { mDb->CommitTrans(); },
+        [&] {
+            mDb->BeginTrans();
+            mDb->Execute("Create Table U (ID Integer)");
+            mDb->RollbackTrans();
+            mDb->RollbackTrans();
+        },
+        [&] {
+            mDb->Announce(std::vector<std::string>{select(3), select(1)});
+            EXPECT_EQ(ask(select(3)), "2");
+            mDb->CommitTrans();
+        }};
+    for (const auto& way : leave) {
+        mDb->BeginTrans(TransactionFor::Reading);
+        mDb->Announce(statements);
+        EXPECT_EQ(ask(statements[0]), "6");
+        way();
+        EXPECT_EQ(mDb->transactionLevel(), 0);
+        EXPECT_EQ(ask("Select Count(*) From T") + ask(select(3)), "32");
+    }
+    mDb->BeginTrans(TransactionFor::Reading);
+    mDb->Announce(statements);
+    ask(statements[0]);
+    mDb.reset();
+}
+
+TEST_F(ReadAhead, PlansOnceForAllKeysUntilTheTransactionEnds) {
+    const std::string mode = "Select current_setting('plan_cache_mode')";
+    mDb->BeginTrans(TransactionFor::Reading);
+    mDb->Announce(std::vector<std::string>{select(1), select(3)});
+    EXPECT_EQ(ask(select(1)), "6");
+    EXPECT_EQ(ask(mode), "force_generic_plan");
+    mDb->CommitTrans();
+    EXPECT_EQ(ask(mode), "auto");
+}
+
+// It is when the transaction of the one statement ends that the server finds out.
+TEST_F(ReadAhead, ReportsWhatFailsBehindTheLastAnswer) {
+    mDb->Execute("Create Table U (ID Integer References T(ID) Deferrable Initially Deferred)");
+    EXPECT_EQ(errorOf([&] { mDb->Execute("Insert Into U Values (9)"); }), RuntimeError::DatabaseFailure);
+    EXPECT_EQ(ask("Select Count(*) From U"), "0");
+    mDb->Execute("Insert Into U Values (3)");
+    EXPECT_EQ(ask("Select Count(*) From U"), "1");
+}
+
+} // namespace Korvane::ado::Testing
