@@ -31,13 +31,11 @@ class ReadAhead : public testing::Test {
 };
 
 TEST_F(ReadAhead, GivesTheFirstAnswerWhileTheServerIsAtWorkOnTheNext) {
-    // The server does not send less than it has room for until all is done.
-    const std::vector<std::string> statements{"Select repeat('x', 20000) As A", "Select 7 From pg_sleep(2)",
-                                              select(3)};
+    const std::vector<std::string> statements{select(1), "Select 7 From pg_sleep(2)", select(3)};
     mDb->BeginTrans(TransactionFor::Reading);
     mDb->Announce(statements);
     const auto begun = std::chrono::steady_clock::now();
-    EXPECT_EQ(ask(statements[0]), std::string(20000, 'x'));
+    EXPECT_EQ(ask(statements[0]), "6");
     EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::milliseconds(1900));
     EXPECT_EQ(ask("Select 8"), "8"); // in between; what is on its way arrives first
     EXPECT_EQ(ask(statements[2]) + ask(statements[1]), "27");

@@ -182,6 +182,10 @@ void Session::sendAnnounced(const Announcements::Item& first) {
         requests.push_back(std::move(request));
     }
     const bool later = mayBeReadLater(requests);
+    // Many answers fill what the server sends at a time by themselves.
+    constexpr std::size_t few = 8;
+    for (Request& request : requests)
+        request.command.atOnce = later && requests.size() < few;
     mAhead.emplace(Ahead{std::move(items), send(std::move(requests))});
     while (mAhead && !later)
         receiveAhead();

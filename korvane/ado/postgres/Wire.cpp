@@ -186,6 +186,7 @@ void Wire::queue(const Command& command) {
         sent = PQsendQueryPrepared(mHandle, command.name.c_str(), count, values.data(), nullptr, nullptr, 0);
         break;
     }
+    if (sent != 0 && command.atOnce) sent = PQsendFlushRequest(mHandle);
     if (sent == 0) lose("The connection to the database server was lost");
 }
 

@@ -32,6 +32,7 @@ struct Command {
     std::string text{};
     std::vector<TypeId> types{};
     std::vector<std::optional<std::string>> values{};
+    bool atOnce = false; ///< the server is not to keep the answer until it has more to send
 };
 
 /// The line to a server: sends commands together and waits for what comes back, never without end. Once the
