@@ -121,11 +121,9 @@ void Session::letGo() noexcept {
 // Texts come as UTF-8 and dates in the ISO form, whatever the server is set to.
 void Session::setUp() {
     mFormerSettings.clear();
-    const std::string encoding = mWire->encoding("UTF8");
-    std::vector<std::pair<std::string, std::string>> settings{{"DateStyle", "ISO, MDY"},
-                                                              {"standard_conforming_strings", "on"}};
+    std::vector<std::pair<std::string, std::string>> settings{
+        {"client_encoding", "UTF8"}, {"DateStyle", "ISO, MDY"}, {"standard_conforming_strings", "on"}};
     if (mWire->isLent()) {
-        mFormerSettings.emplace_back("client_encoding", encoding);
         for (const auto& [name, value] : settings)
             mFormerSettings.emplace_back(name, mWire->parameter(name.c_str()));
     }

@@ -4,6 +4,7 @@
 
 #include <libpq-fe.h>
 #include <poll.h>
+#include <sys/socket.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -127,13 +128,6 @@ std::string Wire::parameter(const char* name) const {
     return value ? value : "";
 }
 
-std::string Wire::encoding(const std::string& name) {
-    std::string before = parameter("client_encoding");
-    if (before != name && PQsetClientEncoding(mHandle, name.c_str()) != 0)
-        throw connectionError(mHandle, "The server does not give its texts as " + name);
-    return before;
-}
-
 std::vector<Answer> Wire::send(std::span<const Command> commands) {
     begin(commands);
     std::vector<Answer> answers;
@@ -245,6 +239,9 @@ bool Wire::await(short events, milliseconds patience) const {
 void Wire::lose(std::string_view what) {
     mLost = true;
     const RuntimeError error = connectionError(mHandle, what);
+    // When the network is back the server has to learn that nobody is there any more: what it holds for us,
+    // others wait for.
+    if (mOwned && PQsocket(mHandle) >= 0) ::shutdown(PQsocket(mHandle), SHUT_RDWR);
     if (mUnderWay) leavePipeline();
     throw error;
 }

@@ -73,8 +73,6 @@ class Wire {
     Transaction transaction() const;
     /// A setting that the server keeps us informed of.
     std::string parameter(const char* name) const;
-    /// Makes texts UTF-8 on the line; returns what they were before.
-    std::string encoding(const std::string& name);
 
   private:
     template <typename Poll>
