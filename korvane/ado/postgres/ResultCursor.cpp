@@ -53,12 +53,13 @@ void ResultCursor::value(int ordinal, Variant& value) const {
             read(*current, type, value);
         else
             value = Variant::null();
-    } else if (PQgetisnull(mRows.get(), mRow, ordinal)) {
-        value = Variant::null();
-    } else {
-        const auto length = static_cast<std::size_t>(PQgetlength(mRows.get(), mRow, ordinal));
-        read({PQgetvalue(mRows.get(), mRow, ordinal), length}, type, value);
+        return;
     }
+    const auto length = static_cast<std::size_t>(PQgetlength(mRows.get(), mRow, ordinal));
+    if (length == 0 && PQgetisnull(mRows.get(), mRow, ordinal))
+        value = Variant::null();
+    else
+        read({PQgetvalue(mRows.get(), mRow, ordinal), length}, type, value);
 }
 
 // The table's columns behind the fields to be changed.
