@@ -55,11 +55,12 @@ void ResultCursor::value(int ordinal, Variant& value) const {
             value = Variant::null();
         return;
     }
-    const auto length = static_cast<std::size_t>(PQgetlength(mRows.get(), mRow, ordinal));
-    if (length == 0 && PQgetisnull(mRows.get(), mRow, ordinal))
+    // No text of this engine holds a zero byte.
+    const std::string_view text = PQgetvalue(mRows.get(), mRow, ordinal);
+    if (text.empty() && PQgetisnull(mRows.get(), mRow, ordinal))
         value = Variant::null();
     else
-        read({PQgetvalue(mRows.get(), mRow, ordinal), length}, type, value);
+        read(text, type, value);
 }
 
 // The table's columns behind the fields to be changed.
