@@ -137,6 +137,51 @@ std::optional<Decimal> toDecimal(float value) {
     return decimalFromFloat(value, 7);
 }
 
+std::optional<Decimal> parseDecimal(std::string_view text) {
+    const auto written = numberDigits(text);
+    if (!written) return std::nullopt;
+    const std::size_t mark = std::min(written->find('e'), written->size());
+    std::int64_t scale = 0;
+    if (mark < written->size() &&
+        std::from_chars(written->data() + mark + 1, written->data() + written->size(), scale).ec !=
+            std::errc{})
+        return std::nullopt;
+    scale = -scale;
+    std::string digits = written->substr(0, mark);
+    const bool negative = digits.front() == '-';
+    if (negative) digits.erase(0, 1);
+    if (const auto point = digits.find('.'); point != std::string::npos) {
+        scale += static_cast<std::int64_t>(digits.size() - point - 1);
+        digits.erase(point, 1);
+    }
+    digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size()));
+    for (; scale > 0 && digits.ends_with('0'); --scale)
+        digits.pop_back();
+    if (digits.empty()) return Decimal{};
+    constexpr std::size_t mostDigits = 29;
+    if (scale > largestScale || digits.size() > mostDigits || scale < -static_cast<std::int64_t>(mostDigits))
+        return std::nullopt;
+    for (; scale < 0; ++scale)
+        digits += '0';
+    if (digits.size() > mostDigits) return std::nullopt;
+    Wide number = 0;
+    for (const char digit : digits)
+        number = number * 10 + static_cast<unsigned>(digit - '0');
+    if (number > largestMantissa) return std::nullopt;
+    return decimalOf(number, static_cast<int>(scale), negative);
+}
+
+std::optional<Currency> toCurrency(const Decimal& value) {
+    const Decimal rescaled = value.scale > currencyScale
+                                 ? value
+                                 : decimalOf(mantissa(value) * powerOfTen(currencyScale - value.scale),
+                                             currencyScale, value.negative);
+    constexpr Wide most = (Wide{1} << 63) - 1;
+    if (rescaled.scale != currencyScale || mantissa(rescaled) > most) return std::nullopt;
+    const auto magnitude = static_cast<std::int64_t>(rescaled.low);
+    return Currency{value.negative ? -magnitude : magnitude};
+}
+
 std::optional<Currency> toCurrency(double value) {
     const double scaled = std::nearbyint(value * 10000.0);
     if (!(std::abs(scaled) < 9223372036854775808.0)) return std::nullopt;

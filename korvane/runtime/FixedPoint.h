@@ -31,6 +31,12 @@ Decimal toDecimal(Currency value);
 std::optional<Decimal> toDecimal(double value);
 std::optional<Decimal> toDecimal(float value);
 
+/// With all its digits, as `parseNumber` reads it. Nothing for what a decimal cannot hold exactly.
+std::optional<Decimal> parseDecimal(std::string_view text);
+
+/// Exact; nothing for what needs more than four decimals or is too wide.
+std::optional<Currency> toCurrency(const Decimal& value);
+
 /// Rounded to four decimals, halves to even. Nothing when it does not fit.
 std::optional<Currency> toCurrency(double value);
 

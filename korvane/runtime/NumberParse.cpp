@@ -49,7 +49,7 @@ struct Marks {
 };
 
 /// "&H" or "&O" and its digits.
-std::optional<double> parseBased(std::string_view text) {
+std::optional<std::string> takeBased(std::string_view text) {
     if (text.size() < 3) return std::nullopt;
     const bool hex = text[1] == 'H' || text[1] == 'h';
     if (!hex && text[1] != 'O' && text[1] != 'o') return std::nullopt;
@@ -60,7 +60,7 @@ std::optional<double> parseBased(std::string_view text) {
     text.remove_prefix(static_cast<std::size_t>(rest - text.data()));
     skipWhiteSpace(text);
     if (!text.empty()) return std::nullopt;
-    return static_cast<double>(value);
+    return std::to_string(value);
 }
 
 /// An exponent, in the form that from_chars reads. Leaves `text` alone when its letter has no digits behind
@@ -114,10 +114,10 @@ std::optional<double> valueOf(const std::string& number) {
 
 } // namespace
 
-std::optional<double> parseNumber(std::string_view text) {
+std::optional<std::string> numberDigits(std::string_view text) {
     Marks marks;
     skipWhiteSpace(text);
-    if (!text.empty() && text[0] == '&') return parseBased(text);
+    if (!text.empty() && text[0] == '&') return takeBased(text);
     while (skipWhiteSpace(text) || marks.takeSign(text) || marks.takeCurrency(text) ||
            marks.takeOpening(text)) {
     }
@@ -128,8 +128,17 @@ std::optional<double> parseNumber(std::string_view text) {
            marks.takeClosing(text)) {
     }
     if (!text.empty() || marks.opened != marks.closed) return std::nullopt;
-    const auto value = valueOf(number);
-    return value && marks.negative() ? -*value : value;
+    if (marks.negative()) number.insert(0, 1, '-');
+    return number;
+}
+
+std::optional<double> parseNumber(std::string_view text) {
+    auto number = numberDigits(text);
+    if (!number) return std::nullopt;
+    const bool negative = number->front() == '-';
+    if (negative) number->erase(0, 1);
+    const auto value = valueOf(*number);
+    return value && negative ? -*value : value;
 }
 
 bool isNumeric(std::string_view text) {

@@ -23,6 +23,11 @@ bool isNumeric(std::string_view text);
 /// The number that `isNumeric` would accept; nothing otherwise.
 std::optional<double> parseNumber(std::string_view text);
 
+/// The same number with every digit that was written, in plain form; nothing for a text that is none.
+///
+///     numberDigits("($1,234.50)");   // "-1234.50"
+std::optional<std::string> numberDigits(std::string_view text);
+
 /// The numeric value of the digits that a text begins with, blanks skipped; 0 when there are none.
 ///
 ///     leadingNumber("12abc");   // 12

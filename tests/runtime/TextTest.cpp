@@ -1,3 +1,4 @@
+#include <korvane/runtime/FixedPoint.h>
 #include <korvane/runtime/Text.h>
 
 #include "support/CaseTable.h"
@@ -26,6 +27,35 @@ TEST(Text, ReadsVeryLongNumbers) {
     EXPECT_EQ(parseNumber("0." + zeros + "1"), 0);
     EXPECT_EQ(parseNumber("1" + zeros), std::nullopt);
     EXPECT_EQ(parseNumber("0" + std::string(400, '9')), std::nullopt);
+}
+
+TEST(Text, KeepsEveryDigitOfANumber) {
+    const struct {
+        const char* text;
+        const char* digits;
+        const char* decimal; ///< null: no decimal holds it
+    } cases[] = {
+        {" ($1,234.50) ", "-1234.50", "-1234.5"},
+        {"+12345678901234567890.123", "12345678901234567890.123", "12345678901234567890.123"},
+        {"-0.000", "-0.000", "0"},
+        {".5D+2", ".5e2", "50"},
+        {"1e-28", "1e-28", "0.0000000000000000000000000001"},
+        {"1e-29", "1e-29", nullptr},
+        {"79228162514264337593543950335", "79228162514264337593543950335", "79228162514264337593543950335"},
+        {"79228162514264337593543950336", "79228162514264337593543950336", nullptr},
+        {"1e9999999", "1e9999999", nullptr},
+        {"&H1F", "31", "31"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(numberDigits(c.text), c.digits);
+        const auto decimal = parseDecimal(c.text);
+        ASSERT_EQ(decimal.has_value(), c.decimal != nullptr) << c.text;
+        if (decimal) EXPECT_EQ(fixedPointText(*decimal), c.decimal);
+    }
+    EXPECT_FALSE(numberDigits("12 abc"));
+    EXPECT_EQ(toCurrency(*parseDecimal("-922337203685477.5807")), Currency{-9223372036854775807});
+    EXPECT_FALSE(toCurrency(*parseDecimal("922337203685477.5808")));
+    EXPECT_FALSE(toCurrency(*parseDecimal("0.00001")));
 }
 
 TEST(Text, TakesTheNumberThatATextBeginsWith) {
