@@ -17,6 +17,8 @@ struct ColumnInfo {
     DataType type = DataType::VarWChar;
     std::int32_t definedSize = 0; ///< characters; 0 when the type has no length
     bool nullable = true;         ///< false when the database is known to refuse a Null in it
+    /// The engine keeps something else (a time of day, a number of its own) that goes in and out as text.
+    bool onlyShownAsText = false;
 };
 
 /// One field of the current row with the value it is to take.

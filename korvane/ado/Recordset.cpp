@@ -11,15 +11,7 @@ struct Recordset::Opened {
     // Behind the cursor, which is released first.
     std::shared_ptr<Connection> connection;
     std::unique_ptr<Cursor> cursor;
-    int columns; ///< how many there are
-    std::vector<FieldChange> pending{};
-
-    /// Of a field that is there; raises ItemNotFound.
-    int ordinalOf(const FieldKey& key) const {
-        const int ordinal = key.isOrdinal() ? key.ordinal() : cursor->columnIndex(key.name());
-        if (ordinal < 0 || ordinal >= columns) throw RuntimeError(RuntimeError::ItemNotFound);
-        return ordinal;
-    }
+    std::vector<FieldChange> pending;
 
     const FieldChange* pendingFor(int ordinal) const {
         for (const FieldChange& change : pending) {
@@ -28,6 +20,18 @@ struct Recordset::Opened {
         return nullptr;
     }
 };
+
+namespace {
+
+int ordinalOf(const Cursor& cursor, const FieldKey& key) {
+    const int ordinal = key.isOrdinal() ? key.ordinal() : cursor.columnIndex(key.name());
+    if (ordinal < 0 || ordinal >= static_cast<int>(cursor.columns().size())) {
+        throw RuntimeError(RuntimeError::ItemNotFound);
+    }
+    return ordinal;
+}
+
+} // namespace
 
 Recordset::Recordset() = default;
 Recordset::~Recordset() = default;
@@ -52,8 +56,8 @@ Recordset::Opened& Recordset::current() const {
 }
 
 const ColumnInfo& Recordset::columnInfo(const FieldKey& key) const {
-    const Opened& open = opened();
-    return open.cursor->columns()[static_cast<std::size_t>(open.ordinalOf(key))];
+    const Cursor& cursor = *opened().cursor;
+    return cursor.columns()[static_cast<std::size_t>(ordinalOf(cursor, key))];
 }
 
 CursorType Recordset::CursorType() const {
@@ -80,9 +84,7 @@ void Recordset::Open(std::string_view source, const std::shared_ptr<Connection>&
     mOpened.reset();
     ++mOpening;
     auto cursor = connection->openCursor(source, mCursorType, mLockType);
-    if (!cursor) return;
-    const auto columns = static_cast<int>(cursor->columns().size());
-    mOpened = std::make_unique<Opened>(Opened{connection, std::move(cursor), columns});
+    if (cursor) mOpened = std::make_unique<Opened>(Opened{connection, std::move(cursor), {}});
 }
 
 void Recordset::Close() {
@@ -115,11 +117,11 @@ void Recordset::MoveNext() {
 }
 
 std::int32_t Recordset::FieldCount() const {
-    return opened().columns;
+    return static_cast<std::int32_t>(opened().cursor->columns().size());
 }
 
 Field Recordset::Fields(const FieldKey& key) const {
-    const int ordinal = opened().ordinalOf(key);
+    const int ordinal = ordinalOf(*opened().cursor, key);
     return {std::const_pointer_cast<Recordset>(shared_from_this()), ordinal, mOpening};
 }
 
@@ -134,14 +136,14 @@ Variant Recordset::Value(const FieldKey& key) const {
 }
 
 void Recordset::Value(const FieldKey& key, Variant& value) const {
-    opened().ordinalOf(key);
+    ordinalOf(*opened().cursor, key);
     if (!ValueUnlessEof(key, value)) throw RuntimeError(RuntimeError::NoCurrentRecord);
 }
 
 std::optional<int> Recordset::ValueUnlessEof(const FieldKey& key, Variant& value) const {
     const Opened& open = opened();
     if (open.cursor->atEnd()) return std::nullopt;
-    const int ordinal = open.ordinalOf(key);
+    const int ordinal = ordinalOf(*open.cursor, key);
     if (const FieldChange* change = open.pendingFor(ordinal))
         value = change->value;
     else
@@ -150,7 +152,7 @@ std::optional<int> Recordset::ValueUnlessEof(const FieldKey& key, Variant& value
 }
 
 void Recordset::SetValue(const FieldKey& key, const Variant& value) {
-    const int ordinal = opened().ordinalOf(key);
+    const int ordinal = ordinalOf(*opened().cursor, key);
     Opened& open = current();
     if (open.cursor->lockType() == LockType::ReadOnly) throw RuntimeError(RuntimeError::ReadOnlyRecordset);
     if (value.isArray()) throw RuntimeError(RuntimeError::TypeMismatch);

@@ -14,7 +14,10 @@ ResultColumns::ResultColumns(std::vector<ColumnInfo> columns)
     : mColumns(std::move(columns)), mSlots(std::bit_ceil(mColumns.size() * 2 + 1), -1) {
     for (std::size_t i = 0; i < mColumns.size(); ++i) {
         const std::size_t slot = slotOf(mColumns[i].name);
-        if (mSlots[slot] < 0) mSlots[slot] = static_cast<int>(i);
+        if (mSlots[slot] < 0)
+            mSlots[slot] = static_cast<int>(i);
+        else
+            mHasTwins = true;
     }
 }
 
@@ -51,6 +54,11 @@ std::size_t ResultColumns::slotOf(std::string_view name) const {
 }
 
 int ResultColumns::indexOf(std::string_view name) const {
+    if (mHasTwins) {
+        const auto same = [&](const ColumnInfo& column) { return column.name == name; };
+        const auto exact = std::find_if(mColumns.begin(), mColumns.end(), same);
+        if (exact != mColumns.end()) return static_cast<int>(exact - mColumns.begin());
+    }
     return mSlots[slotOf(name)];
 }
 

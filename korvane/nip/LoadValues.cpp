@@ -52,18 +52,16 @@ bool canStandInStatement(const Variant& value) {
 } // namespace
 
 bool cNIP::Load(std::int32_t encounterID, std::string_view patientID, bool newEncounter) {
-    mHoldsValues = attempt("Error in cNip.Load: ", [&] {
+    const bool loaded = guarded("Error in cNip.Load: ", false, [&] {
         if (!mStructureLoaded && !LoadStructure(mConnection)) return false;
         mEncounterID = encounterID;
         mPatientID = patientID;
         mNewEncounter = newEncounter;
-        return withCurrentSchema([&] {
-            loadValues();
-            return true;
-        });
+        loadValues();
+        return true;
     });
-    if (!mHoldsValues) forgetValues();
-    return mHoldsValues;
+    if (!loaded) forgetValues();
+    return loaded;
 }
 
 void cNIP::forgetValues() {
@@ -95,7 +93,6 @@ void cNIP::writeLoadStatements() {
         if (count == mStatements.size()) mStatements.emplace_back();
         return mStatements[count++];
     };
-    next() = mConnection->schemaMarkStatement();
     for (std::size_t i = 1; i < mGroups.size(); ++i) {
         FieldList& list = fieldListOf(mGroups[i]);
         if (list.columns.empty()) continue;
@@ -116,8 +113,7 @@ void cNIP::loadValues() {
     writeLoadStatements();
     Snapshot snapshot(*mConnection);
     mConnection->Announce(mStatements);
-    requireCurrentSchema();
-    auto statement = mStatements.cbegin() + 1;
+    auto statement = mStatements.cbegin();
     SQLData current;
     SQLData latest;
     for (std::size_t i = 1; i < mGroups.size(); ++i) {

@@ -38,14 +38,15 @@ class KnownTables : public ado::sql::Tables {
         }
     }
 
-    std::string nameOf(std::string_view table) const override {
-        const auto found = mNames.find(lowerCase(table));
+    std::string nameOf(const ado::sql::TableName& table) const override {
+        const auto found = mNames.find(lowerCase(table.name));
         return found == mNames.end() ? std::string() : found->second;
     }
 
-    std::span<const ado::ColumnInfo> columnsOf(std::string_view table) const override {
-        const auto found = mTables.find(lowerCase(table));
-        return found == mTables.end() ? std::span<const ado::ColumnInfo>{} : found->second;
+    std::span<const ado::ColumnInfo> columnsOf(const ado::sql::TableName& table) const override {
+        const auto found = mTables.find(lowerCase(table.name));
+        return found == mTables.end() || !table.schema.empty() ? std::span<const ado::ColumnInfo>{}
+                                                               : found->second;
     }
 
   private:

@@ -3,8 +3,6 @@
 #include <korvane/ado/Connection.h>
 #include <korvane/runtime/RuntimeError.h>
 
-#include <algorithm>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,10 +21,9 @@ class RecordingConnection : public ado::Connection {
   public:
     explicit RecordingConnection(std::shared_ptr<ado::Connection> real) : mReal(std::move(real)) {}
 
-    /// Every statement in the order in which it was run, also one that failed; without those that only ask
-    /// whether the schema has changed.
+    /// Every statement in the order in which it was run, also one that failed.
     std::vector<std::string> statements;
-    /// Every statement that was announced, without those either.
+    /// Every statement that was announced.
     std::vector<std::string> announced;
     /// A statement that contains this text fails with `failure` instead of being run. Empty: none does.
     std::string failOn;
@@ -36,8 +33,6 @@ class RecordingConnection : public ado::Connection {
     /// comes, whether it was `carriedOut` or not, and `State` is 0 until `Reset`.
     std::string loseAnswerOf;
     bool carriedOut = true;
-    /// How many more statements, commits among them, run before one fails; below 0: none does.
-    int failAfter = -1;
 
     /// Runs `statement` past the record, to prepare or look at what is stored.
     std::int32_t quietly(std::string_view statement) { return mReal->Execute(statement); }
@@ -53,7 +48,6 @@ class RecordingConnection : public ado::Connection {
     }
     std::int32_t BeginTrans(ado::TransactionFor use) override { return mReal->BeginTrans(use); }
     void CommitTrans() override {
-        step();
         if (transactionLevel() > 1 || !losesAnswerOf("Commit")) return mReal->CommitTrans();
         carriedOut ? mReal->CommitTrans() : mReal->RollbackTrans();
         loseLine();
@@ -61,12 +55,9 @@ class RecordingConnection : public ado::Connection {
     void RollbackTrans() override { mReal->RollbackTrans(); }
     std::int32_t transactionLevel() const override { return mReal->transactionLevel(); }
     void Announce(std::span<const std::string> coming) override {
-        std::ranges::copy_if(coming, std::back_inserter(announced), [&](const std::string& statement) {
-            return statement != schemaMarkStatement();
-        });
+        announced.insert(announced.end(), coming.begin(), coming.end());
         mReal->Announce(coming);
     }
-    std::string schemaMarkStatement() const override { return mReal->schemaMarkStatement(); }
     void Reset() override {
         mReal->Reset();
         mLost = false;
@@ -84,12 +75,7 @@ class RecordingConnection : public ado::Connection {
     const ado::CatalogDialect& catalogDialect() const override { return mReal->catalogDialect(); }
 
   private:
-    void step() {
-        if (failAfter >= 0 && failAfter-- == 0) throw failure;
-    }
     void note(std::string_view statement) {
-        step();
-        if (statement == schemaMarkStatement()) return;
         statements.emplace_back(statement);
         if (!failOn.empty() && statement.find(failOn) != std::string_view::npos) throw failure;
     }

@@ -10,15 +10,18 @@
 
 namespace Korvane::ado::postgres {
 
-Batch::Batch(Wire& wire, bool guarded, std::vector<Command> before, std::vector<Request> requests)
+Batch::Batch(Wire& wire, bool guarded, std::vector<Command> before, std::vector<Command> within,
+             std::vector<Request> requests)
     : mWire(wire), mGuarded(guarded), mRequests(std::move(requests)) {
-    mWire.begin(commands(std::move(before)));
+    mWire.begin(commands(std::move(before), std::move(within)));
 }
 
-std::vector<Command> Batch::commands(std::vector<Command> before) {
+std::vector<Command> Batch::commands(std::vector<Command> before, std::vector<Command> within) {
     std::vector<Command> commands = std::move(before);
     mGuard = commands.size();
     if (mGuarded) commands.push_back({.text = "Savepoint korvane_guard"});
+    for (Command& command : within)
+        commands.push_back(std::move(command));
     mSteps.resize(commands.size());
     for (Request& request : mRequests) {
         Form* form = request.form;

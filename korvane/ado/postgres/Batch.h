@@ -21,8 +21,9 @@ struct Request {
 class Batch {
   public:
     /// Sends the requests, and what has to go before them; `guarded`: inside a transaction, which is to
-    /// outlive a failure.
-    Batch(Wire& wire, bool guarded, std::vector<Command> before, std::vector<Request> requests);
+    /// outlive a failure, also of `within`, which goes before them too.
+    Batch(Wire& wire, bool guarded, std::vector<Command> before, std::vector<Command> within,
+          std::vector<Request> requests);
 
     const std::vector<Request>& requests() const { return mRequests; }
     /// How many of them have been answered.
@@ -39,7 +40,7 @@ class Batch {
         bool isRequest = false;
     };
 
-    std::vector<Command> commands(std::vector<Command> before);
+    std::vector<Command> commands(std::vector<Command> before, std::vector<Command> within);
     Answer receive();
     void finish();
     void end();

@@ -64,8 +64,13 @@ void Definition::table() {
     skip("not");
     skip("exists");
     if (!token(mAt).isName()) return;
+    if (token(mAt + 1).isSymbol('.') && token(mAt + 2).isName()) {
+        mSchema = sql::plainName(token(mAt));
+        write(mAt, mTables.schemaOf(mSchema));
+        mAt += 2;
+    }
     mTable = sql::plainName(token(mAt));
-    write(mAt++, mTables.nameOf(mTable));
+    write(mAt++, mTables.nameOf({mTable, mSchema}));
 }
 
 void Definition::createTable() {
@@ -122,7 +127,7 @@ void Definition::alterTable() {
 }
 
 void Definition::column(std::size_t at) {
-    const ColumnInfo* known = columnNamed(mTables.columnsOf(mTable), sql::plainName(token(at)));
+    const ColumnInfo* known = columnNamed(mTables.columnsOf({mTable, mSchema}), sql::plainName(token(at)));
     write(at, known ? known->name : std::string());
 }
 

@@ -44,6 +44,7 @@ class Definition {
     const sql::Statement& mStatement;
     const sql::Tables& mTables;
     std::size_t mAt = 0;
+    std::string mSchema; ///< of the table, when it is named
     std::string mTable;
     std::unordered_map<std::string, std::string> mNewNames; ///< spelling by the name in lower case
     std::vector<Change> mChanges;

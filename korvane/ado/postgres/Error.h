@@ -15,6 +15,11 @@ namespace Korvane::ado::postgres {
 int nativeCode(std::string_view sqlState);
 std::string sqlState(int nativeCode);
 
+/// Whether a failure may come from tables that another program has changed, or from a value that was lifted
+/// out and stands where the engine cannot tell its type: as literal text, with the tables read anew, it may
+/// do.
+bool mayDoBetterAsText(const RuntimeError& error);
+
 /// The failure that the server reported: its message, what a person can do about it where that is known, and
 /// its code.
 RuntimeError engineError(const pg_result* result);

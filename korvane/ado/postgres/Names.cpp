@@ -1,5 +1,6 @@
 #include <korvane/ado/postgres/Names.h>
 
+#include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
 
 #include <algorithm>
@@ -126,6 +127,14 @@ std::string newSpelling(std::string_view name) {
     const bool isPlain = !lower.empty() && std::all_of(lower.begin(), lower.end(), inWord) &&
                          (lower.front() < '0' || lower.front() > '9');
     return isPlain ? lower : std::string(name);
+}
+
+void requireKeepable(std::string_view name) {
+    constexpr std::size_t longest = 63;
+    if (name.size() <= longest) return;
+    throw RuntimeError(RuntimeError::InvalidArgument, "The name \"" + std::string(name) +
+                                                          "\" is longer than the " + std::to_string(longest) +
+                                                          " bytes that the database keeps of one.");
 }
 
 bool isPlainFor(std::string_view written, std::string_view spelling) {

@@ -13,6 +13,10 @@ bool isPlainFor(std::string_view written, std::string_view spelling);
 /// been written without, in lower case, so that it is found so by every other program; any other as it is.
 std::string newSpelling(std::string_view name);
 
+/// Raises InvalidArgument for a name that is longer than the engine keeps: it would cut it without a word,
+/// and find another table or column.
+void requireKeepable(std::string_view name);
+
 /// Whether a word cannot be a column's name without marks.
 bool isReserved(std::string_view lowerCaseWord);
 

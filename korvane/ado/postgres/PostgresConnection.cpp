@@ -85,6 +85,11 @@ std::shared_ptr<Connection> adopt(pg_conn* handle, StillLent stillLent) {
         PQtransactionStatus(handle) == PQTRANS_ACTIVE) {
         throw RuntimeError(RuntimeError::InvalidConnection);
     }
+    if (PQtransactionStatus(handle) == PQTRANS_INERROR) {
+        throw RuntimeError(RuntimeError::InvalidConnection,
+                           "The connection is inside a transaction that has failed; it has to be rolled back "
+                           "before it is handed over.");
+    }
     return std::make_shared<Session>(std::make_unique<Wire>(handle, std::move(stillLent)));
 }
 

@@ -31,9 +31,17 @@ struct Limits {
 std::shared_ptr<Connection> open(std::string_view address, const Limits& limits = {});
 
 /// Works on a connection that the host opened and goes on owning: it is never closed here, and it must
-/// outlive the use of what is returned. Meanwhile its texts are UTF-8 and its dates in the ISO form; what
-/// they were comes back at the end. A transaction that the host has open is joined. It is used by one side at
-/// a time; a host that has a pipeline or an answer pending cannot hand it over (InvalidConnection).
+/// outlive the use of what is returned. Meanwhile its texts are UTF-8, its dates in the ISO form and its
+/// numbers given with all their digits; what these settings were comes back at the end. A transaction that
+/// the host has open is joined. It is used by one side at a time; a host that has a pipeline or an answer
+/// pending, or is inside a transaction that has failed, cannot hand it over (InvalidConnection).
+///
+/// Best handed over and let go of outside of transactions: the server takes back what was set in a
+/// transaction that is rolled back. Our settings are made anew then. The host's come back when we are let go
+/// of inside a transaction that it commits; when it rolls that back, ours remain and it has to set its own
+/// (client_encoding, DateStyle, standard_conforming_strings, extra_float_digits, and statement_timeout after
+/// `setLimits`). They remain too when we are destroyed inside one that has failed; `Close` refuses that
+/// (TransactionOpen).
 ///
 /// A host that cannot promise to keep it gives `stillLent`, which is asked before every use. Once it says no,
 /// the handle is not touched any more, and the connection is as good as closed (`State` is 0).

@@ -1,5 +1,6 @@
 #include <korvane/ado/postgres/ResultCursor.h>
 
+#include <korvane/ado/postgres/Error.h>
 #include <korvane/ado/postgres/Session.h>
 #include <korvane/ado/postgres/Values.h>
 #include <korvane/ado/sql/Names.h>
@@ -38,11 +39,18 @@ std::int32_t ResultCursor::rowCount() const {
     return mCursorType == ado::CursorType::ForwardOnly ? -1 : mRowCount;
 }
 
+// Blanks behind a text of fixed length mean nothing to the engine.
+std::string_view ResultCursor::stored(int column) const {
+    std::string_view text(PQgetvalue(mRows.get(), mRow, column),
+                          static_cast<std::size_t>(PQgetlength(mRows.get(), mRow, column)));
+    if (PQftype(mRows.get(), column) != types::blankPadded) return text;
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
 ResultCursor::Cell ResultCursor::cell(int column) const {
     if (const auto written = mWritten.find({mRow, column}); written != mWritten.end()) return written->second;
     if (PQgetisnull(mRows.get(), mRow, column)) return std::nullopt;
-    return std::string(PQgetvalue(mRows.get(), mRow, column),
-                       static_cast<std::size_t>(PQgetlength(mRows.get(), mRow, column)));
+    return std::string(stored(column));
 }
 
 void ResultCursor::value(int ordinal, Variant& value) const {
@@ -53,48 +61,57 @@ void ResultCursor::value(int ordinal, Variant& value) const {
             read(*current, type, value);
         else
             value = Variant::null();
-        return;
-    }
-    // No text of this engine holds a zero byte.
-    const std::string_view text = PQgetvalue(mRows.get(), mRow, ordinal);
-    if (text.empty() && PQgetisnull(mRows.get(), mRow, ordinal))
+    } else if (PQgetisnull(mRows.get(), mRow, ordinal)) {
         value = Variant::null();
-    else
-        read(text, type, value);
+    } else {
+        read(stored(ordinal), type, value);
+    }
 }
 
-// The table's columns behind the fields to be changed.
-std::vector<std::string> ResultCursor::requireOrigins(std::span<const FieldChange> changes) const {
-    std::vector<std::string> origins;
+// The table's columns behind the fields to be changed; none when one of them is no such column.
+std::vector<const ColumnInfo*> ResultCursor::findOrigins(std::span<const FieldChange> changes) const {
+    std::vector<const ColumnInfo*> origins;
     for (const FieldChange& change : changes) {
-        std::string origin;
-        if (mLockType != ado::LockType::ReadOnly && !mWriteback.key.empty()) {
-            origin = mSession->schema().originOf(mWriteback.table, PQftable(mRows.get(), change.ordinal),
-                                                 PQftablecol(mRows.get(), change.ordinal));
-        }
-        if (origin.empty()) throw RuntimeError(RuntimeError::ReadOnlyRecordset);
-        origins.push_back(std::move(origin));
+        origins.push_back(mSession->schema().originOf(mWriteback.name(),
+                                                      PQftable(mRows.get(), change.ordinal),
+                                                      PQftablecol(mRows.get(), change.ordinal)));
+        if (!origins.back()) return {};
     }
     return origins;
 }
 
-// The values as they were stored come back with it; no row comes back when it was not found.
+std::vector<const ColumnInfo*> ResultCursor::requireOrigins(std::span<const FieldChange> changes) const {
+    std::vector<const ColumnInfo*> origins;
+    if (mLockType != ado::LockType::ReadOnly && !mWriteback.key.empty()) {
+        mSession->requireSchema();
+        origins = findOrigins(changes);
+        // Another program may have added the column since.
+        if (origins.empty()) mSession->rereadSchema();
+        if (origins.empty()) origins = findOrigins(changes);
+    }
+    if (origins.empty()) throw RuntimeError(RuntimeError::ReadOnlyRecordset);
+    return origins;
+}
+
+// The values as they were stored come back with it; no row comes back when it was not found. More than one
+// is a failure, so that none of them has been written.
 Command ResultCursor::updateCommand(std::span<const FieldChange> changes,
-                                    const std::vector<std::string>& origins) const {
+                                    const std::vector<const ColumnInfo*>& origins) const {
     Command command;
     std::string set;
-    std::string stored;
+    std::string returned;
     std::string scratch;
     std::string variantText;
+    std::vector<std::string> names;
     const auto place = [&] { return "$" + std::to_string(command.values.size()); };
     for (std::size_t i = 0; i < changes.size(); ++i) {
-        const ColumnInfo& column = mColumns->all()[static_cast<std::size_t>(changes[i].ordinal)];
-        const sql::ColumnValue value =
-            sql::toColumn(sql::fromVariant(changes[i].value, variantText), column, sql::Use::Store, scratch);
-        command.types.push_back(parameterType({column, sql::Use::Store}, value));
+        const sql::ColumnValue value = sql::toColumn(sql::fromVariant(changes[i].value, variantText),
+                                                     *origins[i], sql::Use::Store, scratch);
+        command.types.push_back(parameterType({*origins[i], sql::Use::Store}, value));
         command.values.push_back(parameterText(value));
-        set += (set.empty() ? "" : ", ") + sql::quotedName(origins[i]) + " = " + place();
-        stored += sql::quotedName(origins[i]) + ", ";
+        names.push_back(origins[i]->name);
+        set += (set.empty() ? "" : ", ") + sql::quotedName(names.back()) + " = " + place();
+        returned += sql::quotedName(names.back()) + ", ";
     }
     std::string where;
     for (std::size_t i = 0; i < mWriteback.key.size(); ++i) {
@@ -102,24 +119,50 @@ Command ResultCursor::updateCommand(std::span<const FieldChange> changes,
         command.types.push_back(types::unknown);
         command.values.push_back(cell(static_cast<int>(ownColumns() + i)));
         where += (where.empty() ? "" : " And ") + name + " = " + place();
-        stored += name + (i + 1 < mWriteback.key.size() ? ", " : "");
+        returned += name + ", ";
     }
-    command.text = "Update " + sql::quotedName(mSession->schema().nameOf(mWriteback.table)) + " Set " + set +
-                   " Where " + where + " Returning " + stored;
+    const Schema& schema = mSession->schema();
+    const std::string table = schema.nameOf(mWriteback.name());
+    const std::string check = schema.typeCheck(mWriteback.name(), table, names);
+    command.text =
+        "With written As (Update " +
+        sql::quotedName(mWriteback.schema.empty() ? "" : schema.schemaOf(mWriteback.schema), table) +
+        " Set " + set + " Where " + where + " Returning " + returned + (check.empty() ? "Null" : check) +
+        ") Select *, (Select 1 From written) From written";
     return command;
 }
 
+Answer ResultCursor::write(std::span<const FieldChange> changes) {
+    const auto origins = requireOrigins(changes);
+    try {
+        return mSession->runForWriting(updateCommand(changes, origins));
+    } catch (const RuntimeError& error) {
+        if (sqlState(error.NativeCode()) == "21000") {
+            throw RuntimeError(RuntimeError::DatabaseFailure,
+                               "The row cannot be told from another one of its table; nothing was written.",
+                               error.NativeCode());
+        }
+        if (mSession->State() == 0 || !mayDoBetterAsText(error)) throw;
+        mSession->rereadSchema();
+        if (error.NativeCode() == 0) throw;
+        throw RuntimeError(error.Number(),
+                           error.Description() +
+                               " Another program may have changed the table since its rows were read.",
+                           error.NativeCode());
+    }
+}
+
 void ResultCursor::update(std::span<const FieldChange> changes) {
-    mSession->requireSchema();
-    const Answer stored = mSession->runForWriting(updateCommand(changes, requireOrigins(changes)));
+    const Answer stored = write(changes);
     if (PQntuples(stored.get()) == 0) {
         throw RuntimeError(
             RuntimeError::DatabaseFailure,
             "The row could not be found to be updated: it has been deleted, or its key has been changed, "
             "since it was read.");
     }
-    for (int i = 0; i < PQnfields(stored.get()); ++i) {
-        const auto at = static_cast<std::size_t>(i);
+    const std::size_t returned = changes.size() + mWriteback.key.size();
+    for (std::size_t at = 0; at < returned; ++at) {
+        const int i = static_cast<int>(at);
         const int column =
             at < changes.size() ? changes[at].ordinal : static_cast<int>(ownColumns() + at - changes.size());
         const bool isNull = PQgetisnull(stored.get(), 0, i) != 0;

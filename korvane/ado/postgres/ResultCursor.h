@@ -4,6 +4,7 @@
 #include <korvane/ado/postgres/Wire.h>
 
 #include <korvane/ado/Cursor.h>
+#include <korvane/ado/sql/Tables.h>
 
 #include <map>
 #include <memory>
@@ -19,8 +20,11 @@ class Session;
 /// Where a result's rows can be written back: one table and the columns of its key, which stand behind the
 /// result's own.
 struct Writeback {
+    std::string schema; ///< empty when the statement names none
     std::string table;
     std::vector<std::string> key;
+
+    sql::TableName name() const { return {table, schema}; }
 };
 
 /// A result, which has come as a whole: it shows what was asked for, whatever is written meanwhile, and holds
@@ -51,9 +55,12 @@ class ResultCursor final : public Cursor {
     using Cell = std::optional<std::string>;
     std::size_t ownColumns() const { return mColumns->all().size() - mWriteback.key.size(); }
     Cell cell(int column) const;
-    std::vector<std::string> requireOrigins(std::span<const FieldChange> changes) const;
+    std::string_view stored(int column) const;
+    std::vector<const ColumnInfo*> findOrigins(std::span<const FieldChange> changes) const;
+    std::vector<const ColumnInfo*> requireOrigins(std::span<const FieldChange> changes) const;
     Command updateCommand(std::span<const FieldChange> changes,
-                          const std::vector<std::string>& origins) const;
+                          const std::vector<const ColumnInfo*>& origins) const;
+    Answer write(std::span<const FieldChange> changes);
 
     Session* mSession;
     std::shared_ptr<const pg_result> mRows;

@@ -21,16 +21,6 @@ namespace Korvane::ado::postgres {
 
 namespace {
 
-// What a failure may come from when another program has changed the tables, or when a value that was lifted
-// out stands where the engine cannot tell its type: as literal text, with the tables read anew, it may do.
-bool mayDoBetterAsText(const RuntimeError& error) {
-    constexpr std::array<std::string_view, 11> states{"0A000", "26000", "42P01", "42703", "42704", "42804",
-                                                      "42883", "42725", "42P18", "22P02", "22007"};
-    if (error.NativeCode() == 0)
-        return error.Number() == RuntimeError::TypeMismatch || error.Number() == RuntimeError::Overflow;
-    return std::find(states.begin(), states.end(), sqlState(error.NativeCode())) != states.end();
-}
-
 // Whether trying the statements one by one would only take as long again, or run into the same.
 bool endsTheBatch(const RuntimeError& error) {
     const std::string state = sqlState(error.NativeCode());
@@ -55,6 +45,13 @@ void requireOneStatement(const sql::Statement& statement) {
     }
 }
 
+bool controlsTransaction(const sql::Statement& statement) {
+    constexpr std::array words{"begin",     "start",   "commit", "end",    "rollback",
+                               "savepoint", "release", "abort",  "prepare"};
+    const sql::Token& first = statement.tokens.front();
+    return std::any_of(words.begin(), words.end(), [&](const char* word) { return first.isWord(word); });
+}
+
 // Unique in the process, since a lent handle may pass through several sessions.
 std::string newName() {
     static std::atomic<unsigned> last{0};
@@ -66,7 +63,7 @@ std::string newName() {
 std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_view addedColumns) {
     const sql::Statement statement = sql::analyse(text);
     requireOneStatement(statement);
-    requireSchema();
+    requireTables(statement);
     auto shape = std::make_shared<Shape>();
     shape->text = text;
     shape->translation = translate(text, mSchema, addedColumns);
@@ -75,9 +72,51 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
     if (shape->effect == sql::Effect::Schema) shape->table = changedTable(text);
     shape->isInsert = statement.tokens.front().isWord("insert");
     const bool namesTable = shape->isInsert || statement.tokens.front().isWord("update");
-    if (namesTable && !statement.scopes.empty() && !statement.scopes.front().sources.empty())
-        shape->table = lowerCase(statement.scopes.front().sources.front().table);
+    if (namesTable && !statement.scopes.empty() && !statement.scopes.front().sources.empty()) {
+        const sql::Source& source = statement.scopes.front().sources.front();
+        shape->table = lowerCase(source.schema + "." + source.table);
+        addTypeCheck(*shape, statement);
+    }
+    shape->controlsTransaction = controlsTransaction(statement);
     return shape;
+}
+
+// What is written into a table decides on the form of values: one that is not known may have been made since
+// the catalog was read.
+void Session::requireTables(const sql::Statement& statement) {
+    const bool knewSchema = mSchema.isRead();
+    for (const sql::Scope& scope : statement.scopes) {
+        for (const sql::Source& source : scope.sources)
+            mSchema.include(source.schema);
+    }
+    requireSchema();
+    if (!knewSchema || statement.scopes.empty()) return;
+    const sql::Scope& outermost = statement.scopes.front();
+    if (outermost.isSelect || outermost.sources.empty()) return;
+    const sql::Source& written = outermost.sources.front();
+    if (written.table.empty() || !mSchema.nameOf(written.name()).empty()) return;
+    mSchema.forget(written.table);
+    requireSchema();
+}
+
+// Another program may have changed the type of a column since the catalog was read, and the server would turn
+// the values, made for the old one, into something else. Instead the statement fails, is translated anew, and
+// then stores what was written or refuses it.
+void Session::addTypeCheck(Shape& shape, const sql::Statement& statement) const {
+    const auto& tokens = statement.tokens;
+    const auto isWord = [](const char* word) {
+        return [word](const sql::Token& t) { return t.isWord(word); };
+    };
+    const bool endsPlainly = tokens.size() > 1 && !tokens[tokens.size() - 2].isSymbol(';');
+    if (!endsPlainly || statement.scopes.front().sources.size() != 1 ||
+        std::any_of(tokens.begin(), tokens.end(), isWord("returning")))
+        return;
+    const sql::Source& source = statement.scopes.front().sources.front();
+    const std::string called = source.alias.empty() ? mSchema.nameOf(source.name()) : lowerCase(source.alias);
+    const std::string check = mSchema.typeCheck(source.name(), called, shape.translation.storedColumns);
+    if (check.empty()) return;
+    shape.translation.text += "\nReturning " + check;
+    shape.checksTypes = true;
 }
 
 Form& Session::formFor(Shape& shape, std::vector<TypeId> types) {
@@ -97,6 +136,9 @@ Request Session::request(std::string_view statement) {
     }
     const auto& rules = request.shape->translation.parameters;
     const auto& literals = mLifter.literals();
+    // The server takes no more with one statement.
+    constexpr std::size_t mostParameters = 65535;
+    if (literals.size() > mostParameters) return literalRequest(statement, {});
     if (rules.size() != literals.size()) {
         throw RuntimeError(
             RuntimeError::InvalidArgument,
@@ -256,25 +298,32 @@ Session::requestsFrom(const Announcements::Item& first) {
     return ahead;
 }
 
-std::vector<Command> Session::preliminaries(bool plansOnce) const {
+std::vector<Command> Session::preliminaries(bool plansOnce) {
     std::vector<Command> commands;
+    mSettings.renew(commands, mTransactions.isOpen());
     for (const std::string& text : mTransactions.unsent())
         commands.push_back({.text = text});
     // The server would plan the first five of a shape anew; what is announced is found by its key. It ends
     // with the transaction.
     if (plansOnce && mPlansAsNeeded && mTransactions.begins())
         commands.push_back({.text = "Set Local plan_cache_mode To force_generic_plan"});
-    for (const std::string& name : *mDropped)
-        commands.push_back({.text = "Deallocate " + name});
     return commands;
 }
 
-// Sends requests in one round trip.
+// Sends requests in one round trip. What is prepared no longer is given up beside statements that are tried
+// again when the server turns out to have forgotten it already, and never where that would end a transaction.
 Batch Session::send(std::vector<Request> requests) {
     std::vector<Command> before = preliminaries(requests.size() > 1);
-    Batch batch(*mWire, mTransactions.isOpen(), std::move(before), std::move(requests));
+    const Request& first = requests.front();
+    const bool guarded = mTransactions.isOpen() && !(first.shape && first.shape->controlsTransaction);
+    std::vector<Command> givenUp;
+    if (first.form) {
+        for (const std::string& name : *mDropped)
+            givenUp.push_back({.text = "Deallocate " + name});
+        mDropped->clear();
+    }
+    Batch batch(*mWire, guarded, std::move(before), std::move(givenUp), std::move(requests));
     mTransactions.sent();
-    mDropped->clear();
     return batch;
 }
 
@@ -292,10 +341,15 @@ Outcome Session::run(Request request) {
 
 // For what the library asks on its own behalf.
 std::vector<Answer> Session::sendAll(std::span<const Command> commands) {
-    std::vector<Answer> answers = mWire->send(commands);
+    std::vector<Command> all;
+    mSettings.renew(all, mTransactions.isOpen());
+    const std::size_t before = all.size();
+    all.insert(all.end(), commands.begin(), commands.end());
+    std::vector<Answer> answers = mWire->send(all);
     for (const Answer& answer : answers) {
         if (failed(answer)) throw engineError(answer.get());
     }
+    answers.erase(answers.begin(), answers.begin() + static_cast<std::ptrdiff_t>(before));
     return answers;
 }
 
@@ -309,7 +363,7 @@ Outcome Session::outcomeOf(const Request& request, Answer answer) {
         if (mTransactions.isOpen()) mTouched.insert(request.shape->table);
         forgetTable(request.shape->table);
     }
-    if (PQnfields(rows) == 0) return outcome;
+    if (PQnfields(rows) == 0 || request.shape->checksTypes) return outcome;
     if (!request.form) {
         outcome.columns = describe(*request.shape, rows);
         return outcome;
@@ -328,7 +382,10 @@ std::shared_ptr<const ResultColumns> Session::describe(const Shape& shape, const
         const int at = static_cast<int>(i);
         const NativeType native = nativeType(PQftype(rows, at), PQfmod(rows, at));
         ColumnInfo column{PQfname(rows, at), native.type, native.size};
-        if (i < types.size() && types[i]) column.type = *types[i];
+        // The server has the last word where the catalog has grown old.
+        if (i < types.size() && types[i] && sql::isTextType(*types[i]) == sql::isTextType(column.type) &&
+            (*types[i] == DataType::Date) == (column.type == DataType::Date))
+            column.type = *types[i];
         if (i < names.size() && names[i]) column.name = *names[i];
         columns.push_back(std::move(column));
     }

@@ -1,5 +1,6 @@
 #include <korvane/ado/postgres/Schema.h>
 
+#include <korvane/ado/sql/Names.h>
 #include <korvane/runtime/Text.h>
 
 #include <libpq-fe.h>
@@ -9,54 +10,106 @@
 
 namespace Korvane::ado::postgres {
 
-std::string Schema::query() const {
-    if (mIsRead && mForgotten.empty()) return {};
-    std::string names;
-    for (const std::string& name : mForgotten)
-        names += (names.empty() ? "'" : ",'") + escapeQuotes(name) + "'";
-    // In the collation named so, lower() knows ASCII letters only.
-    const std::string which =
-        mIsRead ? "And pg_catalog.lower(c.relname::pg_catalog.text Collate \"C\") In (" + names + ") " : "";
-    return "Select c.oid, c.relname, c.relkind In ('r','p'), a.attname, a.attnum, a.attnotnull, "
-           "Case When t.typtype='d' Then t.typbasetype Else a.atttypid End, "
-           "Case When t.typtype='d' Then t.typtypmod Else a.atttypmod End, "
-           "Coalesce(array_position(i.indkey::int2[], a.attnum), -1) "
-           "From pg_catalog.pg_class c "
-           "Join pg_catalog.pg_attribute a On a.attrelid=c.oid And a.attnum>0 And Not a.attisdropped "
-           "Join pg_catalog.pg_type t On t.oid=a.atttypid "
-           "Left Join pg_catalog.pg_index i On i.indrelid=c.oid And i.indisprimary "
-           "Where c.relkind In ('r','p','v','m','f') And pg_catalog.pg_table_is_visible(c.oid) "
-           "And c.relnamespace<>'pg_catalog'::pg_catalog.regnamespace " +
-           which + "Order By c.relname, c.oid, a.attnum";
+namespace {
+
+// The columns of the answer.
+enum Item {
+    Oid,
+    SchemaName,
+    Name,
+    IsVisible,
+    HasRows,
+    MayReturn,
+    Column,
+    Number,
+    NotNull,
+    Type,
+    Base,
+    Modifier,
+    IsText,
+    KeyPlace
+};
+
+std::string listed(const std::set<std::string>& names) {
+    std::string list;
+    for (const std::string& name : names)
+        list += (list.empty() ? "'" : ",'") + escapeQuotes(name) + "'";
+    return list;
 }
 
-std::string_view Schema::markQuery() {
-    return "Select Sum(hashtextextended(c.relname || '.' || a.attname, a.attnum)) As SchemaMark "
+TypeId typeId(const char* text) {
+    return static_cast<TypeId>(std::strtoul(text, nullptr, 10));
+}
+
+} // namespace
+
+// A domain stands for what lies under it, through any number of others. A key does not tell rows apart where
+// other tables inherit from its own. Rows that were written come back from a table that hides none of them.
+std::string Schema::query() const {
+    if (mIsRead && mForgotten.empty()) return {};
+    const std::string included =
+        mIncluded.empty()
+            ? ""
+            : " Or pg_catalog.lower(n.nspname::pg_catalog.text Collate \"C\") In (" + listed(mIncluded) + ")";
+    // In the collation named so, lower() knows ASCII letters only.
+    const std::string which = mIsRead
+                                  ? " And pg_catalog.lower(c.relname::pg_catalog.text Collate \"C\") In (" +
+                                        listed(mForgotten) + ")"
+                                  : "";
+    return "With Recursive domain(id, base, modifier) As ("
+           "Select oid, typbasetype, typtypmod From pg_catalog.pg_type Where typtype='d' Union All "
+           "Select d.id, t.typbasetype, t.typtypmod From domain d Join pg_catalog.pg_type t On t.oid=d.base "
+           "Where t.typtype='d') "
+           "Select c.oid, n.nspname, c.relname, pg_catalog.pg_table_is_visible(c.oid), c.relkind In "
+           "('r','p'), "
+           "Not c.relrowsecurity And Not c.relhasrules And "
+           "pg_catalog.has_table_privilege(c.oid, 'Select'), "
+           "a.attname, a.attnum, a.attnotnull, a.atttypid, "
+           "Coalesce(d.base, a.atttypid), Coalesce(d.modifier, a.atttypmod), t.typcategory='S', "
+           "Coalesce(array_position(i.indkey::int2[], a.attnum), -1) "
            "From pg_catalog.pg_class c "
+           "Join pg_catalog.pg_namespace n On n.oid=c.relnamespace "
            "Join pg_catalog.pg_attribute a On a.attrelid=c.oid And a.attnum>0 And Not a.attisdropped "
-           "Where c.relkind In ('r','p') And c.relnamespace In (Select n.oid From pg_catalog.pg_namespace n "
-           "Where n.nspname=Any(current_schemas(false)))";
+           "Join pg_catalog.pg_type t On t.oid=a.atttypid "
+           "Left Join domain d On d.id=a.atttypid And Not Exists "
+           "(Select From pg_catalog.pg_type b Where b.oid=d.base And b.typtype='d') "
+           "Left Join pg_catalog.pg_index i On i.indrelid=c.oid And i.indisprimary "
+           "And Not (c.relkind='r' And c.relhassubclass) "
+           "Where c.relkind In ('r','p','v','m','f') And n.nspname<>'pg_catalog' And "
+           "(pg_catalog.pg_table_is_visible(c.oid)" +
+           included + ")" + which + " Order By c.relname, c.oid, a.attnum";
+}
+
+Schema::Table Schema::tableFrom(const pg_result* catalog, int row) {
+    const auto text = [&](Item item) { return PQgetvalue(catalog, row, item); };
+    Table table;
+    table.schema = text(SchemaName);
+    table.name = text(Name);
+    table.relation = typeId(text(Oid));
+    table.isVisible = *text(IsVisible) == 't';
+    table.hasRows = *text(HasRows) == 't';
+    table.mayReturnRows = table.hasRows && *text(MayReturn) == 't';
+    return table;
+}
+
+void Schema::addColumn(Table& table, const pg_result* catalog, int row) {
+    const auto text = [&](Item item) { return PQgetvalue(catalog, row, item); };
+    const NativeType type = nativeType(typeId(text(Base)), std::atoi(text(Modifier)));
+    const bool onlyShownAsText = type.type == DataType::VarWChar && *text(IsText) != 't';
+    table.columns.push_back({text(Column), type.type, type.size, *text(NotNull) != 't', onlyShownAsText});
+    table.numbers.push_back(std::atoi(text(Number)));
+    table.types.push_back(typeId(text(Type)));
+    if (const int place = std::atoi(text(KeyPlace)); place >= 0) table.key.emplace_back(place, text(Column));
 }
 
 void Schema::read(const pg_result* catalog) {
     mForgotten.clear();
     mIsRead = true;
     for (int row = 0; row < PQntuples(catalog); ++row) {
-        const auto text = [&](int column) { return PQgetvalue(catalog, row, column); };
-        const auto number = [&](int column) { return std::atoi(text(column)); };
-        const auto relation = static_cast<TypeId>(std::strtoul(text(0), nullptr, 10));
-        auto& sameNamed = mTables[lowerCase(text(1))];
-        if (sameNamed.empty() || sameNamed.back().relation != relation) {
-            Table& begun = sameNamed.emplace_back();
-            begun.name = text(1);
-            begun.relation = relation;
-            begun.hasRows = *text(2) == 't';
-        }
-        Table& table = sameNamed.back();
-        const NativeType type = nativeType(static_cast<TypeId>(number(6)), number(7));
-        table.columns.push_back({text(3), type.type, type.size, *text(5) != 't'});
-        table.numbers.push_back(number(4));
-        if (number(8) >= 0) table.key.emplace_back(number(8), text(3));
+        auto& sameNamed = mTables[lowerCase(PQgetvalue(catalog, row, Name))];
+        if (sameNamed.empty() || sameNamed.back().relation != typeId(PQgetvalue(catalog, row, Oid)))
+            sameNamed.push_back(tableFrom(catalog, row));
+        addColumn(sameNamed.back(), catalog, row);
     }
     for (auto& [name, tables] : mTables) {
         for (Table& table : tables)
@@ -76,44 +129,77 @@ void Schema::forget(std::string_view table) {
     mForgotten.insert(name);
 }
 
-const Schema::Table* Schema::find(std::string_view name) const {
-    const std::string lower = lowerCase(name);
-    const auto found = mTables.find(lower);
-    if (found == mTables.end()) return nullptr;
-    for (const std::string_view wanted : {name, std::string_view(lower)}) {
-        for (const Table& table : found->second) {
-            if (table.name == wanted) return &table;
-        }
-    }
-    return &found->second.front();
+void Schema::include(std::string_view schema) {
+    const std::string lower = lowerCase(schema);
+    if (lower.empty() || lower == "pg_catalog" || lower == "information_schema") return;
+    if (mIncluded.insert(lower).second) forget();
 }
 
-std::span<const ColumnInfo> Schema::columnsOf(std::string_view table) const {
+const Schema::Table* Schema::find(const sql::TableName& wanted) const {
+    const std::string lower = lowerCase(wanted.name);
+    const auto sameNamed = mTables.find(lower);
+    if (sameNamed == mTables.end()) return nullptr;
+    const Table* found = nullptr;
+    for (const Table& table : sameNamed->second) {
+        if (wanted.schema.empty() ? !table.isVisible : !sameName(table.schema, wanted.schema)) continue;
+        if (table.name == wanted.name) return &table;
+        if (!found || table.name == lower) found = &table;
+    }
+    return found;
+}
+
+std::span<const ColumnInfo> Schema::columnsOf(const sql::TableName& table) const {
     const Table* known = find(table);
     return known ? std::span<const ColumnInfo>(known->columns) : std::span<const ColumnInfo>();
 }
 
-std::string Schema::nameOf(std::string_view table) const {
+std::string Schema::nameOf(const sql::TableName& table) const {
     const Table* known = find(table);
     return known ? known->name : std::string();
 }
 
-std::vector<std::string> Schema::keyOf(std::string_view table) const {
+std::string Schema::schemaOf(std::string_view schema) const {
+    for (const auto& [name, tables] : mTables) {
+        for (const Table& table : tables) {
+            if (sameName(table.schema, schema)) return table.schema;
+        }
+    }
+    return {};
+}
+
+std::vector<std::string> Schema::keyOf(const sql::TableName& table) const {
     const Table* known = find(table);
     if (!known || !known->hasRows) return {};
+    if (known->key.empty()) return {"tableoid", "ctid", "xmin"};
     std::vector<std::string> names;
     for (const auto& [place, name] : known->key)
         names.push_back(name);
-    if (names.empty()) names.emplace_back("ctid");
     return names;
 }
 
-std::string Schema::originOf(std::string_view table, TypeId relation, int column) const {
+const ColumnInfo* Schema::originOf(const sql::TableName& table, TypeId relation, int column) const {
     const Table* known = find(table);
-    if (!known || known->relation != relation) return {};
+    if (!known || known->relation != relation) return nullptr;
     const auto found = std::find(known->numbers.begin(), known->numbers.end(), column);
-    if (found == known->numbers.end()) return {};
-    return known->columns[static_cast<std::size_t>(found - known->numbers.begin())].name;
+    if (found == known->numbers.end()) return nullptr;
+    return &known->columns[static_cast<std::size_t>(found - known->numbers.begin())];
+}
+
+std::string Schema::typeCheck(const sql::TableName& table, std::string_view calledAs,
+                              std::span<const std::string> columns) const {
+    const Table* known = find(table);
+    if (!known || !known->mayReturnRows) return {};
+    std::string there;
+    std::string expected;
+    for (std::size_t i = 0; i < known->columns.size(); ++i) {
+        if (std::find(columns.begin(), columns.end(), known->columns[i].name) == columns.end()) continue;
+        const char* comma = there.empty() ? "" : ",";
+        there += comma + ("pg_catalog.pg_typeof(" + sql::quotedName(calledAs, known->columns[i].name) + ")");
+        expected += comma + std::to_string(known->types[i]);
+    }
+    if (there.empty()) return {};
+    return "NullIf(Array[" + there + "]::pg_catalog.oid[]::pg_catalog.text,'{" + expected +
+           "}')::pg_catalog.int4";
 }
 
 } // namespace Korvane::ado::postgres

@@ -13,17 +13,14 @@ struct pg_result;
 
 namespace Korvane::ado::postgres {
 
-/// What the catalog says of the tables on the search path, read as a whole, in one round trip; after `forget`
-/// what was forgotten is read again. Names are found without regard to case; where several differ in nothing
-/// else, the one written exactly so comes first, then the one in lower case.
+/// What the catalog says of the tables on the search path, and of those in schemas that were asked for, read
+/// as a whole, in one round trip; after `forget` what was forgotten is read again. Names are found without
+/// regard to case; where several differ in nothing else, the one written exactly so comes first, then the one
+/// in lower case.
 class Schema : public sql::Tables {
   public:
     /// Asks for what has to be read, which `read` takes; empty when all is known.
     std::string query() const;
-
-    /// Asks for a number that stands for the tables and columns there are, by their names and places.
-    static std::string_view markQuery();
-
     void read(const pg_result* catalog);
 
     /// Whether something is known that may have grown old.
@@ -32,30 +29,48 @@ class Schema : public sql::Tables {
     void forget();
     void forget(std::string_view table);
 
-    std::span<const ColumnInfo> columnsOf(std::string_view table) const override;
-    std::string nameOf(std::string_view table) const override;
+    /// Has the tables of a schema read from now on, also where it is not on the search path; what is known is
+    /// forgotten when they were not. Not those of the engine's own schemas.
+    void include(std::string_view schema);
 
-    /// The names of the columns that find a row of a table: its primary key, else where the row lies
-    /// ("ctid"). Empty for a view and for a table that is not there.
-    std::vector<std::string> keyOf(std::string_view table) const;
+    std::span<const ColumnInfo> columnsOf(const sql::TableName& table) const override;
+    std::string nameOf(const sql::TableName& table) const override;
+    std::string schemaOf(std::string_view schema) const override;
 
-    /// The table's column that a column of a result comes from, by the engine's numbers; empty when it comes
+    /// The names of the columns that find a row of a table: its primary key; else where the row lies and
+    /// which writing of it that is ("tableoid", "ctid", "xmin"), so that no row is taken for another. Empty
+    /// for a view and for a table that is not there.
+    std::vector<std::string> keyOf(const sql::TableName& table) const;
+
+    /// The table's column that a column of a result comes from, by the engine's numbers; null when it comes
     /// from elsewhere.
-    std::string originOf(std::string_view table, TypeId relation, int column) const;
+    const ColumnInfo* originOf(const sql::TableName& table, TypeId relation, int column) const;
+
+    /// An expression over a row of a table, to stand in a Returning: Null, but a failure when one of the
+    /// columns is no longer of the type that is known. Empty when nothing may be returned from the table.
+    std::string typeCheck(const sql::TableName& table, std::string_view calledAs,
+                          std::span<const std::string> columns) const;
 
   private:
     struct Table {
+        std::string schema;
         std::string name;
         TypeId relation = 0;
-        bool hasRows = false; ///< keeps rows of its own
+        bool isVisible = false;     ///< found without its schema
+        bool hasRows = false;       ///< keeps rows of its own
+        bool mayReturnRows = false; ///< for whoever may write them
         std::vector<ColumnInfo> columns;
-        std::vector<int> numbers; ///< the engine's, one for each column
+        std::vector<int> numbers;  ///< the engine's, one for each column
+        std::vector<TypeId> types; ///< the same
         std::vector<std::pair<int, std::string>> key;
     };
-    const Table* find(std::string_view name) const;
+    const Table* find(const sql::TableName& name) const;
+    static Table tableFrom(const pg_result* catalog, int row);
+    static void addColumn(Table& table, const pg_result* catalog, int row);
 
     std::unordered_map<std::string, std::vector<Table>> mTables; ///< by the name in lower case
     std::set<std::string> mForgotten;                            ///< names in lower case, to be read again
+    std::set<std::string> mIncluded;                             ///< schemas, in lower case
     bool mIsRead = false;
 };
 

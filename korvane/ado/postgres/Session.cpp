@@ -2,7 +2,6 @@
 
 #include <korvane/ado/postgres/ChangedTable.h>
 #include <korvane/ado/postgres/ResultCursor.h>
-#include <korvane/ado/sql/Names.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
 
@@ -10,7 +9,8 @@
 
 namespace Korvane::ado::postgres {
 
-Session::Session(std::unique_ptr<Wire> wire) : mWire(std::move(wire)), mTransactions(*mWire) {
+Session::Session(std::unique_ptr<Wire> wire)
+    : mWire(std::move(wire)), mSettings(*mWire), mTransactions(*mWire) {
     setUp();
 }
 
@@ -98,6 +98,12 @@ void Session::Reset() {
 void Session::Close() {
     if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
     if (transactionLevel() > 0) throw RuntimeError(RuntimeError::TransactionOpen);
+    if (mWire->isLent() && mWire->isUp() && mWire->transaction() == Wire::Transaction::Failed) {
+        throw RuntimeError(
+            RuntimeError::TransactionOpen,
+            "The transaction of the connection's owner has failed. It has to be rolled back before the "
+            "connection is let go of, or the owner's settings could not be put back.");
+    }
     letGo();
 }
 
@@ -110,7 +116,7 @@ void Session::letGo() noexcept {
         while (transactionLevel() > 0)
             mTransactions.rollback();
         mShapes.forget();
-        if (mWire->isLent() && mWire->isUp()) restoreSettings();
+        if (mWire->isLent()) giveBack();
     } catch (const RuntimeError&) {
         // The line is lost, and what was open on it with it; a lent one is its owner's to mend.
     }
@@ -118,45 +124,39 @@ void Session::letGo() noexcept {
     if (!mWire->isLent()) mWire->hangUp();
 }
 
-// Texts come as UTF-8 and dates in the ISO form, whatever the server is set to.
 void Session::setUp() {
-    mFormerSettings.clear();
-    std::vector<std::pair<std::string, std::string>> settings{
-        {"client_encoding", "UTF8"}, {"DateStyle", "ISO, MDY"}, {"standard_conforming_strings", "on"}};
-    if (mWire->isLent()) {
-        for (const auto& [name, value] : settings)
-            mFormerSettings.emplace_back(name, mWire->parameter(name.c_str()));
-    }
-    const auto limit = mWire->limits().statement.count();
-    if (!mWire->isLent() || limit > 0) settings.emplace_back("statement_timeout", std::to_string(limit));
-    std::vector<Command> commands;
-    commands.reserve(settings.size() + 1);
-    for (const auto& [name, value] : settings)
-        commands.push_back({.text = "Select pg_catalog.set_config($1, $2, false)", .values = {name, value}});
     // It is not there before version 12. Who has set it has reasons.
-    commands.push_back({.text = "Select pg_catalog.current_setting('plan_cache_mode', true)"});
-    const std::vector<Answer> answers = sendAll(commands);
-    mPlansAsNeeded = std::string_view(PQgetvalue(answers.back().get(), 0, 0)) == "auto";
+    const Answer planning =
+        mSettings.make({.text = "Select pg_catalog.current_setting('plan_cache_mode', true)"});
+    mPlansAsNeeded = std::string_view(PQgetvalue(planning.get(), 0, 0)) == "auto";
 }
 
-void Session::restoreSettings() {
+// Nothing runs inside a transaction of the owner's that has failed.
+void Session::giveBack() {
+    if (!mWire->isUp() || mWire->transaction() == Wire::Transaction::Failed) return;
+    if (!mDropped->empty()) deallocate();
+    mSettings.restore();
+}
+
+// The owner may have discarded what was prepared.
+void Session::deallocate() {
+    const Command asking{.text = "Select name From pg_catalog.pg_prepared_statements"};
+    const Answer names = std::move(sendAll({&asking, 1}).front());
     std::vector<Command> commands;
-    for (const std::string& name : *mDropped)
-        commands.push_back({.text = "Deallocate " + name});
-    for (const auto& [name, value] : mFormerSettings)
-        commands.push_back({.text = "Select pg_catalog.set_config($1, $2, false)", .values = {name, value}});
+    for (int row = 0; row < PQntuples(names.get()); ++row) {
+        const std::string name = PQgetvalue(names.get(), row, 0);
+        if (std::find(mDropped->begin(), mDropped->end(), name) != mDropped->end())
+            commands.push_back({.text = "Deallocate " + name});
+    }
     mDropped->clear();
-    mWire->send(commands);
+    if (!commands.empty()) sendAll(commands);
 }
 
 void Session::limits(const Limits& limits) {
     if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
     settle();
     mWire->limits(limits);
-    if (!mWire->isUp()) return; // told to the server by `Reset`
-    const Command command{.text = "Select pg_catalog.set_config('statement_timeout', $1, false)",
-                          .values = {std::to_string(limits.statement.count())}};
-    sendAll({&command, 1});
+    mSettings.limit(limits.statement);
 }
 
 void Session::requireSchema() {
@@ -205,35 +205,6 @@ std::unique_ptr<Cursor> Session::cursorOn(Outcome outcome, CursorType cursorType
                                                  cursorType, lockType);
     mCursors.push_back(cursor.get());
     return cursor;
-}
-
-std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType lockType) {
-    requireSchema();
-    Writeback writeback;
-    std::string keyColumns;
-    if (const auto rows = lockType == LockType::ReadOnly ? std::nullopt : sql::rowSource(statement)) {
-        writeback = {rows->table, mSchema.keyOf(rows->table)};
-        const std::string table = mSchema.nameOf(rows->table);
-        const std::string called = rows->calledAs == rows->table ? table : lowerCase(rows->calledAs);
-        for (const std::string& column : writeback.key)
-            keyColumns += ", " + sql::quotedName(called) + "." + sql::quotedName(column);
-    }
-    Request once = literalRequest(statement, keyColumns);
-    Outcome outcome = run(std::move(once));
-    if (!outcome.columns) return nullptr;
-    auto cursor = std::make_unique<ResultCursor>(*this, std::move(outcome.rows), std::move(outcome.columns),
-                                                 CursorType::Keyset, lockType, std::move(writeback));
-    mCursors.push_back(cursor.get());
-    return cursor;
-}
-
-Answer Session::runForWriting(Command command) {
-    requireOpen();
-    mTransactions.requireNotLost();
-    mAnnouncements.dropReads();
-    Request request;
-    request.command = std::move(command);
-    return sendAlone(std::move(request)).next();
 }
 
 void Session::forget(const ResultCursor& cursor) {

@@ -5,10 +5,12 @@
 #include <korvane/ado/postgres/Batch.h>
 #include <korvane/ado/postgres/CatalogDialect.h>
 #include <korvane/ado/postgres/Schema.h>
+#include <korvane/ado/postgres/Settings.h>
 #include <korvane/ado/postgres/Shapes.h>
 #include <korvane/ado/postgres/Transactions.h>
 #include <korvane/ado/postgres/Wire.h>
 #include <korvane/ado/sql/Lift.h>
+#include <korvane/ado/sql/Statement.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -43,7 +45,6 @@ class Session final : public Connection {
     std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
                                        LockType lockType) override;
     std::unique_ptr<Cursor> openNative(std::string_view statement) override;
-    std::string schemaMarkStatement() const override { return std::string(Schema::markQuery()); }
     const ado::CatalogDialect& catalogDialect() const override { return mCatalogDialect; }
 
     void limits(const Limits& limits);
@@ -54,6 +55,7 @@ class Session final : public Connection {
     /// cursor no longer.
     const Schema& schema() const { return mSchema; }
     void requireSchema();
+    void rereadSchema();
     Answer runForWriting(Command command);
     void forget(const ResultCursor& cursor);
 
@@ -82,22 +84,28 @@ class Session final : public Connection {
     Batch send(std::vector<Request> requests);
     Batch sendAlone(Request request);
     Outcome run(Request request);
-    std::vector<Command> preliminaries(bool plansOnce) const;
+    std::vector<Command> preliminaries(bool plansOnce);
+    void requireTables(const sql::Statement& statement);
+    void addTypeCheck(Shape& shape, const sql::Statement& statement) const;
     std::vector<Answer> sendAll(std::span<const Command> commands);
     Outcome outcomeOf(const Request& request, Answer answer);
     std::shared_ptr<const ResultColumns> describe(const Shape& shape, const pg_result* rows) const;
     std::unique_ptr<Cursor> openKeyset(std::string_view statement, LockType lockType);
+    std::unique_ptr<Cursor> openKeysetOf(std::string_view statement,
+                                         const std::optional<sql::RowSource>& source, LockType lockType);
     std::unique_ptr<Cursor> cursorOn(Outcome outcome, CursorType cursorType, LockType lockType);
     void forgetSchema();
     void forgetTable(std::string_view name);
     void letGo() noexcept;
-    void restoreSettings();
+    void giveBack();
+    void deallocate();
 
     std::unique_ptr<Wire> mWire;
     bool mOpen = true;
     CatalogDialect mCatalogDialect;
     Schema mSchema;
     std::set<std::string> mTouched; ///< tables changed in the transaction that is open; empty for any
+    Settings mSettings;
     Transactions mTransactions;
     Shapes mShapes;
     std::shared_ptr<std::vector<std::string>> mDropped = std::make_shared<std::vector<std::string>>();
@@ -107,7 +115,6 @@ class Session final : public Connection {
     sql::Lifter mLifter;
     std::string mScratch;
     std::vector<ResultCursor*> mCursors;
-    std::vector<std::pair<std::string, std::string>> mFormerSettings; ///< of a lent handle
 };
 
 } // namespace Korvane::ado::postgres

@@ -29,7 +29,9 @@ struct Shape {
     std::string table; ///< of an Insert or Update: the table it writes, in lower case; of what changes the
                        ///< schema: the table it changes, empty when it may be any
     bool isInsert = false;
-    std::deque<Form> forms; ///< most often one: it is the values' columns that decide
+    bool controlsTransaction = false; ///< Begin, Commit, Savepoint, ...
+    bool checksTypes = false;         ///< returns nothing but the check of its columns' types
+    std::deque<Form> forms;           ///< most often one: it is the values' columns that decide
     std::shared_ptr<std::vector<std::string>> dropped; ///< names that the server may forget
 
     bool forgotten = false; ///< no longer kept; who still uses it drops it once more

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <set>
 
 namespace Korvane::ado::postgres {
 
@@ -31,16 +32,27 @@ class Translator : public sql::Translator {
             for (const sql::Source& source : scope.sources)
                 mTableAt[source.at] = source.table.empty() ? nullptr : &source;
         }
+        for (std::size_t at = 1; at < statement().tokens.size(); ++at) {
+            if (token(at).isName() && token(at - 1).isWord("as"))
+                mAliases.insert(lowerCase(sql::plainName(token(at))));
+        }
     }
 
   private:
     std::string literalText(const sql::ColumnValue& value) const override {
         return postgres::literalText(value);
     }
+    std::string comparedText(const sql::ColumnValue& value, const ColumnInfo& column) const override {
+        return postgres::comparedText(value, column);
+    }
     bool quotesNumbersForText() const override { return true; }
     std::string parameterText(std::size_t number) const override { return "$" + std::to_string(number); }
 
     void editMore() override {
+        for (std::size_t at = 0; at + 1 < statement().tokens.size(); ++at) {
+            if (token(at).isName() && (at == 0 || !token(at - 1).isWord("as")))
+                requireKeepable(sql::plainName(token(at)));
+        }
         if (statement().scopes.empty()) {
             for (Definition::Change& change : Definition(statement(), tables()).changes())
                 replace(change.first, change.last, std::move(change.text));
@@ -64,23 +76,52 @@ class Translator : public sql::Translator {
     // Names
 
     void name(std::size_t at) {
-        if (const sql::Source* source = mTableAt[at]) return write(at, tables().nameOf(source->table));
+        if (at > 0 && token(at - 1).isSymbol("::")) return; // a type
+        if (const sql::Source* source = mTableAt[at]) return write(at, tables().nameOf(source->name()));
         if (token(at + 1).isSymbol('.')) return write(at, qualifier(at));
         const auto ref = sql::refBefore(statement(), at + 1);
         if (!ref || !operandMayBegin(ref->begin)) return write(at, {});
         if (token(at + 1).isSymbol('(')) return aggregate(at);
         const ColumnInfo* column = sql::resolve(statement(), *ref, place(at).scope, tables());
-        write(at, column ? column->name : std::string());
+        write(at, column ? column->name : nameWithin(ref->name, place(at).scope));
     }
 
-    // The table that a column is qualified with, as it is spelled; empty for an alias.
+    // What a subquery or a With hands out is spelled as the table's column in it, unless it was given another
+    // name there.
+    std::string nameWithin(const std::string& name, int scope) const {
+        if (!seesComputedTable(scope) || isAlias(name)) return {};
+        for (int within = 0; within < static_cast<int>(statement().scopes.size()); ++within) {
+            if (const ColumnInfo* column =
+                    sql::resolve(statement(), sql::ColumnRef{"", name, 0, 0}, within, tables()))
+                return column->name;
+        }
+        return {};
+    }
+
+    bool seesComputedTable(int scope) const {
+        for (; scope >= 0; scope = statement().scopes[static_cast<std::size_t>(scope)].parent) {
+            const auto& sources = statement().scopes[static_cast<std::size_t>(scope)].sources;
+            if (std::any_of(sources.begin(), sources.end(), [&](const sql::Source& source) {
+                    return tables().columnsOf(source.name()).empty();
+                }))
+                return true;
+        }
+        return false;
+    }
+
+    bool isAlias(const std::string& name) const { return mAliases.contains(lowerCase(name)); }
+
+    // The schema of a table, or the table that a column is qualified with, as it is spelled; empty for an
+    // alias.
     std::string qualifier(std::size_t at) const {
         const std::string called = sql::plainName(token(at));
+        if (at + 2 < mTableAt.size() && mTableAt[at + 2]) return tables().schemaOf(called);
         for (int scope = place(at).scope; scope >= 0;
              scope = statement().scopes[static_cast<std::size_t>(scope)].parent) {
             for (const sql::Source& source : statement().scopes[static_cast<std::size_t>(scope)].sources) {
                 if (source.alias.empty() && sameName(source.table, called))
-                    return tables().nameOf(source.table);
+                    return tables().nameOf(source.name());
+                if (source.alias.empty() && sameName(source.schema, called)) return tables().schemaOf(called);
             }
         }
         return {};
@@ -131,7 +172,8 @@ class Translator : public sql::Translator {
         replace(at, at, "ILike");
         if (const auto ref = sql::refBefore(statement(), behindOperand)) {
             const ColumnInfo* column = sql::resolve(statement(), *ref, place(at).scope, tables());
-            if (column && !sql::isTextType(column->type)) insertBehind(behindOperand - 1, "::Text");
+            const bool isText = column && sql::isTextType(column->type) && !column->onlyShownAsText;
+            if (column && !isText) insertBehind(behindOperand - 1, "::Text");
         }
         std::size_t end = at + 1;
         while (!endsPattern(end, place(at).depth))
@@ -205,6 +247,7 @@ class Translator : public sql::Translator {
 
     std::vector<sql::TopClause> mTop;         ///< in their order
     std::vector<const sql::Source*> mTableAt; ///< by token; null where no table is named
+    std::set<std::string> mAliases;           ///< in lower case
     int mSubqueries = 0;
 };
 

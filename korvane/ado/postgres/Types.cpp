@@ -26,7 +26,6 @@ constexpr std::array fixedTypes{
     Meaning{types::timestamp, DataType::Date},
     Meaning{1184, DataType::Date},
 };
-constexpr TypeId blankPadded = 1042;
 constexpr TypeId varying = 1043;
 constexpr int modifierHeader = 4; // the engine counts the size of its own header in
 
@@ -71,7 +70,7 @@ NativeType nativeType(TypeId type, int modifier) {
         constexpr int currency = (19 << 16) + 4 + modifierHeader;
         return {modifier == currency ? DataType::Currency : DataType::Numeric, 0};
     }
-    const bool hasLength = (type == varying || type == blankPadded) && modifier > modifierHeader;
+    const bool hasLength = (type == varying || type == types::blankPadded) && modifier > modifierHeader;
     return {DataType::VarWChar, hasLength ? modifier - modifierHeader : 0};
 }
 

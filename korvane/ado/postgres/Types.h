@@ -19,6 +19,7 @@ inline constexpr TypeId bigInteger = 20;
 inline constexpr TypeId integer = 23;
 inline constexpr TypeId single = 700;
 inline constexpr TypeId real = 701;
+inline constexpr TypeId blankPadded = 1042;
 inline constexpr TypeId timestamp = 1114;
 inline constexpr TypeId numeric = 1700;
 } // namespace types

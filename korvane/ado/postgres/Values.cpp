@@ -1,9 +1,12 @@
 #include <korvane/ado/postgres/Values.h>
 
 #include <korvane/ado/Numbers.h>
+#include <korvane/runtime/FixedPoint.h>
+#include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
 
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace Korvane::ado::postgres {
@@ -29,16 +32,21 @@ std::optional<Date> readDate(std::string_view text) {
     return parseIsoDate(text.substr(0, toTheSecond));
 }
 
-// Any number of digits, as a decimal when it is narrow enough.
+// With all its digits: what is too wide for a decimal is handed out as text.
 void readDecimal(std::string_view text, DataType type, Variant& value) {
-    if (text.find('.') != std::string_view::npos) {
-        while (text.ends_with('0'))
-            text.remove_suffix(1);
-        if (text.ends_with('.')) text.remove_suffix(1);
-    }
-    if (const auto whole = readAs<std::int64_t>(text)) return setNumber(value, *whole, type);
-    if (const auto number = parseNumber(text)) return setNumber(value, *number, type);
-    value.setText(text);
+    const auto decimal = parseDecimal(text);
+    const auto currency = decimal && type == DataType::Currency ? toCurrency(*decimal) : std::nullopt;
+    if (currency)
+        value = *currency;
+    else if (decimal)
+        value = *decimal;
+    else
+        value.setText(text);
+}
+
+bool isInRangeOfSingle(double number) {
+    const auto narrow = static_cast<float>(number);
+    return std::isfinite(narrow) && (narrow != 0.0F || number == 0.0);
 }
 
 } // namespace
@@ -48,17 +56,28 @@ std::string literalText(const sql::ColumnValue& value) {
                                       [](bool truth) { return std::string(truth ? "True" : "False"); },
                                       [](std::int64_t number) { return std::to_string(number); },
                                       [](double number) { return exactText(number); },
+                                      [](sql::Digits digits) { return std::string(digits.text); },
                                       [](Date date) { return "Timestamp '" + date.isoText() + "'"; },
                                       [](std::string_view text) { return "'" + escapeQuotes(text) + "'"; }},
                       value);
 }
 
+// 0.1 is another number as a double than as a single.
+std::string comparedText(const sql::ColumnValue& value, const ColumnInfo& column) {
+    const double* number = column.type == DataType::Single ? std::get_if<double>(&value) : nullptr;
+    if (!number || !isInRangeOfSingle(*number)) return literalText(value);
+    return "Float4 '" + exactText(*number) + "'";
+}
+
 std::optional<std::string> parameterText(const sql::ColumnValue& value) {
     using Text = std::optional<std::string>;
+    if (const auto* text = std::get_if<std::string_view>(&value); text && text->find('\0') != text->npos)
+        throw RuntimeError(RuntimeError::InvalidArgument, "A text cannot hold the character NUL.");
     return std::visit(sql::Overloaded{[](std::monostate) { return Text(); },
                                       [](bool truth) { return Text(truth ? "t" : "f"); },
                                       [](std::int64_t number) { return Text(std::to_string(number)); },
                                       [](double number) { return Text(exactText(number)); },
+                                      [](sql::Digits digits) { return Text(std::in_place, digits.text); },
                                       [](Date date) { return Text(date.isoText()); },
                                       [](std::string_view text) { return Text(std::in_place, text); }},
                       value);
@@ -77,6 +96,8 @@ TypeId parameterType(const sql::ParameterRule& rule, const sql::ColumnValue& val
     case DataType::BigInt:
         return std::holds_alternative<double>(value) ? types::real : types::bigInteger;
     case DataType::Single:
+        if (const double* number = std::get_if<double>(&value); number && !isInRangeOfSingle(*number))
+            return types::real;
         return compares ? types::single : types::real;
     case DataType::Double:
         return types::real;

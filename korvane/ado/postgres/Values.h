@@ -12,7 +12,11 @@ namespace Korvane::ado::postgres {
 /// A value as it is written in this engine's statements: dates as Timestamp '...'.
 std::string literalText(const sql::ColumnValue& value);
 
-/// A value as the text that a parameter is sent as; nothing for Null.
+/// The same for a value that is compared with a column.
+std::string comparedText(const sql::ColumnValue& value, const ColumnInfo& column);
+
+/// A value as the text that a parameter is sent as; nothing for Null. InvalidArgument for a text with a NUL
+/// in it.
 std::optional<std::string> parameterText(const sql::ColumnValue& value);
 
 /// The type that a value is sent with. It goes by the column that the value meets rather than by the value,

@@ -4,7 +4,6 @@
 
 #include <libpq-fe.h>
 #include <poll.h>
-#include <sys/socket.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -123,9 +122,9 @@ Wire::Transaction Wire::transaction() const {
     }
 }
 
-std::string Wire::parameter(const char* name) const {
-    const char* value = PQparameterStatus(mHandle, name);
-    return value ? value : "";
+bool Wire::has(const char* setting, std::string_view value) const {
+    const char* has = PQparameterStatus(mHandle, setting);
+    return has && has == value;
 }
 
 std::vector<Answer> Wire::send(std::span<const Command> commands) {
@@ -239,9 +238,6 @@ bool Wire::await(short events, milliseconds patience) const {
 void Wire::lose(std::string_view what) {
     mLost = true;
     const RuntimeError error = connectionError(mHandle, what);
-    // When the network is back the server has to learn that nobody is there any more: what it holds for us,
-    // others wait for.
-    if (mOwned && PQsocket(mHandle) >= 0) ::shutdown(PQsocket(mHandle), SHUT_RDWR);
     if (mUnderWay) leavePipeline();
     throw error;
 }

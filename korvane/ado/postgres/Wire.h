@@ -71,8 +71,8 @@ class Wire {
     enum class Transaction { None, Open, Failed };
     /// What the server said last of the transaction that is open on the line.
     Transaction transaction() const;
-    /// A setting that the server keeps us informed of.
-    std::string parameter(const char* name) const;
+    /// Whether a setting that the server keeps us informed of has that value.
+    bool has(const char* setting, std::string_view value) const;
 
   private:
     template <typename Poll>

@@ -31,8 +31,13 @@ TokenKind Lexer::other() {
         return bracketed();
     case '#':
         return date();
-    case '?':
     case ':':
+        if (mEnd - mNext > 1 && mNext[1] == ':') {
+            mNext += 2;
+            return TokenKind::Symbol; // a cast, in some engine's own words
+        }
+        return parameter();
+    case '?':
     case '@':
     case '$':
         return parameter();

@@ -134,8 +134,15 @@ ColumnValue asInteger(const Literal& literal, const ColumnInfo& column, Use use,
     return value;
 }
 
-ColumnValue asReal(const Literal& literal, const ColumnInfo& column, std::string& scratch) {
-    return asNumber(literal, column, scratch);
+ColumnValue asDecimal(const Literal& literal, const ColumnInfo& column, std::string& scratch) {
+    const ColumnValue value = asNumber(literal, column, scratch);
+    const double* number = std::get_if<double>(&value);
+    if (!number || (literal.kind != Literal::Text && literal.text.empty())) return value;
+    if (literal.kind == Literal::Text)
+        scratch = numberDigits(plainText(literal, scratch)).value_or("");
+    else
+        scratch = (std::signbit(*number) ? "-" : "") + std::string(literal.text);
+    return Digits{scratch};
 }
 
 ColumnValue asBoolean(const Literal& literal, const ColumnInfo& column, Use use, std::string& scratch) {
@@ -226,9 +233,10 @@ ColumnValue toColumn(const Literal& literal, const ColumnInfo& column, Use use, 
         return asInteger(literal, column, use, scratch);
     case DataType::Single:
     case DataType::Double:
+        return asNumber(literal, column, scratch);
     case DataType::Currency:
     case DataType::Numeric:
-        return asReal(literal, column, scratch);
+        return asDecimal(literal, column, scratch);
     case DataType::Date:
         return asDate(literal, column, scratch);
     case DataType::Boolean:
@@ -239,6 +247,8 @@ ColumnValue toColumn(const Literal& literal, const ColumnInfo& column, Use use, 
     case DataType::LongVarBinary:
         break;
     }
+    const bool isEmptyText = literal.kind == Literal::Text && literal.text.empty();
+    if (column.onlyShownAsText && isEmptyText) return {};
     return asText(literal, scratch);
 }
 

@@ -71,7 +71,7 @@ class Search {
     std::optional<Meeting> inValues() const {
         if (mPlace.clause != Clause::Values || mPlace.depth != mPlace.clauseDepth + 1) return std::nullopt;
         if (!isInsert() || !endsValue() || scope().sources.empty()) return std::nullopt;
-        const auto columns = mTables.columnsOf(scope().sources.front().table);
+        const auto columns = mTables.columnsOf(scope().sources.front().name());
         const auto ordinal = static_cast<std::size_t>(mPlace.ordinal);
         const auto& named = scope().insertColumns;
         if (named.empty()) {

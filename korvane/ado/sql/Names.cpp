@@ -11,4 +11,8 @@ std::string quotedName(std::string_view name) {
     return quoted + '"';
 }
 
+std::string quotedName(std::string_view schema, std::string_view name) {
+    return schema.empty() ? quotedName(name) : quotedName(schema) + "." + quotedName(name);
+}
+
 } // namespace Korvane::ado::sql

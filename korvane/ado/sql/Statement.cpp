@@ -148,6 +148,8 @@ class Analysis {
             const bool insertColumns = !scope()->isSelect;
             if (!insertColumns) source.table.clear();
         }
+        if (mAt > 1 && mResult.tokens[mAt - 1].isSymbol('.') && mResult.tokens[mAt - 2].isName())
+            source.schema = plainName(mResult.tokens[mAt - 2]);
         alias(source, 1);
         addSource(std::move(source));
     }
@@ -220,12 +222,15 @@ bool isColumnName(const Token& token) {
     return token.isName() && !isReserved(token);
 }
 
+// Of those that differ in case only: the one spelled so, else the one in lower case.
 const ColumnInfo* find(std::span<const ColumnInfo> columns, std::string_view name) {
-    auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& c) { return c.name == name; });
-    if (found != columns.end()) return &*found;
-    found =
-        std::find_if(columns.begin(), columns.end(), [&](const auto& c) { return sameName(c.name, name); });
-    return found == columns.end() ? nullptr : &*found;
+    const ColumnInfo* alike = nullptr;
+    for (const ColumnInfo& column : columns) {
+        if (column.name == name) return &column;
+        if (!sameName(column.name, name)) continue;
+        if (!alike || column.name == lowerCase(name)) alike = &column;
+    }
+    return alike;
 }
 
 } // namespace
@@ -261,7 +266,7 @@ const ColumnInfo* resolve(const Statement& statement, const ColumnRef& ref, int 
         for (const Source& source : statement.scopes[static_cast<std::size_t>(scope)].sources) {
             const std::string& called = source.alias.empty() ? source.table : source.alias;
             if (!ref.qualifier.empty() && !sameName(called, ref.qualifier)) continue;
-            if (const ColumnInfo* column = find(tables.columnsOf(source.table), ref.name)) return column;
+            if (const ColumnInfo* column = find(tables.columnsOf(source.name()), ref.name)) return column;
         }
     }
     return nullptr;

@@ -17,6 +17,9 @@ struct Source {
     std::string table;
     std::string alias;
     std::size_t at = 0; ///< the token that names it; of a subquery its parenthesis
+    std::string schema{};
+
+    TableName name() const { return {table, schema}; }
 };
 
 /// One Select, Insert, Update or Delete of a statement, with what it can see.

@@ -28,7 +28,7 @@ std::optional<RowSource> rowSource(std::string_view text) {
     if (outermost.sources.size() != 1 || outermost.sources.front().table.empty()) return std::nullopt;
     if (isAggregated(statement, outermost)) return std::nullopt;
     const Source& source = outermost.sources.front();
-    return RowSource{source.table, source.alias.empty() ? source.table : source.alias};
+    return RowSource{source.table, source.alias.empty() ? source.table : source.alias, source.schema};
 }
 
 Effect effectOf(std::string_view statement) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <korvane/ado/sql/Literal.h>
+#include <korvane/ado/sql/Tables.h>
 
 #include <optional>
 #include <string>
@@ -19,6 +20,8 @@ struct ParameterRule {
 struct Translation {
     std::string text;
     std::vector<ParameterRule> parameters; ///< one for each `?` of the statement
+    /// The columns, as they are known, whose type decided the form of a value that is stored in them.
+    std::vector<std::string> storedColumns;
     /// Columns of the result whose type the engine cannot tell, by position: Max(column), Count(*). Empty
     /// when the result's columns cannot be counted from the text.
     std::vector<std::optional<DataType>> resultTypes;
@@ -32,6 +35,9 @@ struct Translation {
 struct RowSource {
     std::string table;
     std::string calledAs; ///< what its columns can be qualified with
+    std::string schema;
+
+    TableName name() const { return {table, schema}; }
 };
 std::optional<RowSource> rowSource(std::string_view statement);
 

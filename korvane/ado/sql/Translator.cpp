@@ -25,6 +25,7 @@ std::optional<Literal> readNumber(std::string_view digits, bool negative) {
     const auto [at, error] = std::from_chars(text.data(), end, literal.number);
     if (error != std::errc() || at != end) return std::nullopt;
     literal.kind = Literal::Number;
+    literal.text = digits;
     return literal;
 }
 
@@ -96,9 +97,15 @@ void Translator::parameter(std::size_t at) {
     if (const auto met = meeting(mStatement, at, at, mTables)) {
         rule.column = *met->column;
         rule.use = met->use;
+        noteStored(*met);
     }
     mResult.parameters.push_back(std::move(rule));
     if (mStatement.tokens[at].text == "?") replace(at, at, parameterText(mResult.parameters.size()));
+}
+
+void Translator::noteStored(const Meeting& met) {
+    if (met.use == Use::Store && !isTextType(met.column->type))
+        mResult.storedColumns.push_back(met.column->name);
 }
 
 void Translator::inText(std::size_t at) {
@@ -115,8 +122,11 @@ void Translator::inText(std::size_t at) {
         if (literal->kind == Literal::Day) replace(first, at, literalText(asItStands(*literal, mScratch)));
         return;
     }
-    if (!isTextType(met->column->type)) {
-        replace(first, at, literalText(toColumn(*literal, *met->column, met->use, mScratch)));
+    noteStored(*met);
+    const bool isEmptyText = literal->kind == Literal::Text && literal->text.empty();
+    if (!isTextType(met->column->type) || (met->column->onlyShownAsText && isEmptyText)) {
+        const ColumnValue value = toColumn(*literal, *met->column, met->use, mScratch);
+        replace(first, at, met->use == Use::Compare ? comparedText(value, *met->column) : literalText(value));
         return;
     }
     if (literal->kind == Literal::Text || (isNumber && !quotesNumbersForText())) return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <korvane/ado/sql/Meeting.h>
 #include <korvane/ado/sql/Statement.h>
 #include <korvane/ado/sql/Translation.h>
 
@@ -29,6 +30,10 @@ class Translator {
   protected:
     /// A value as it is written in the engine's statements.
     virtual std::string literalText(const ColumnValue& value) const = 0;
+    /// The same where it is compared with a column.
+    virtual std::string comparedText(const ColumnValue& value, const ColumnInfo&) const {
+        return literalText(value);
+    }
     /// Whether a number that meets a text column has to be written as a text.
     virtual bool quotesNumbersForText() const { return false; }
     /// What stands for the parameter of that number, counted from 1.
@@ -55,6 +60,7 @@ class Translator {
     void value(std::size_t at);
     bool isTruth(std::size_t at) const;
     void parameter(std::size_t at);
+    void noteStored(const Meeting& met);
     void inText(std::size_t at);
     std::optional<Literal> read(std::size_t at, bool negative) const;
     void cut(std::size_t first, std::size_t last);

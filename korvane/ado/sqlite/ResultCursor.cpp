@@ -126,8 +126,8 @@ std::string ResultCursor::updateStatement(std::span<const FieldChange> changes) 
         where += (where.empty() ? "" : " And ") + sql::quotedName(key) + " Is ?";
         stored += sql::quotedName(key) + (&key == &mWriteback.key.back() ? "" : ", ");
     }
-    return "Update " + sql::quotedName(mWriteback.table) + " Set " + set + " Where " + where + " Returning " +
-           stored;
+    return "Update " + sql::quotedName(mWriteback.schema, mWriteback.table) + " Set " + set + " Where " +
+           where + " Returning " + stored;
 }
 
 void ResultCursor::update(std::span<const FieldChange> changes) {

@@ -15,6 +15,7 @@ class Session;
 /// Where a result's rows can be written back: one table and the columns of its key, which stand behind the
 /// result's own.
 struct Writeback {
+    std::string schema; ///< empty when the statement names none
     std::string table;
     std::vector<std::string> key;
 };

@@ -99,7 +99,7 @@ std::int32_t Session::run(Lease& lease) {
 
 std::int32_t Session::BeginTrans(TransactionFor use) {
     handle();
-    if (use != TransactionFor::Reading && transactionLevel() == 0) settleCursors();
+    if (use == TransactionFor::Writing && transactionLevel() == 0) settleCursors();
     const std::int32_t level = mTransactions.begin(use);
     if (level == 1 && mOwned) {
         // From the first look at it the schema stays as it is until the end of the transaction.
@@ -305,7 +305,7 @@ std::unique_ptr<Cursor> Session::openKeyset(std::string_view statement, LockType
     std::string keyColumns;
     if (const auto rows = lockType == LockType::ReadOnly ? std::nullopt : sql::rowSource(statement)) {
         refreshSchema();
-        writeback = {rows->table, mSchema.keyOf(rows->table)};
+        writeback = {rows->schema, rows->table, mSchema.keyOf(rows->name())};
         for (const std::string& column : writeback.key) {
             keyColumns += ", " + sql::quotedName(rows->calledAs) + "." + sql::quotedName(column);
         }

@@ -35,6 +35,7 @@ std::string literalText(const sql::ColumnValue& value) {
                                       [](bool truth) { return std::string(truth ? "1" : "0"); },
                                       [](std::int64_t number) { return std::to_string(number); },
                                       [](double number) { return exactText(number); },
+                                      [](sql::Digits digits) { return std::string(digits.text); },
                                       [](Date date) { return quotedText(date.isoText()); },
                                       [](std::string_view text) { return quotedText(escapeQuotes(text)); }},
                       value);
@@ -47,6 +48,10 @@ int bind(sqlite3_stmt* statement, int parameter, const sql::ColumnValue& value, 
             [&](bool truth) { return sqlite3_bind_int(statement, parameter, truth ? 1 : 0); },
             [&](std::int64_t number) { return sqlite3_bind_int64(statement, parameter, number); },
             [&](double number) { return sqlite3_bind_double(statement, parameter, number); },
+            // The engine keeps no decimals but doubles.
+            [&](sql::Digits digits) {
+                return sqlite3_bind_double(statement, parameter, parseNumber(digits.text).value_or(0.0));
+            },
             [&](Date date) { return bindText(statement, parameter, date.isoText(), TextLives::OnlyNow); },
             [&](std::string_view text) { return bindText(statement, parameter, text, lives); }},
         value);

@@ -2,8 +2,6 @@
 
 #include <korvane/controls/nippanel/ListEntryText.h>
 
-#include <algorithm>
-
 namespace Korvane {
 
 void ChoiceModel::show(std::vector<ChoiceRow> rows) {
@@ -13,24 +11,10 @@ void ChoiceModel::show(std::vector<ChoiceRow> rows) {
 }
 
 void ChoiceModel::append(const QString& content) {
-    insert(rowCount(), {false, content, rowCount() + 1});
-}
-
-void ChoiceModel::insert(int row, ChoiceRow choice) {
+    const int row = rowCount();
     beginInsertRows({}, row, row);
-    mRows.insert(mRows.begin() + row, std::move(choice));
+    mRows.push_back({false, content, row + 1});
     endInsertRows();
-}
-
-void ChoiceModel::move(int row, int before) {
-    if (before == row || before == row + 1) return;
-    beginMoveRows({}, row, row, {}, before);
-    const auto moved = mRows.begin() + row;
-    if (before < row)
-        std::rotate(mRows.begin() + before, moved, moved + 1);
-    else
-        std::rotate(moved, moved + 1, mRows.begin() + before);
-    endMoveRows();
 }
 
 void ChoiceModel::remove(int row) {
@@ -40,7 +24,7 @@ void ChoiceModel::remove(int row) {
 }
 
 void ChoiceModel::toggle(int row) {
-    const bool check = !at(row).checked;
+    const bool check = !mRows[static_cast<std::size_t>(row)].checked;
     setData(index(row), check ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
 }
 
@@ -80,7 +64,7 @@ QVariant ChoiceModel::data(const QModelIndex& index, int role) const {
 bool ChoiceModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::CheckStateRole || mChecking == None) return false;
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return false;
-    ChoiceRow& row = at(index.row());
+    ChoiceRow& row = mRows[static_cast<std::size_t>(index.row())];
     const bool check = value.toInt() == Qt::Checked;
     if (row.checked == check) return true;
     if (check && mChecking == Many && !canBeListEntry(row.content)) return false;

@@ -19,11 +19,10 @@ class EditContentEntry : public GridEntry {
     void place(const QRect& area, const Twips& twips) override;
 
   private:
-    void identify() override;
     void showValue() override;
     QStringList content() const override;
     void store(const QStringList& entries) override { storeEntries(entries); }
-    QPushButton* makeButton(const QString& text);
+    QPushButton* makeButton(const QString& text, int offset);
     void add();
     void remove();
     void updateRemove();

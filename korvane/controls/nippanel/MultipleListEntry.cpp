@@ -3,7 +3,7 @@
 namespace Korvane {
 
 void MultipleListEntry::showValue() {
-    showChoices(site().storedEntries());
+    showChoices(storedEntries());
 }
 
 QStringList MultipleListEntry::content() const {

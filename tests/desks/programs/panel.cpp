@@ -29,9 +29,8 @@ void enter(const ucNIPPanel& panel, const Job& job, int visit) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    Job job(argv);
+    const Job job(argv);
     ucNIPPanel panel;
     panel.Initialize(ado::open(job.address));
     panel.show();
