@@ -14,8 +14,9 @@ namespace Korvane::ado {
 class CatalogDialect;
 
 /// What a transaction is for: reading sees one snapshot and takes no write lock, writing takes the lock at
-/// once, so that a read followed by a write cannot lose against another writer half-way.
-enum class TransactionFor { Reading, Writing };
+/// once, so that a read followed by a write cannot lose against another writer half-way. Changing the schema
+/// is writing, one at a time: it waits for another one that is at it.
+enum class TransactionFor { Reading, Writing, ChangingSchema };
 
 /// An open database. All statements are in the library's one SQL dialect (see docs/sql-dialect.md); the
 /// provider turns them into its engine's own.
@@ -53,6 +54,10 @@ class Connection : public std::enable_shared_from_this<Connection> {
     /// behind an Update of the same table need not be: it is sent ahead only when that has touched no row.
     /// Does nothing on an engine that gains nothing.
     virtual void Announce(std::span<const std::string> statements);
+
+    /// A query for one cell that is another one after any table or column was made, renamed or removed, by
+    /// whomever: what was learnt of the schema before may no longer hold. It may also change without need.
+    virtual std::string schemaMarkStatement() const = 0;
 
     /// Connects again after the server, or the line to it, went away (`State` is 0 then, though nobody closed
     /// the connection), to the same database with the same settings. Transactions that were open are lost

@@ -11,7 +11,15 @@ struct Recordset::Opened {
     // Behind the cursor, which is released first.
     std::shared_ptr<Connection> connection;
     std::unique_ptr<Cursor> cursor;
-    std::vector<FieldChange> pending;
+    int columns; ///< how many there are
+    std::vector<FieldChange> pending{};
+
+    /// Of a field that is there; raises ItemNotFound.
+    int ordinalOf(const FieldKey& key) const {
+        const int ordinal = key.isOrdinal() ? key.ordinal() : cursor->columnIndex(key.name());
+        if (ordinal < 0 || ordinal >= columns) throw RuntimeError(RuntimeError::ItemNotFound);
+        return ordinal;
+    }
 
     const FieldChange* pendingFor(int ordinal) const {
         for (const FieldChange& change : pending) {
@@ -20,18 +28,6 @@ struct Recordset::Opened {
         return nullptr;
     }
 };
-
-namespace {
-
-int ordinalOf(const Cursor& cursor, const FieldKey& key) {
-    const int ordinal = key.isOrdinal() ? key.ordinal() : cursor.columnIndex(key.name());
-    if (ordinal < 0 || ordinal >= static_cast<int>(cursor.columns().size())) {
-        throw RuntimeError(RuntimeError::ItemNotFound);
-    }
-    return ordinal;
-}
-
-} // namespace
 
 Recordset::Recordset() = default;
 Recordset::~Recordset() = default;
@@ -56,8 +52,8 @@ Recordset::Opened& Recordset::current() const {
 }
 
 const ColumnInfo& Recordset::columnInfo(const FieldKey& key) const {
-    const Cursor& cursor = *opened().cursor;
-    return cursor.columns()[static_cast<std::size_t>(ordinalOf(cursor, key))];
+    const Opened& open = opened();
+    return open.cursor->columns()[static_cast<std::size_t>(open.ordinalOf(key))];
 }
 
 CursorType Recordset::CursorType() const {
@@ -84,7 +80,9 @@ void Recordset::Open(std::string_view source, const std::shared_ptr<Connection>&
     mOpened.reset();
     ++mOpening;
     auto cursor = connection->openCursor(source, mCursorType, mLockType);
-    if (cursor) mOpened = std::make_unique<Opened>(Opened{connection, std::move(cursor), {}});
+    if (!cursor) return;
+    const auto columns = static_cast<int>(cursor->columns().size());
+    mOpened = std::make_unique<Opened>(Opened{connection, std::move(cursor), columns});
 }
 
 void Recordset::Close() {
@@ -117,11 +115,11 @@ void Recordset::MoveNext() {
 }
 
 std::int32_t Recordset::FieldCount() const {
-    return static_cast<std::int32_t>(opened().cursor->columns().size());
+    return opened().columns;
 }
 
 Field Recordset::Fields(const FieldKey& key) const {
-    const int ordinal = ordinalOf(*opened().cursor, key);
+    const int ordinal = opened().ordinalOf(key);
     return {std::const_pointer_cast<Recordset>(shared_from_this()), ordinal, mOpening};
 }
 
@@ -136,14 +134,14 @@ Variant Recordset::Value(const FieldKey& key) const {
 }
 
 void Recordset::Value(const FieldKey& key, Variant& value) const {
-    ordinalOf(*opened().cursor, key);
+    opened().ordinalOf(key);
     if (!ValueUnlessEof(key, value)) throw RuntimeError(RuntimeError::NoCurrentRecord);
 }
 
 std::optional<int> Recordset::ValueUnlessEof(const FieldKey& key, Variant& value) const {
     const Opened& open = opened();
     if (open.cursor->atEnd()) return std::nullopt;
-    const int ordinal = ordinalOf(*open.cursor, key);
+    const int ordinal = open.ordinalOf(key);
     if (const FieldChange* change = open.pendingFor(ordinal))
         value = change->value;
     else
@@ -152,7 +150,7 @@ std::optional<int> Recordset::ValueUnlessEof(const FieldKey& key, Variant& value
 }
 
 void Recordset::SetValue(const FieldKey& key, const Variant& value) {
-    const int ordinal = ordinalOf(*opened().cursor, key);
+    const int ordinal = opened().ordinalOf(key);
     Opened& open = current();
     if (open.cursor->lockType() == LockType::ReadOnly) throw RuntimeError(RuntimeError::ReadOnlyRecordset);
     if (value.isArray()) throw RuntimeError(RuntimeError::TypeMismatch);

@@ -111,8 +111,8 @@ const Variant& SQLData::DataView(const ado::FieldKey& key) {
     if (isCached(key)) return mCachedValue;
     try {
         // Kept first: the key may be a view of the value that is about to be replaced.
-        mCachedKey = key.name();
         mCachedOrdinal = key.isOrdinal() ? std::optional(key.ordinal()) : std::nullopt;
+        if (!mCachedOrdinal) mCachedKey = key.name();
         readField(key, mCachedValue);
         return mCachedValue;
     } catch (...) {

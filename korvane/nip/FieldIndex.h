@@ -1,5 +1,6 @@
 #pragma once
 
+#include <korvane/nip/FieldPlace.h>
 #include <korvane/nip/GroupRecord.h>
 #include <korvane/runtime/Text.h>
 
@@ -10,12 +11,6 @@
 #include <vector>
 
 namespace Korvane {
-
-/// The place of a field in a model.
-struct FieldPlace {
-    std::int16_t group = 0;
-    std::int16_t field = 0;
-};
 
 /// Finds the fields of a model by group identifier and name (case does not count) without walking them.
 /// Fields are added once their record is filled; groups and fields must not be removed while it is used.

@@ -2,12 +2,12 @@
 
 #include <korvane/data/ErrLog.h>
 #include <korvane/nip/Choices.h>
+#include <korvane/nip/Counters.h>
 #include <korvane/nip/FieldIndex.h>
 #include <korvane/nip/Query.h>
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <unordered_map>
 
 namespace Korvane {
@@ -46,15 +46,6 @@ enum FieldColumn {
 enum ValueColumn { allowedValue, isDefault, valueFieldName, valueGroupID };
 
 constexpr std::string_view commentSuffix = "_COMMENTS";
-
-/// The counters of the model are 16-bit.
-std::int16_t raised(std::int16_t count, std::string_view what, const std::string& where = {}) {
-    constexpr std::int16_t most = std::numeric_limits<std::int16_t>::max();
-    if (count == most)
-        throw RuntimeError(RuntimeError::Overflow,
-                           "More than " + std::to_string(most) + ' ' + std::string(what) + where);
-    return static_cast<std::int16_t>(count + 1);
-}
 
 void setText(std::string& text, const Variant& value) {
     if (value.isText())
@@ -95,7 +86,7 @@ void addAllowedValue(FieldRecord& field, const Variant& value, bool byDefault) {
     constexpr std::size_t usualCount = 8;
     std::vector<Variant>& values = field.valueList.array().elements;
     if (field.valueListCount == 0) values.reserve(usualCount);
-    field.valueListCount = raised(field.valueListCount, "values of the field ", field.fieldName);
+    field.valueListCount = countedUp(field.valueListCount, "values of the field ", field.fieldName);
     values.push_back(value);
     if (byDefault) field.defaultValue = value;
 }
@@ -104,9 +95,11 @@ void addAllowedValue(FieldRecord& field, const Variant& value, bool byDefault) {
 
 bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
     if (!connection) return false;
-    return guarded("Error in cNip.LoadStructure: ", false, [&] {
+    return attempt("Error in cNip.LoadStructure: ", [&] {
         mConnection = connection;
         mStructureLoaded = false;
+        mStructureChanged = false;
+        mHoldsValues = false;
         mEncounterID = -1; // its values go with the structure: a save must not write empty ones over them
         mColumnsOfEncounter.clear();
         mFieldCountMax = 0;
@@ -115,11 +108,14 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
         mGroups.emplace_back();
 
         Snapshot snapshot(*mConnection);
-        mConnection->Announce(structureStatements);
+        std::vector<std::string> statements(structureStatements.begin(), structureStatements.end());
+        statements.push_back(mConnection->schemaMarkStatement());
+        mConnection->Announce(statements);
         FieldIndex index(mGroups);
         loadGroups();
         loadFields(index);
         loadAllowedValues(index);
+        mSchemaMark = readSchemaMark();
         snapshot.end();
         mStructureLoaded = true;
         return true;
@@ -129,7 +125,7 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
 void cNIP::loadGroups() {
     SQLData row;
     for (run(row, mConnection, structureStatements[0]); !row.Eof(); row.NextRow()) {
-        raised(GroupCount(), "groups");
+        countedUp(GroupCount(), "groups");
         GroupRecord& group = mGroups.emplace_back();
         setText(group.tableName, row.DataView(groupTable));
         setText(group.groupName, row.DataView(groupName));
@@ -169,7 +165,7 @@ void cNIP::loadFields(FieldIndex& index) {
 }
 
 FieldRecord& cNIP::appendField(GroupRecord& group) {
-    const std::int16_t count = raised(group.fieldCount, "fields in the group ", group.groupName);
+    const std::int16_t count = countedUp(group.fieldCount, "fields in the group ", group.groupName);
     const auto index = static_cast<std::size_t>(count);
     if (index >= group.fields.size()) group.fields.resize(index + 1);
     group.fieldCount = count;
@@ -189,7 +185,11 @@ void cNIP::placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex&
             return;
         }
     }
-    group.rowCount = raised(group.rowCount, "rows in the group ", group.groupName);
+    beginRow(group, field);
+}
+
+void cNIP::beginRow(GroupRecord& group, FieldRecord& field) {
+    group.rowCount = countedUp(group.rowCount, "rows in the group ", group.groupName);
     field.colIndex = 1;
     field.rowIndex = group.rowCount;
     mRowCountMax = std::max(mRowCountMax, group.rowCount);

@@ -52,16 +52,18 @@ bool canStandInStatement(const Variant& value) {
 } // namespace
 
 bool cNIP::Load(std::int32_t encounterID, std::string_view patientID, bool newEncounter) {
-    const bool loaded = guarded("Error in cNip.Load: ", false, [&] {
+    mHoldsValues = attempt("Error in cNip.Load: ", [&] {
         if (!mStructureLoaded && !LoadStructure(mConnection)) return false;
         mEncounterID = encounterID;
         mPatientID = patientID;
         mNewEncounter = newEncounter;
-        loadValues();
-        return true;
+        return withCurrentSchema([&] {
+            loadValues();
+            return true;
+        });
     });
-    if (!loaded) forgetValues();
-    return loaded;
+    if (!mHoldsValues) forgetValues();
+    return mHoldsValues;
 }
 
 void cNIP::forgetValues() {
@@ -93,6 +95,7 @@ void cNIP::writeLoadStatements() {
         if (count == mStatements.size()) mStatements.emplace_back();
         return mStatements[count++];
     };
+    next() = mConnection->schemaMarkStatement();
     for (std::size_t i = 1; i < mGroups.size(); ++i) {
         FieldList& list = fieldListOf(mGroups[i]);
         if (list.columns.empty()) continue;
@@ -113,7 +116,8 @@ void cNIP::loadValues() {
     writeLoadStatements();
     Snapshot snapshot(*mConnection);
     mConnection->Announce(mStatements);
-    auto statement = mStatements.cbegin();
+    requireCurrentSchema();
+    auto statement = mStatements.cbegin() + 1;
     SQLData current;
     SQLData latest;
     for (std::size_t i = 1; i < mGroups.size(); ++i) {

@@ -65,16 +65,18 @@ std::string insertStatement(SQLData& lists, const GroupRecord& group, std::int32
 } // namespace
 
 bool cNIP::Save() {
-    return guarded("Error in cNip.Save: ", false, [&] {
+    return attempt("Error in cNip.Save: ", [&] {
         if (!mStructureLoaded)
             throw RuntimeError(RuntimeError::InvalidProcedureCall, "The structure is not loaded");
         if (mEncounterID == -1)
             throw RuntimeError(RuntimeError::InvalidProcedureCall, "The encounter is not stored yet");
-        const HeldMessages messages;
-        ado::Transaction work(*mConnection);
-        saveValues();
-        work.commit();
-        return true;
+        return withCurrentSchema([&] {
+            const HeldMessages messages;
+            ado::Transaction work(*mConnection);
+            saveValues();
+            work.commit();
+            return true;
+        });
     });
 }
 
@@ -94,11 +96,13 @@ void cNIP::requireOwnEncounter(std::string_view statement) const {
     raiseFailure(query);
 }
 
+/// Whoever changes the schema waits for the rows that this has written: what holds behind the last update
+/// holds until the commit. It is asked before as well, since an update of a column that is gone tells less.
 void cNIP::saveValues() {
     const std::string owner =
         "Select PatientID From Encounter Where EncounterID=" + std::to_string(mEncounterID);
     std::vector<const GroupRecord*> groups;
-    std::vector<std::string> statements;
+    std::vector<std::string> statements{mConnection->schemaMarkStatement()};
     SQLData lists;
     if (!mPatientID.empty()) statements.push_back(owner);
     const std::size_t before = statements.size();
@@ -107,7 +111,9 @@ void cNIP::saveValues() {
         groups.push_back(&mGroups[i]);
         statements.push_back(updateStatement(lists, mGroups[i], mEncounterID));
     }
+    statements.push_back(statements.front());
     mConnection->Announce(statements);
+    requireCurrentSchema();
     requireOwnEncounter(owner);
     // A group without a row is seldom alone: an encounter that is new has none at all.
     std::vector<std::string> inserts;
@@ -123,6 +129,7 @@ void cNIP::saveValues() {
         }
         run(query, mConnection, inserts[i], true);
     }
+    requireCurrentSchema();
 }
 
 } // namespace Korvane

@@ -1,11 +1,13 @@
 #include <korvane/nip/cNIP.h>
 
+#include <korvane/ado/Catalog.h>
 #include <korvane/runtime/RuntimeError.h>
 
 namespace Korvane {
 
 cNIP::cNIP() : mGroups(1) {}
 cNIP::~cNIP() = default;
+cNIP& cNIP::operator=(cNIP&& other) noexcept = default;
 
 const FieldRecord& cNIP::at(std::int16_t group, std::int16_t field) const {
     static const FieldRecord nothing;

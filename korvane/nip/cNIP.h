@@ -1,20 +1,35 @@
 #pragma once
 
 #include <korvane/ado/Connection.h>
+#include <korvane/nip/FieldDefinition.h>
 #include <korvane/nip/FieldRecord.h>
 #include <korvane/nip/GroupRecord.h>
+#include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Variant.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Korvane {
 
+namespace ado {
+class Catalog;
+}
 class FieldIndex;
 class SQLData;
+struct StructureStep;
+
+/// What was entered into a field that is there no more.
+struct LostEntry {
+    std::string groupName;
+    std::string caption;
+    std::string text;
+};
 
 /// The model of a Nip: its groups, the fields of each group, each field's allowed values and its value for
 /// one encounter.
@@ -97,6 +112,16 @@ class cNIP {
     /// loaded up to it stays. More than 32767 groups, fields of a group or rows are such a failure.
     bool LoadStructure(const std::shared_ptr<ado::Connection>& connection);
 
+    /// Whether the latest operation failed because somebody has added, renamed or removed groups or fields
+    /// since the structure was loaded. `Load`, `Save` and the operations of customizing then do nothing but
+    /// return false, until the structure is loaded anew.
+    bool StructureChanged() const { return mStructureChanged; }
+
+    /// Loads structure and values anew and keeps what was entered since the last load, in the fields that are
+    /// still there, also under another name. What was entered into the others is `lost`. False, with nothing
+    /// changed and a line in the error log, after a failure.
+    bool ReloadStructure(std::vector<LostEntry>& lost);
+
     /// Fills every field's value for an encounter; for a new one from the defaults or, where the field says
     /// so, from the patient's latest other encounter (an empty patient ID has none). Values read from the
     /// database are text; Null, and a group without a row, give empty texts. Loads the structure first if
@@ -114,6 +139,42 @@ class cNIP {
     /// that save the same encounter one after the other both succeed, and the later values stay.
     bool Save();
 
+    // Customizing. Each operation changes structure tables and schema in one transaction, whole or not at
+    // all: false, with a line in the error log, when it failed, and database and model are as they were
+    // before. After a success load the structure anew: what was deleted is still in the model, for one. While
+    // another desk customizes, an operation waits for it; when another desk has changed the structure since
+    // it was loaded, the operation fails.
+
+    /// Adds a group with a table of its own, as the last one. Its table is named after the greatest name
+    /// there is, by the rule of `tableNameAfter`, which knows no more than two names; with `numbersGroups` it
+    /// takes the number after the greatest in use.
+    bool CreateGroup(std::string_view name);
+    bool numbersGroups() const { return mNumbersGroups; }
+    void numbersGroups(bool on) { mNumbersGroups = on; }
+
+    /// Removes a group with its fields and its table, and with that all that was entered there.
+    bool DeleteGroup(std::int16_t group);
+
+    /// Adds a text field to a group, in the model only: `SaveStructure` makes its column and its row.
+    /// Refused: an empty name, "EncounterID", a name that a field of the group has or is about to get, and
+    /// one that no statement can hold.
+    bool CreateField(std::int16_t group, const FieldDefinition& definition);
+
+    /// Changes the definition of a field, in the model only: `SaveStructure` writes it. The same names are
+    /// refused. The column is renamed with its data.
+    bool EditField(std::int16_t group, std::int16_t field, const FieldDefinition& definition);
+
+    /// Removes a field with its allowed values and its column, and with that all that was entered there. A
+    /// table or column that is missing already is noted in the error log.
+    bool DeleteField(std::int16_t group, std::int16_t field);
+
+    /// Writes what `CreateField` and `EditField` changed. A column is widened for a greater `maxLength`,
+    /// never narrowed. After a failure the fields are still new or changed: it can be tried again.
+    bool SaveStructure();
+
+    /// Why the latest operation that returned false did; nothing before the first.
+    const std::optional<RuntimeError>& LastError() const { return mLastError; }
+
   private:
     const FieldRecord& at(std::int16_t group, std::int16_t field) const;
     FieldRecord& at(std::int16_t group, std::int16_t field);
@@ -124,6 +185,7 @@ class cNIP {
     void loadAllowedValues(const FieldIndex& index);
     FieldRecord& appendField(GroupRecord& group);
     void placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex& index);
+    void beginRow(GroupRecord& group, FieldRecord& field);
 
     FieldList& fieldListOf(GroupRecord& group);
     const std::vector<std::string>& columnsOfEncounter();
@@ -135,6 +197,30 @@ class cNIP {
     void requireOwnEncounter(std::string_view statement) const;
     void saveValues();
 
+    cNIP& operator=(cNIP&& other) noexcept;
+    bool withCurrentSchema(const std::function<bool()>& body);
+    static void carryEntries(const GroupRecord& old, std::vector<GroupRecord>& groups,
+                             std::vector<LostEntry>& lost);
+    bool attempt(std::string_view prefix, const std::function<bool()>& body);
+    bool changeSchema(std::string_view prefix, const std::function<bool()>& change);
+    std::string readSchemaMark();
+    void requireCurrentSchema();
+    GroupRecord& existingGroup(std::int16_t group);
+    FieldRecord& existingField(std::int16_t group, std::int16_t field);
+    ado::Catalog& catalog();
+    void execute(std::string_view statement);
+    void execute(const std::vector<std::string>& statements);
+    std::int32_t nextID(const std::string& statement);
+
+    void insertGroup(GroupRecord& group);
+    std::string newTableName();
+    bool createTable(const std::string& name);
+    void place(GroupRecord& group, FieldRecord& field);
+    bool take(const StructureStep& step);
+    void insertField(FieldRecord& field);
+    void updateField(const GroupRecord& group, const FieldRecord& field);
+    void writeAllowedValues(const FieldRecord& field);
+
     std::shared_ptr<ado::Connection> mConnection;
     std::vector<GroupRecord> mGroups; ///< group 0 is there, and empty
     std::int16_t mFieldCountMax = 0;
@@ -145,6 +231,12 @@ class cNIP {
     std::string mPatientID;
     bool mNewEncounter = false;
     std::vector<std::string> mStatements; ///< of the last load, kept for their storage
+    bool mNumbersGroups = false;
+    std::unique_ptr<ado::Catalog> mCatalog; ///< made when it is first needed
+    std::string mSchemaMark;                ///< of the schema when the structure was loaded
+    bool mStructureChanged = false;
+    bool mHoldsValues = false; ///< of a load that succeeded
+    std::optional<RuntimeError> mLastError;
 };
 
 } // namespace Korvane

@@ -3,6 +3,9 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include <gmock/gmock.h>
 
@@ -11,6 +14,7 @@ namespace Korvane {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using Testing::NipForm;
+using Testing::shownRows;
 
 namespace {
 
@@ -36,6 +40,18 @@ std::string focusName() {
     if (!focus) return "nothing";
     return utf8(focus->objectName().isEmpty() ? QString::fromLatin1(focus->metaObject()->className())
                                               : focus->objectName());
+}
+
+std::vector<QPointer<QWidget>> controlsOf(const NipForm& form, const char* tagOfGroup) {
+    std::vector<QPointer<QWidget>> controls;
+    for (QWidget* widget : form.tabs.findChildren<QWidget*>())
+        if (widget->property("Tag").toString().startsWith(tagOfGroup)) controls.emplace_back(widget);
+    return controls;
+}
+
+void type(const NipForm& form, const char* box, const QString& text) {
+    form.control<QWidget>(box)->setFocus();
+    QTest::keyClicks(form.control<QWidget>(box), text);
 }
 
 } // namespace
@@ -135,7 +151,7 @@ TEST(NipTabs, FollowTheStructureAndKeepTheTabInView) {
     EXPECT_EQ(form.tabs.tabText(0), "R&&D") << "an ampersand, not a shortcut";
     EXPECT_EQ(form.tabs.tabText(form.tabs.currentIndex()), "Group 3");
     EXPECT_EQ(form.control<QWidget>("txtNip(2)")->property("Tag"), "3::1");
-    EXPECT_EQ(form.tabs.findChild<QWidget*>("txtNip(1)"), nullptr);
+    EXPECT_EQ(form.tabs.findChild<QWidget*>("txtNip(0)"), nullptr) << "the new one has not been shown";
 
     form.db->quietly("Delete From DBFieldGroups Where DBFieldGroupID In (3, 9)");
     form.db->quietly("Delete From DBFields Where DBFieldGroupID In (3, 9)");
@@ -143,6 +159,95 @@ TEST(NipTabs, FollowTheStructureAndKeepTheTabInView) {
     EXPECT_EQ(form.tabs.count(), 1);
     QTest::keyClicks(form.control<QLineEdit>("txtNip(0)"), "x");
     EXPECT_EQ(form.edits, 1);
+}
+
+TEST(NipTabs, KeepTheControlsOfWhatDidNotChangeAndRenumberThem) {
+    NipForm form;
+    everyTypeTwice(form);
+    form.open();
+    form.tabs.setCurrentIndex(1);
+    const auto second = controlsOf(form, "2::");
+    ASSERT_EQ(second.size(), 8U);
+    form.group(9, "First now", "T9", 0.5F);
+    form.field(9, "T9", "New", {.displayType = "LIST-EDITCONTENT"});
+    form.field(2, "T2", "Another", {.ordinal = 0.5F});
+    form.db->quietly("Delete From DBFields Where DBFieldGroupID=2 And FieldName='F2'");
+    form.rebuild();
+    EXPECT_EQ(controlsOf(form, "3::"), second);
+    for (const QWidget* widget : second)
+        ASSERT_TRUE(widget && widget->isVisible());
+    EXPECT_EQ(utf8(second[0]->objectName()), "txtNip(2)");
+    EXPECT_EQ(utf8(second.back()->objectName()), "cmdNip(5)");
+    EXPECT_EQ(form.control<QLabel>("lblNip(7)")->buddy(), second[0]);
+
+    form.tabs.setCurrentIndex(1);
+    form.before.setFocus();
+    QTest::keyClick(&form.before, Qt::Key_Tab);
+    std::vector<std::string> visited;
+    for (int i = 0; i < 4; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        visited.push_back(focusName() + " " + utf8(QApplication::focusWidget()->property("Tag").toString()));
+    }
+    EXPECT_THAT(visited,
+                ElementsAre("txtNip(0) 2::1", "txtNip(1) 2::2", "cboNip(0) 2::3", "gridNip(1) 2::4"));
+    EXPECT_LT(form.control<QWidget>("txtNip(0)")->y(), form.control<QWidget>("txtNip(1)")->y());
+    EXPECT_TRUE(form.control<QWidget>("txtNip(0)")->isVisible());
+}
+
+TEST(NipTabs, ShowWhatIsNewOfAFieldInItsOldControl) {
+    NipForm form;
+    everyTypeTwice(form);
+    form.store("T2", {{"F1", "text"}, {"F2", "A"}, {"F4", "A"}});
+    form.open();
+    QPointer<QWidget> box = form.control<QWidget>("txtNip(0)");
+    QPointer<QWidget> combo = form.control<QWidget>("cboNip(0)");
+    QPointer<QWidget> list = form.control<QWidget>("gridNip(0)");
+    const int height = form.control<QLabel>("lblNip(0)")->height();
+    form.db->quietly("Update DBFields Set MaxLength=4,FieldCaption='" + std::string(300, 'm') +
+                     " m' Where FieldName='F1'");
+    form.db->quietly("Update DBFields Set DisplayType='LIST' Where FieldName='F2'");
+    form.allowed(2, "F4", "B", 9);
+    form.rebuild();
+    EXPECT_EQ(form.control<QWidget>("txtNip(0)"), box);
+    EXPECT_GT(form.control<QLabel>("lblNip(0)")->height(), height);
+    EXPECT_EQ(form.control<QLabel>("lblNip(0)")->text(), box->accessibleName());
+    type(form, "txtNip(0)", "more");
+    EXPECT_EQ(form.control<QLineEdit>("txtNip(0)")->text(), "text") << "it is full now";
+    EXPECT_TRUE(combo.isNull());
+    EXPECT_EQ(shownRows(form.control<QListView>("gridNip(0)")), "[A]");
+    EXPECT_EQ(form.control<QListView>("gridNip(1)"), list);
+    EXPECT_EQ(shownRows(form.control<QListView>("gridNip(1)")), "[A] B");
+    EXPECT_EQ(form.saved("F1", "T2"), "text");
+}
+
+TEST(NipTabs, LeaveTheUserWhereTheyAreWhenTheStructureChanges) {
+    NipForm form;
+    everyTypeTwice(form);
+    form.store("T3", {{"F1", "stored"}, {"F2", "A"}});
+    form.open({900, 250});
+    form.tabs.setCurrentIndex(1);
+    type(form, "cboNip(2)", "typed");
+    type(form, "txtNip(1)", "new ");
+    auto* area = form.control<QScrollArea>("scrollNip(1)");
+    area->verticalScrollBar()->setValue(40);
+    ASSERT_EQ(area->verticalScrollBar()->value(), 40);
+    form.allowed(3, "F2", "B", 9);
+    form.field(3, "T3", "New");
+    form.rebuild();
+    EXPECT_EQ(focusName(), "txtNip(1)");
+    EXPECT_EQ(area->verticalScrollBar()->value(), 40);
+    EXPECT_EQ(form.control<QLineEdit>("txtNip(1)")->text(), "new stored");
+    EXPECT_EQ(form.control<QLineEdit>("txtNip(1)")->cursorPosition(), 4);
+    EXPECT_EQ(form.control<QComboBox>("cboNip(2)")->currentText(), "typedA");
+    EXPECT_EQ(form.saved("F1,F2", "T3"), "new stored|typedA");
+
+    form.db->quietly("Update T3 Set F1='by another desk'");
+    type(form, "txtNip(1)", "more");
+    form.rebuild();
+    EXPECT_EQ(form.control<QLineEdit>("txtNip(1)")->text(), "by another desk");
+    form.db->quietly("Delete From DBFields Where FieldName='F1'");
+    form.rebuild();
+    EXPECT_EQ(focusName(), "cboNip(2)") << "the focus goes on";
 }
 
 TEST(NipTabs, GoThroughTheControlsByTabInTheOrderOfTheFields) {

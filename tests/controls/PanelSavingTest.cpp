@@ -233,6 +233,27 @@ TEST(SavingANip, ACommitWithoutAnAnswerStoresNothingTwice) {
     }
 }
 
+TEST(SavingANip, AServerThatGoesAwayAtTheCommitCanBeReachedAndSavedToAgain) {
+    if (!ScratchDatabase::onServer()) GTEST_SKIP() << "a file has no line to lose";
+    PanelDesk desk;
+    desk.db->quietly("Create Function leave() Returns Trigger Language plpgsql "
+                     "As 'Begin Perform pg_terminate_backend(pg_backend_pid()); Return Null; End'");
+    desk.db->quietly(
+        "Create Constraint Trigger leave After Insert On Encounter Deferrable Initially Deferred "
+        "For Each Row Execute Function leave()");
+    desk.enterNewNip();
+    desk.save();
+    EXPECT_EQ(desk.db->State(), 0);
+    EXPECT_THAT(desk.user->boxes.back().text, HasSubstr("it is not known whether this Nip was saved"));
+    EXPECT_THAT(desk.heard, IsEmpty());
+    desk.db->Reset();
+    desk.db->quietly("Drop Function leave Cascade");
+    EXPECT_EQ(desk.rows("Select EncounterID From Encounter"), "7");
+    desk.save();
+    EXPECT_THAT(desk.heard, ElementsAre("created 8", "closed"));
+    EXPECT_EQ(desk.rows("Select EncounterID,Pulse From NIP_Custom1 Where EncounterID>7"), "8|80");
+}
+
 TEST(SavingANip, AnEncounterThatIsGoneIsNotSavedAndSaidSo) {
     const std::function<void(PanelDesk&)> saves[] = {[](PanelDesk& desk) { desk.save(); },
                                                      [](PanelDesk& desk) { desk.panel.SaveNipInfo(); }};

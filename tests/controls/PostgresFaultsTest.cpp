@@ -81,7 +81,7 @@ struct Ward {
                          watch);
                 return rs->Value(0).text() != "0";
             };
-            while (!waiting())
+            for (int i = 0; i < 2000 && !waiting(); ++i)
                 std::this_thread::sleep_for(2ms);
             action();
         });

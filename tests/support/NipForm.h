@@ -84,6 +84,13 @@ class NipForm : public NipDatabase {
         tabs.fill();
     }
 
+    /// Takes on the structure and the encounter as they are stored now, without showing another encounter.
+    void rebuild() {
+        ASSERT_TRUE(nip.LoadStructure(db));
+        ASSERT_TRUE(nip.Load(encounterID, "P1", false));
+        tabs.CreateNipControls(nip);
+    }
+
     /// Saves and reads one column as it is stored.
     std::string saved(std::string_view column = "Field", std::string_view table = "T") {
         tabs.collect();

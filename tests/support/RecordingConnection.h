@@ -3,6 +3,8 @@
 #include <korvane/ado/Connection.h>
 #include <korvane/runtime/RuntimeError.h>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -21,9 +23,10 @@ class RecordingConnection : public ado::Connection {
   public:
     explicit RecordingConnection(std::shared_ptr<ado::Connection> real) : mReal(std::move(real)) {}
 
-    /// Every statement in the order in which it was run, also one that failed.
+    /// Every statement in the order in which it was run, also one that failed; without those that only ask
+    /// whether the schema has changed.
     std::vector<std::string> statements;
-    /// Every statement that was announced.
+    /// Every statement that was announced, without those either.
     std::vector<std::string> announced;
     /// A statement that contains this text fails with `failure` instead of being run. Empty: none does.
     std::string failOn;
@@ -33,6 +36,8 @@ class RecordingConnection : public ado::Connection {
     /// comes, whether it was `carriedOut` or not, and `State` is 0 until `Reset`.
     std::string loseAnswerOf;
     bool carriedOut = true;
+    /// How many more statements, commits among them, run before one fails; below 0: none does.
+    int failAfter = -1;
 
     /// Runs `statement` past the record, to prepare or look at what is stored.
     std::int32_t quietly(std::string_view statement) { return mReal->Execute(statement); }
@@ -48,6 +53,7 @@ class RecordingConnection : public ado::Connection {
     }
     std::int32_t BeginTrans(ado::TransactionFor use) override { return mReal->BeginTrans(use); }
     void CommitTrans() override {
+        step();
         if (transactionLevel() > 1 || !losesAnswerOf("Commit")) return mReal->CommitTrans();
         carriedOut ? mReal->CommitTrans() : mReal->RollbackTrans();
         loseLine();
@@ -55,9 +61,12 @@ class RecordingConnection : public ado::Connection {
     void RollbackTrans() override { mReal->RollbackTrans(); }
     std::int32_t transactionLevel() const override { return mReal->transactionLevel(); }
     void Announce(std::span<const std::string> coming) override {
-        announced.insert(announced.end(), coming.begin(), coming.end());
+        std::ranges::copy_if(coming, std::back_inserter(announced), [&](const std::string& statement) {
+            return statement != schemaMarkStatement();
+        });
         mReal->Announce(coming);
     }
+    std::string schemaMarkStatement() const override { return mReal->schemaMarkStatement(); }
     void Reset() override {
         mReal->Reset();
         mLost = false;
@@ -75,7 +84,12 @@ class RecordingConnection : public ado::Connection {
     const ado::CatalogDialect& catalogDialect() const override { return mReal->catalogDialect(); }
 
   private:
+    void step() {
+        if (failAfter >= 0 && failAfter-- == 0) throw failure;
+    }
     void note(std::string_view statement) {
+        step();
+        if (statement == schemaMarkStatement()) return;
         statements.emplace_back(statement);
         if (!failOn.empty() && statement.find(failOn) != std::string_view::npos) throw failure;
     }

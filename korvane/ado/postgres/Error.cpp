@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <regex>
 #include <utility>
 
 namespace Korvane::ado::postgres {
@@ -120,14 +119,22 @@ RuntimeError connectionError(const pg_conn* handle, std::string_view what) {
 // Of a refusal the client library keeps the text only. At its most talkative it begins with the code,
 // whatever the server's language: "FATAL:  28P01: password authentication failed".
 RuntimeError refusalError(const pg_conn* handle) {
-    const std::string said = PQerrorMessage(handle);
-    static const std::regex coded(":  ([0-9A-Z]{5}): ([^\n]*)");
-    std::smatch last;
-    for (auto found = std::sregex_iterator(said.begin(), said.end(), coded); found != std::sregex_iterator();
-         ++found)
-        last = *found;
-    if (!last.empty())
-        return reported("The database server refused the connection: " + last.str(2), last.str(1));
+    constexpr std::size_t codeSize = 5;
+    constexpr std::string_view before = ":  ";
+    constexpr std::string_view behind = ": ";
+    const auto isCode = [](std::string_view text) {
+        return text.size() == codeSize &&
+               text.find_first_not_of("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ") == std::string_view::npos;
+    };
+    const std::string_view said = PQerrorMessage(handle);
+    for (std::size_t at = said.rfind(before); at != std::string_view::npos && at != 0;
+         at = said.rfind(before, at - 1)) {
+        const std::string_view code = said.substr(at + before.size()).substr(0, codeSize);
+        const std::string_view message = said.substr(std::min(said.size(), at + before.size() + codeSize));
+        if (!isCode(code) || !message.starts_with(behind)) continue;
+        const std::string text(message.substr(behind.size(), message.find('\n') - behind.size()));
+        return reported("The database server refused the connection: " + text, code);
+    }
     if (PQconnectionNeedsPassword(handle) != 0) {
         return reported("The database server asks for a password, and there is none in the address, in "
                         "PGPASSWORD or in the password file.",

@@ -39,11 +39,11 @@ std::int32_t ResultCursor::rowCount() const {
     return mCursorType == ado::CursorType::ForwardOnly ? -1 : mRowCount;
 }
 
-// Blanks behind a text of fixed length mean nothing to the engine.
+// Blanks behind a text of fixed length mean nothing to the engine. No text of it holds a zero byte.
 std::string_view ResultCursor::stored(int column) const {
-    std::string_view text(PQgetvalue(mRows.get(), mRow, column),
-                          static_cast<std::size_t>(PQgetlength(mRows.get(), mRow, column)));
-    if (PQftype(mRows.get(), column) != types::blankPadded) return text;
+    const std::string_view text = PQgetvalue(mRows.get(), mRow, column);
+    const bool isText = mColumns->all()[static_cast<std::size_t>(column)].type == DataType::VarWChar;
+    if (!isText || PQftype(mRows.get(), column) != types::blankPadded) return text;
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
@@ -61,11 +61,13 @@ void ResultCursor::value(int ordinal, Variant& value) const {
             read(*current, type, value);
         else
             value = Variant::null();
-    } else if (PQgetisnull(mRows.get(), mRow, ordinal)) {
-        value = Variant::null();
-    } else {
-        read(stored(ordinal), type, value);
+        return;
     }
+    const std::string_view text = stored(ordinal);
+    if (text.empty() && PQgetisnull(mRows.get(), mRow, ordinal))
+        value = Variant::null();
+    else
+        read(text, type, value);
 }
 
 // The table's columns behind the fields to be changed; none when one of them is no such column.

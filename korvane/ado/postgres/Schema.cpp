@@ -102,6 +102,14 @@ void Schema::addColumn(Table& table, const pg_result* catalog, int row) {
     if (const int place = std::atoi(text(KeyPlace)); place >= 0) table.key.emplace_back(place, text(Column));
 }
 
+std::string_view Schema::markQuery() {
+    return "Select Sum(hashtextextended(c.relname || '.' || a.attname, a.attnum)) As SchemaMark "
+           "From pg_catalog.pg_class c "
+           "Join pg_catalog.pg_attribute a On a.attrelid=c.oid And a.attnum>0 And Not a.attisdropped "
+           "Where c.relkind In ('r','p') And c.relnamespace In (Select n.oid From pg_catalog.pg_namespace n "
+           "Where n.nspname=Any(current_schemas(false)))";
+}
+
 void Schema::read(const pg_result* catalog) {
     mForgotten.clear();
     mIsRead = true;

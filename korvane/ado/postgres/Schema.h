@@ -21,6 +21,10 @@ class Schema : public sql::Tables {
   public:
     /// Asks for what has to be read, which `read` takes; empty when all is known.
     std::string query() const;
+
+    /// Asks for a number that stands for the tables and columns there are, by their names and places.
+    static std::string_view markQuery();
+
     void read(const pg_result* catalog);
 
     /// Whether something is known that may have grown old.

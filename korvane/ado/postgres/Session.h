@@ -45,6 +45,7 @@ class Session final : public Connection {
     std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
                                        LockType lockType) override;
     std::unique_ptr<Cursor> openNative(std::string_view statement) override;
+    std::string schemaMarkStatement() const override { return std::string(Schema::markQuery()); }
     const ado::CatalogDialect& catalogDialect() const override { return mCatalogDialect; }
 
     void limits(const Limits& limits);

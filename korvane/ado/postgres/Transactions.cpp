@@ -12,6 +12,10 @@ namespace Korvane::ado::postgres {
 
 namespace {
 
+/// Held until the transaction ends. The second number is this library's own.
+constexpr const char* lockOfSchema =
+    "Select pg_catalog.pg_advisory_xact_lock(pg_catalog.hashtext(current_schema()), 1265595457)";
+
 std::string savepoint(std::int32_t level) {
     return "korvane_" + std::to_string(level);
 }
@@ -23,12 +27,11 @@ std::int32_t Transactions::begin(TransactionFor use) {
     const bool joins = isOpen();
     if (mLevels.empty()) mReads = !joins && use == TransactionFor::Reading;
     mLevels.push_back(joins);
-    if (joins)
-        mUnsent.push_back("Savepoint " + savepoint(level()));
-    else if (use == TransactionFor::Reading)
-        mUnsent.emplace_back("Begin Isolation Level Repeatable Read");
-    else
-        mUnsent.emplace_back("Begin");
+    if (!joins)
+        mUnsent.emplace_back(use == TransactionFor::Reading ? "Begin Isolation Level Repeatable Read"
+                                                            : "Begin");
+    if (use == TransactionFor::ChangingSchema) mUnsent.emplace_back(lockOfSchema);
+    if (joins) mUnsent.push_back("Savepoint " + savepoint(level()));
     return level();
 }
 

@@ -4,6 +4,7 @@
 
 #include <libpq-fe.h>
 #include <poll.h>
+#include <sys/socket.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -238,6 +239,9 @@ bool Wire::await(short events, milliseconds patience) const {
 void Wire::lose(std::string_view what) {
     mLost = true;
     const RuntimeError error = connectionError(mHandle, what);
+    // When the network is back the server has to learn that nobody is there any more: what it holds for us,
+    // others wait for.
+    if (mOwned && PQsocket(mHandle) >= 0) ::shutdown(PQsocket(mHandle), SHUT_RDWR);
     if (mUnderWay) leavePipeline();
     throw error;
 }

@@ -99,7 +99,7 @@ std::int32_t Session::run(Lease& lease) {
 
 std::int32_t Session::BeginTrans(TransactionFor use) {
     handle();
-    if (use == TransactionFor::Writing && transactionLevel() == 0) settleCursors();
+    if (use != TransactionFor::Reading && transactionLevel() == 0) settleCursors();
     const std::int32_t level = mTransactions.begin(use);
     if (level == 1 && mOwned) {
         // From the first look at it the schema stays as it is until the end of the transaction.

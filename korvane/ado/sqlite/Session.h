@@ -39,6 +39,7 @@ class Session final : public Connection {
     std::unique_ptr<Cursor> openCursor(std::string_view statement, CursorType cursorType,
                                        LockType lockType) override;
     std::unique_ptr<Cursor> openNative(std::string_view statement) override;
+    std::string schemaMarkStatement() const override { return "Pragma schema_version"; }
     const ado::CatalogDialect& catalogDialect() const override { return mCatalogDialect; }
 
     /// The handle, for as long as the connection is open. ObjectClosed behind that.

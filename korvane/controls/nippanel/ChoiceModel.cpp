@@ -2,6 +2,8 @@
 
 #include <korvane/controls/nippanel/ListEntryText.h>
 
+#include <algorithm>
+
 namespace Korvane {
 
 void ChoiceModel::show(std::vector<ChoiceRow> rows) {
@@ -11,10 +13,24 @@ void ChoiceModel::show(std::vector<ChoiceRow> rows) {
 }
 
 void ChoiceModel::append(const QString& content) {
-    const int row = rowCount();
+    insert(rowCount(), {false, content, rowCount() + 1});
+}
+
+void ChoiceModel::insert(int row, ChoiceRow choice) {
     beginInsertRows({}, row, row);
-    mRows.push_back({false, content, row + 1});
+    mRows.insert(mRows.begin() + row, std::move(choice));
     endInsertRows();
+}
+
+void ChoiceModel::move(int row, int before) {
+    if (before == row || before == row + 1) return;
+    beginMoveRows({}, row, row, {}, before);
+    const auto moved = mRows.begin() + row;
+    if (before < row)
+        std::rotate(mRows.begin() + before, moved, moved + 1);
+    else
+        std::rotate(moved, moved + 1, mRows.begin() + before);
+    endMoveRows();
 }
 
 void ChoiceModel::remove(int row) {
@@ -24,7 +40,7 @@ void ChoiceModel::remove(int row) {
 }
 
 void ChoiceModel::toggle(int row) {
-    const bool check = !mRows[static_cast<std::size_t>(row)].checked;
+    const bool check = !at(row).checked;
     setData(index(row), check ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
 }
 
@@ -64,7 +80,7 @@ QVariant ChoiceModel::data(const QModelIndex& index, int role) const {
 bool ChoiceModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::CheckStateRole || mChecking == None) return false;
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return false;
-    ChoiceRow& row = mRows[static_cast<std::size_t>(index.row())];
+    ChoiceRow& row = at(index.row());
     const bool check = value.toInt() == Qt::Checked;
     if (row.checked == check) return true;
     if (check && mChecking == Many && !canBeListEntry(row.content)) return false;

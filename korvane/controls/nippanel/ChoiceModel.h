@@ -11,7 +11,7 @@ namespace Korvane {
 struct ChoiceRow {
     bool checked = false; ///< the column "Checked"
     QString content;
-    int index = 0; ///< the column "Index"
+    int index = 0; ///< the column "Index", from 1; 0: a row that is no choice yet
 };
 
 /// The rows of a list grid. Rows that are shown anew reset the model; only what a user does afterwards raises
@@ -27,6 +27,9 @@ class ChoiceModel : public QAbstractListModel {
     void show(std::vector<ChoiceRow> rows);
     /// Adds a row at the end, its "Index" the number of rows then.
     void append(const QString& content);
+    void insert(int row, ChoiceRow choice);
+    /// Puts a row before another one, or with `before` the number of rows behind all.
+    void move(int row, int before);
     void remove(int row);
     /// Checks or unchecks a row; where one row can be checked, checking it unchecks the others.
     void toggle(int row);
@@ -39,6 +42,10 @@ class ChoiceModel : public QAbstractListModel {
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QHash<int, QByteArray> roleNames() const override;
+
+  protected:
+    ChoiceRow& at(int row) { return mRows[static_cast<std::size_t>(row)]; }
+    const std::vector<ChoiceRow>& rows() const { return mRows; }
 
   private:
     std::vector<ChoiceRow> mRows;

@@ -1,26 +1,12 @@
 #include <korvane/controls/nippanel/ChoiceView.h>
 
 #include <korvane/controls/nippanel/ChoiceModel.h>
+#include <korvane/controls/nippanel/ChoiceRowDelegate.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyledItemDelegate>
 
 namespace Korvane {
-
-namespace {
-
-/// Gives the rows some air, so that check boxes do not touch.
-class RowDelegate : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.height() / 4);
-    }
-};
-
-} // namespace
 
 ChoiceView::ChoiceView(QWidget* parent) : QListView(parent) {
     setWordWrap(true);
@@ -28,7 +14,7 @@ ChoiceView::ChoiceView(QWidget* parent) : QListView(parent) {
     setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    setItemDelegate(new RowDelegate(this));
+    setItemDelegate(new ChoiceRowDelegate(this));
 }
 
 // The view asks here before it starts an editor: with the release of a click on a row, with a key on the

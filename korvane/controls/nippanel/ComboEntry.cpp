@@ -12,7 +12,6 @@ ComboEntry::ComboEntry(EntrySite entrySite, Accepts accepts)
     auto* combo = new PageCombo(site().parent);
     mCombo = combo;
     if (accepts == AnyText) combo->takeAnyText();
-    identify(*mCombo);
     QObject::connect(mCombo, &QComboBox::currentTextChanged, mCombo, [this] { site().edited(); });
 }
 

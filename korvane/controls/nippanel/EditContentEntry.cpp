@@ -23,8 +23,8 @@ constexpr int buttonGap = 60;
 } // namespace
 
 EditContentEntry::EditContentEntry(EntrySite entrySite)
-    : GridEntry(std::move(entrySite), ChoiceModel::None), mAdd(makeButton(QStringLiteral("Add"), 0)),
-      mRemove(makeButton(QStringLiteral("Remove"), 1)) {
+    : GridEntry(std::move(entrySite), ChoiceModel::None), mAdd(makeButton(QStringLiteral("Add"))),
+      mRemove(makeButton(QStringLiteral("Remove"))) {
     QObject::connect(mAdd, &QPushButton::clicked, mAdd, [this] { add(); });
     QObject::connect(mRemove, &QPushButton::clicked, mRemove, [this] { remove(); });
     auto* deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), &grid());
@@ -34,13 +34,20 @@ EditContentEntry::EditContentEntry(EntrySite entrySite)
                      [this] { updateRemove(); });
 }
 
-QPushButton* EditContentEntry::makeButton(const QString& text, int offset) {
+QPushButton* EditContentEntry::makeButton(const QString& text) {
     auto* button = new QPushButton(text, site().parent);
-    button->setObjectName(EntrySite::elementName("cmdNip", site().button + offset));
-    button->setProperty("Tag", site().tag() + QLatin1String("::") + QString::number(offset + 1));
-    button->setAccessibleName(text + QLatin1String(": ") + site().caption());
     button->setAutoDefault(false);
     return button;
+}
+
+void EditContentEntry::identify() {
+    GridEntry::identify();
+    int number = 0;
+    for (QPushButton* button : {mAdd, mRemove}) {
+        button->setObjectName(EntrySite::elementName("cmdNip", site().button + number));
+        button->setProperty("Tag", site().tag() + QLatin1String("::") + QString::number(++number));
+        button->setAccessibleName(button->text() + QLatin1String(": ") + site().caption());
+    }
 }
 
 QList<QWidget*> EditContentEntry::tabOrder() const {
@@ -50,7 +57,7 @@ QList<QWidget*> EditContentEntry::tabOrder() const {
 void EditContentEntry::showValue() {
     mFilling = std::make_shared<const int>();
     std::vector<ChoiceRow> entries;
-    for (const QString& entry : storedEntries())
+    for (const QString& entry : site().storedEntries())
         entries.push_back({false, entry, static_cast<int>(entries.size()) + 1});
     rows().show(std::move(entries));
     grid().setCurrentIndex(rows().index(0));

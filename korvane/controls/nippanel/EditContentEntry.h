@@ -19,10 +19,11 @@ class EditContentEntry : public GridEntry {
     void place(const QRect& area, const Twips& twips) override;
 
   private:
+    void identify() override;
     void showValue() override;
     QStringList content() const override;
     void store(const QStringList& entries) override { storeEntries(entries); }
-    QPushButton* makeButton(const QString& text, int offset);
+    QPushButton* makeButton(const QString& text);
     void add();
     void remove();
     void updateRemove();

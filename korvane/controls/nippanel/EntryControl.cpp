@@ -20,6 +20,14 @@ void EntrySite::store(const QString& text) const {
     nip.value(group, field, utf8(text));
 }
 
+QStringList EntrySite::storedEntries() const {
+    const int count = nip.ChoiceListCount(group, field);
+    QStringList entries;
+    for (int i = 0; i < count; ++i)
+        entries << qt(nip.ChoiceList(group, field).array().at(i).textOrEmpty());
+    return entries;
+}
+
 QStringList EntrySite::allowedValues() const {
     QStringList values;
     const int count = nip.ValueListCount(group, field);
@@ -39,6 +47,7 @@ QString EntrySite::elementName(const char* controlArray, int element) {
 void EntryControl::fill() {
     showValue();
     mShown = content();
+    mKnown = known();
 }
 
 void EntryControl::collect() {
@@ -46,6 +55,26 @@ void EntryControl::collect() {
     if (now == mShown) return;
     store(now);
     mShown = std::move(now);
+    mKnown = known();
+}
+
+void EntryControl::moveTo(const EntryPlace& place) {
+    static_cast<EntryPlace&>(mSite) = place;
+    identify();
+}
+
+// What was typed over a value that is still there is an entry of this encounter's; it outlives a list of
+// allowed values.
+void EntryControl::refresh() {
+    const Known now = known();
+    if (now == mKnown) return;
+    if (now.hasValueOf(mKnown)) collect();
+    fill();
+}
+
+EntryControl::Known EntryControl::known() const {
+    return {mSite.storedText(), mSite.storedEntries(), mSite.allowedValues(),
+            mSite.nip.maxLength(mSite.group, mSite.field)};
 }
 
 void EntryControl::store(const QStringList& content) {
@@ -60,10 +89,11 @@ void EntryControl::place(const QRect& area, const Twips&) {
     widget()->setGeometry(area);
 }
 
-void EntryControl::identify(QWidget& fieldWidget) const {
-    fieldWidget.setObjectName(EntrySite::elementName(mSite.array, mSite.index));
-    fieldWidget.setProperty("Tag", mSite.tag());
-    fieldWidget.setAccessibleName(mSite.caption());
+void EntryControl::identify() {
+    QWidget& own = *widget();
+    own.setObjectName(EntrySite::elementName(mSite.array, mSite.index));
+    own.setProperty("Tag", mSite.tag());
+    own.setAccessibleName(mSite.caption());
 }
 
 } // namespace Korvane

@@ -17,14 +17,18 @@ namespace Korvane {
 
 class Twips;
 
-/// The field that an entry control is for, and what the control is given by its page.
-struct EntrySite {
-    cNIP& nip;
+/// Where a field stands in the structure, and with that the numbers of its control.
+struct EntryPlace {
     std::int16_t group = 0;
     std::int16_t field = 0;
-    const char* array = "";  ///< the control array, "txtNip"
-    std::int16_t index = 0;  ///< the control's element in it
+    std::int16_t index = 0;  ///< the control's element in its control array
     std::int16_t button = 0; ///< its first element of `cmdNip`, where it has buttons
+};
+
+/// The field that an entry control is for, and what the control is given by its page.
+struct EntrySite : EntryPlace {
+    cNIP& nip;
+    const char* array = ""; ///< the control array, "txtNip"
     QWidget* parent = nullptr;
     std::function<void()> edited; ///< to be called whenever the user changed the content
 
@@ -32,6 +36,8 @@ struct EntrySite {
     /// The field's value, and the way back.
     QString storedText() const;
     void store(const QString& text) const;
+    /// The field's `ChoiceList`.
+    QStringList storedEntries() const;
     /// The field's `ValueList`, without its empty element 0.
     QStringList allowedValues() const;
     /// "<group>::<field>", which a control carries as its property "Tag".
@@ -64,6 +70,13 @@ class EntryControl {
     /// Copies the content into the model where it is not what was last shown or collected.
     void collect();
 
+    /// Stands for its field at another place of the same model, which may have been loaded anew.
+    void moveTo(const EntryPlace& place);
+
+    /// Brings what is shown up to the model, and leaves everything as it is, also what was typed since, when
+    /// the model has the value, the allowed values and the length that were last shown.
+    void refresh();
+
     /// In pixels; `tabHeight` is the height there is for the entries of a tab.
     virtual int height(const Twips& twips, int tabHeight) const;
 
@@ -75,8 +88,8 @@ class EntryControl {
   protected:
     const EntrySite& site() const { return mSite; }
 
-    /// Gives the field's widget its name, tag and accessible name.
-    void identify(QWidget& fieldWidget) const;
+    /// Gives the widgets their names, tags and accessible names.
+    virtual void identify();
 
     virtual void showValue() = 0;
     /// What the control holds now: its text, or its entries.
@@ -85,8 +98,21 @@ class EntryControl {
     virtual void store(const QStringList& content);
 
   private:
+    /// What the model says of the field, as far as it is shown.
+    struct Known {
+        QString text;
+        QStringList entries;
+        QStringList allowed;
+        std::int16_t maxLength = 0;
+
+        bool hasValueOf(const Known& other) const { return text == other.text && entries == other.entries; }
+        friend bool operator==(const Known&, const Known&) = default;
+    };
+    Known known() const;
+
     EntrySite mSite;
     QStringList mShown;
+    Known mKnown; ///< when it was last shown or collected
 };
 
 } // namespace Korvane

@@ -24,7 +24,6 @@ GridEntry::GridEntry(EntrySite entrySite, ChoiceModel::Checking checking)
     : EntryControl(std::move(entrySite)), mGrid(new ChoiceView(site().parent)),
       mRows(new ChoiceModel(checking, mGrid)), mFillsTab(listsFillTab(site().nip.GroupName(site().group))) {
     mGrid->setModel(mRows);
-    identify(*mGrid);
     const auto edited = [this] { site().edited(); };
     QObject::connect(mRows, &ChoiceModel::dataChanged, mGrid, edited);
     QObject::connect(mRows, &ChoiceModel::rowsInserted, mGrid, edited);
@@ -66,15 +65,6 @@ void GridEntry::showChoices(const QStringList& chosen) {
     mRows->show(std::move(choices));
     mGrid->scrollToTop();
     mGrid->selectionModel()->setCurrentIndex(mRows->index(current), QItemSelectionModel::NoUpdate);
-}
-
-QStringList GridEntry::storedEntries() const {
-    const auto& nip = site().nip;
-    const int count = nip.ChoiceListCount(site().group, site().field);
-    QStringList entries;
-    for (int i = 0; i < count; ++i)
-        entries << qt(nip.ChoiceList(site().group, site().field).array().at(i).textOrEmpty());
-    return entries;
 }
 
 void GridEntry::storeEntries(const QStringList& entries) const {

@@ -28,8 +28,6 @@ class GridEntry : public EntryControl {
     /// is in view.
     void showChoices(const QStringList& chosen);
 
-    /// The field's `ChoiceList`.
-    QStringList storedEntries() const;
     /// Makes the entries the field's `ChoiceList`, and its value as it will be stored.
     void storeEntries(const QStringList& entries) const;
 

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <string>
 #include <vector>
 
 class QScrollArea;
@@ -29,8 +30,12 @@ class GroupPage : public QWidget {
     explicit GroupPage(QWidget* parent);
     ~GroupPage() override;
 
-    /// Sets the fields of a group aside, in place of those before, whose controls are gone afterwards.
+    /// Sets the fields of a group aside, in place of those before. On a page that is made for that model the
+    /// controls of fields that are still there, by name and display type, stay with what was typed into them
+    /// and take on their new numbers, captions and values; those of the others go, and new ones are made.
     void plan(cNIP& nip, std::int16_t group, std::vector<PlannedField> fields);
+    /// Whether it was planned for that group of that model, wherever the group stood then.
+    bool standsFor(const cNIP& nip, std::int16_t group) const;
     bool isMade() const { return mContent != nullptr; }
     /// Makes and fills the controls unless they are there. They follow `before` in the tab order.
     void make(QWidget* before);
@@ -59,14 +64,25 @@ class GroupPage : public QWidget {
   private:
     void makeScrollArea();
     void makeCells(QWidget* parent);
-    PageCell makeCell(const PlannedField& planned, QWidget* parent);
-    void chain(QWidget* before);
+    void makeCell(PageCell& cell, const PlannedField& planned, QWidget* parent);
+    void assign(PageCell& cell, const PlannedField& planned) const;
+    EntryPlace placeOf(const PlannedField& planned) const;
+    void remake();
+    void addCell(PageCell& cell, const PlannedField& planned);
+    bool takeOver(std::vector<PageCell>& before);
+    bool bringUpToDate(PageCell& cell, const PlannedField& planned);
+    void nameParts();
+    void chain();
     void measure();
+    void place();
     void arrange();
 
     cNIP* mNip = nullptr;
     std::int16_t mGroup = 0;
+    std::string mTable;
+    std::string mGroupName;
     std::vector<PlannedField> mPlan;
+    QWidget* mBefore = nullptr;
     QScrollArea* mScroll = nullptr;
     QWidget* mContent = nullptr;
     std::vector<PageCell> mCells;

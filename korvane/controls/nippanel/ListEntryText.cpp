@@ -1,16 +1,25 @@
 #include <korvane/controls/nippanel/ListEntryText.h>
 
+#include <korvane/controls/container/Text.h>
 #include <korvane/runtime/Interaction.h>
 
 namespace Korvane {
 
+QString listEntryFault(const QString& text) {
+    if (!text.contains(QLatin1Char('|'))) return {};
+    return QStringLiteral("An entry of a list cannot contain the character \"|\", which separates the "
+                          "entries: it would come back as two entries.");
+}
+
+void showListEntryFault(const QString& fault) {
+    Interaction::current().MsgBox(utf8(fault), MsgBoxStyle::OkOnly | MsgBoxStyle::Information,
+                                  "List Entry Validation");
+}
+
 bool canBeListEntry(const QString& text) {
-    if (!text.contains(QLatin1Char('|'))) return true;
-    Interaction::current().MsgBox(
-        "An entry of a list cannot contain the character \"|\", which separates the "
-        "entries: it would come back as two entries.",
-        MsgBoxStyle::OkOnly | MsgBoxStyle::Information, "List Entry Validation");
-    return false;
+    const QString fault = listEntryFault(text);
+    if (!fault.isEmpty()) showListEntryFault(fault);
+    return fault.isEmpty();
 }
 
 } // namespace Korvane

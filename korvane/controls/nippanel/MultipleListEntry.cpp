@@ -3,7 +3,7 @@
 namespace Korvane {
 
 void MultipleListEntry::showValue() {
-    showChoices(storedEntries());
+    showChoices(site().storedEntries());
 }
 
 QStringList MultipleListEntry::content() const {

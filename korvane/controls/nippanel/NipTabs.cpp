@@ -2,17 +2,20 @@
 
 #include <korvane/controls/container/Busy.h>
 #include <korvane/controls/container/Text.h>
+#include <korvane/controls/nippanel/Counted.h>
 #include <korvane/controls/nippanel/GroupPage.h>
 #include <korvane/controls/nippanel/Routine.h>
 #include <korvane/controls/nippanel/StructurePlan.h>
 #include <korvane/runtime/Interaction.h>
 
 #include <QApplication>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace Korvane {
 
@@ -40,7 +43,12 @@ void NipTabs::CreateNipControls(cNIP& nip) {
     std::string problems;
     routine(routineName, [&] {
         const PaintLock noFlicker(*this);
-        problems = rebuild(nip);
+        try {
+            problems = rebuild(nip);
+        } catch (...) {
+            forget();
+            throw;
+        }
     });
     if (problems.empty()) return;
     Interaction::current().MsgBox("The following problems occurred when loading the NIP controls:\n\n" +
@@ -48,40 +56,61 @@ void NipTabs::CreateNipControls(cNIP& nip) {
                                   MsgBoxStyle::OkOnly, "");
 }
 
-std::string NipTabs::rebuild(cNIP& nip) {
-    const QString title = tabText(currentIndex());
-    const int scrolled = pageInView() ? pageInView()->scrollPosition() : 0;
+/// What looks at the model goes by a structure that it may have no more.
+void NipTabs::forget() {
     for (GroupPage* page : mPages)
         page->clear();
+}
+
+std::string NipTabs::rebuild(cNIP& nip) {
+    const QString title = tabText(currentIndex());
+    const int preferred = currentIndex();
+    const QPointer<GroupPage> inView = pageInView();
+    const int scrolled = inView ? inView->scrollPosition() : 0;
     StructurePlan plan = planStructure(nip);
     {
         const QSignalBlocker quiet(this);
-        resizeTo(static_cast<int>(plan.groups.size()));
+        arrangePages(nip);
         for (std::size_t i = 0; i < mPages.size(); ++i) {
             const auto group = static_cast<std::int16_t>(i + 1);
-            setTabText(static_cast<int>(i), withoutShortcut(qt(nip.GroupName(group))));
+            const QString name = withoutShortcut(qt(nip.GroupName(group)));
+            if (tabText(static_cast<int>(i)) != name) setTabText(static_cast<int>(i), name);
             mPages[i]->plan(nip, group, std::move(plan.groups[i]));
         }
-        setCurrentIndex(indexOfTitle(title, currentIndex()));
+        setCurrentIndex(inView ? indexOf(inView) : indexOfTitle(title, preferred));
     }
     makePageInView();
-    if (pageInView() && tabText(currentIndex()) == title) pageInView()->scrollTo(scrolled);
+    if (!inView && pageInView() && tabText(currentIndex()) == title) pageInView()->scrollTo(scrolled);
     return plan.problems;
 }
 
-void NipTabs::resizeTo(int count) {
-    while (static_cast<int>(mPages.size()) > count) {
-        const GroupPage* last = mPages.back();
-        mPages.pop_back();
-        delete last;
+/// Gives every group the page that it had, or else a new one, in the order of the structure.
+void NipTabs::arrangePages(const cNIP& nip) {
+    std::vector<GroupPage*> left = std::exchange(mPages, {});
+    for (const std::int16_t group : CountedFrom1(nip.GroupCount())) {
+        const auto own = std::ranges::find_if(left, [&](auto* page) { return page->standsFor(nip, group); });
+        mPages.push_back(own == left.end() ? makePage() : *own);
+        if (own != left.end()) left.erase(own);
     }
-    while (static_cast<int>(mPages.size()) < count) {
-        auto* page = new GroupPage(this);
-        page->setObjectName(EntrySite::elementName("atpNips", static_cast<int>(mPages.size())));
-        connect(page, &GroupPage::edited, this, &NipTabs::edited);
-        mPages.push_back(page);
-        addTab(page, QString());
-    }
+    for (const GroupPage* page : left)
+        delete page;
+    for (std::size_t i = 0; i < mPages.size(); ++i)
+        bringTo(mPages[i], static_cast<int>(i));
+}
+
+GroupPage* NipTabs::makePage() {
+    auto* page = new GroupPage(this);
+    connect(page, &GroupPage::edited, this, &NipTabs::edited);
+    return page;
+}
+
+// The page in view stays where it is, and the others go round it: one that is moved is hidden on the way, and
+// loses the focus.
+void NipTabs::bringTo(GroupPage* page, int place) {
+    if (indexOf(page) < 0) insertTab(place, page, QString());
+    if (page != currentWidget() && indexOf(page) != place) tabBar()->moveTab(indexOf(page), place);
+    while (indexOf(page) != place)
+        tabBar()->moveTab(place, indexOf(page));
 }
 
 /// Of several groups with that name, the one at `preferred`, which is also the answer when there is none.

@@ -25,12 +25,15 @@ class NipTabs : public QTabWidget {
     explicit NipTabs(QWidget* parent = nullptr);
     ~NipTabs() override;
 
-    /// Builds the tabs for the model's structure, in place of those before; keeps the tab in view when its
-    /// group is still there. The model must outlive the tabs or the next call. Fields whose display type is
+    /// Builds the tabs for the model's structure and shows its values. When the same model has been loaded
+    /// anew, all that did not change stays: the tab in view, how far each page is scrolled, the focus, the
+    /// controls of the fields that are still there (by group, name and display type; they are renumbered),
+    /// and what was typed into them over a value that is still the same; `collect` before the model is loaded
+    /// anew saves the rest. The model must outlive the tabs or the next call. Fields whose display type is
     /// unknown get no control; they are written to the error log and reported in one message box at the end.
     void CreateNipControls(cNIP& nip);
 
-    /// Shows the model's values. Raises no `edited`.
+    /// Shows the model's values, as those of another encounter: from the top. Raises no `edited`.
     void fill();
 
     /// Copies the values of the controls that the user changed into the model; the others are there as they
@@ -43,7 +46,10 @@ class NipTabs : public QTabWidget {
 
   private:
     std::string rebuild(cNIP& nip);
-    void resizeTo(int count);
+    void forget();
+    void arrangePages(const cNIP& nip);
+    GroupPage* makePage();
+    void bringTo(GroupPage* page, int place);
     int indexOfTitle(const QString& title, int preferred) const;
     GroupPage* pageInView() const;
     void makePageInView();

@@ -104,13 +104,10 @@ int widestWord(const QString& caption, const QFontMetrics& font) {
 
 } // namespace
 
-void measureCaptions(std::vector<PageCell>& cells, const QWidget& page) {
-    const QFontMetrics font(page.fontMetrics());
-    // A line is broken by where its letters end, which may be beyond the place of the next one.
+// A line is broken by where its letters end, which may be beyond the place of the next one.
+void measureCaption(PageCell& cell, const QFontMetrics& font) {
     const int overhang = font.averageCharWidth();
-    for (PageCell& cell : cells)
-        cell.width = {font.horizontalAdvance(cell.caption) + overhang,
-                      widestWord(cell.caption, font) + overhang};
+    cell.width = {font.horizontalAdvance(cell.caption) + overhang, widestWord(cell.caption, font) + overhang};
 }
 
 int placeCells(const std::vector<PageCell>& cells, const QWidget& page, QSize viewport) {

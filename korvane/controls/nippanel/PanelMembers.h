@@ -26,7 +26,7 @@ struct ucNIPPanel::Members {
     enum class Shown { Yes, NotReadable, NotFound, OfAnotherPatient };
 
     /// What became of a save.
-    enum class Outcome { Stored, NotStored, NumberTaken, Gone, Unknown };
+    enum class Outcome { Stored, NotStored, NumberTaken, Gone, Unknown, Customized };
 
     static constexpr qint16 customizing = 1;
 
@@ -79,6 +79,7 @@ struct ucNIPPanel::Members {
     void setChanged(bool on);
     bool mayLose(std::string_view question) const;
     bool ensureStructure();
+    bool loadValues(bool isNew);
     void buildControls();
     void newEncounter(const QString& patient);
     Shown createInternal(const QString& patient);
@@ -95,6 +96,7 @@ struct ucNIPPanel::Members {
     Outcome store(std::string_view routineName, const std::function<Outcome()>& encounter);
     static std::string_view reportOf(Outcome outcome);
     Outcome storeEncounter();
+    void takeOnStructure();
     Outcome claim() const;
     void raiseCreated();
     void raiseRenamed();

@@ -7,6 +7,7 @@
 #include <korvane/controls/nippanel/NipTabs.h>
 #include <korvane/controls/nippanel/PanelForm.h>
 #include <korvane/controls/nippanel/Routine.h>
+#include <korvane/data/ErrLog.h>
 #include <korvane/runtime/Interaction.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Variant.h>
@@ -18,6 +19,21 @@ namespace {
 /// Overflow above 32767.
 qint16 eventID(const Encounter& encounter) {
     return Variant(encounter.EncounterID()).toInt16();
+}
+
+/// What was entered into fields that are gone: in full in the error log, since a box holds only so much.
+std::string listOf(const std::vector<LostEntry>& lost) {
+    if (lost.empty()) return {};
+    constexpr std::size_t shown = 500;
+    std::string list = "\r\n\r\nThese entries have no field any more (they are kept in the error log):";
+    for (const LostEntry& entry : lost) {
+        const std::string name = "[" + entry.groupName + "] " + entry.caption + ": ";
+        ErrLog("ucNipPanel: the field is gone into which was entered: " + name + entry.text);
+        const QString text = qt(entry.text);
+        list += "\r\n" + name +
+                utf8(static_cast<std::size_t>(text.size()) > shown ? text.left(shown) + QChar(0x2026) : text);
+    }
+    return list;
 }
 
 } // namespace
@@ -86,12 +102,14 @@ bool ucNIPPanel::Members::storeAll() {
     *mEncounter = before;
     if (outcome == Outcome::Unknown) mEncounter->MayBeStored(attempt);
     nip->EncounterID(before.EncounterID());
+    if (outcome == Outcome::Customized) takeOnStructure();
     return false;
 }
 
 /// The encounter pane is not saved here: what was edited there stays unsaved.
 bool ucNIPPanel::Members::storeValues() {
     const Outcome outcome = store("Error in ucNipPanel.SaveNipInfo: ", [&] { return claim(); });
+    if (outcome == Outcome::Customized) takeOnStructure();
     if (outcome != Outcome::Stored) return false;
     setChanged(form->encounterPane().isEdited());
     return true;
@@ -113,7 +131,8 @@ std::string_view ucNIPPanel::Members::reportOf(Outcome outcome) {
     }
 }
 
-/// The encounter and the values in one transaction. Tells the user of any outcome but `Stored`.
+/// The encounter and the values in one transaction. Tells the user of any outcome but `Stored` and
+/// `Customized`.
 ucNIPPanel::Members::Outcome ucNIPPanel::Members::store(std::string_view routineName,
                                                         const std::function<Outcome()>& encounter) {
     Outcome outcome = Outcome::NotStored;
@@ -140,6 +159,7 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::store(std::string_view routine
         }
     });
     if (stored) return Outcome::Stored;
+    if (nip->StructureChanged()) return Outcome::Customized;
     // Without an answer to the commit it may have taken place or not.
     if (committing && connection->State() != 1) outcome = Outcome::Unknown;
     tell(std::string(reportOf(outcome)) + untold, MsgBoxStyle::Exclamation);
@@ -161,6 +181,24 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::claim() const {
     const std::optional<bool> own = mEncounter->Claim();
     if (!own) return Outcome::NotStored;
     return *own ? Outcome::Stored : Outcome::Gone;
+}
+
+/// Shows the form as another desk has customized it, with what was entered.
+void ucNIPPanel::Members::takeOnStructure() {
+    const Hourglass hourglass;
+    const PaintLock lock(panel);
+    std::vector<LostEntry> lost;
+    if (!nip->ReloadStructure(lost))
+        return tell(
+            "This Nip could not be saved, because another desk has customized the form, and the new form "
+            "could not be read. Everything you entered is still here; please try again.",
+            MsgBoxStyle::Exclamation);
+    buildControls();
+    form->tabs().fill();
+    tell("This Nip is not saved yet, because another desk has customized the form. It is shown as it is now, "
+         "with everything you entered; please look through it and save it again." +
+             listOf(lost),
+         MsgBoxStyle::Exclamation);
 }
 
 /// No longer being created whatever becomes of the event: the row is there, and a slot may start the next

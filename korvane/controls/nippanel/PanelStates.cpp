@@ -146,10 +146,21 @@ void ucNIPPanel::Members::newEncounter(const QString& patient) {
 /// The prefix is the control's own, with its capitals and without a colon.
 bool ucNIPPanel::Members::loadControls(bool isNew) {
     return routine("Error in ucNIPPanel.LoadControls ", false, [&] {
-        if (!nip->Load(mEncounter->EncounterID(), utf8(patientID), isNew)) return false;
+        if (!loadValues(isNew)) return false;
         form->tabs().fill();
         return form->encounterPane().fill(*mEncounter, connection);
     });
+}
+
+/// A form that another desk has customized is loaded anew.
+bool ucNIPPanel::Members::loadValues(bool isNew) {
+    const auto load = [&] { return nip->Load(mEncounter->EncounterID(), utf8(patientID), isNew); };
+    if (load()) return true;
+    if (!nip->StructureChanged()) return false;
+    structureLoaded = false;
+    if (!ensureStructure() || !load()) return false;
+    tell("Another desk has customized the form. It is shown as it is now.", MsgBoxStyle::Information);
+    return true;
 }
 
 /// Nothing of the Nip before stays in view when the one asked for cannot be shown.

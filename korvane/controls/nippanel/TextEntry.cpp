@@ -62,7 +62,6 @@ class LengthLimit : public QValidator {
 
 TextEntry::TextEntry(EntrySite entrySite)
     : EntryControl(std::move(entrySite)), mBox(new QLineEdit(site().parent)) {
-    identify(*mBox);
     QObject::connect(mBox, &QLineEdit::textChanged, mBox, [this] { site().edited(); });
 }
 

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <string>
+#include <utility>
 
 namespace Korvane::Testing {
 
@@ -36,7 +37,12 @@ class Job {
     /// Some visits are given up when the first try fails, the others are tried until they are stored.
     bool givesUp(int visit) const { return visit % 4 == 3; }
 
-    void refused(int visit) const { std::cout << "refused " << token(visit) << "\n"; }
+    /// One that is refused again and again is not stored at all.
+    void refused(int visit) {
+        std::cout << "refused " << token(visit) << "\n";
+        if (visit != std::exchange(mVisit, visit)) mTries = 0;
+        if (++mTries > 200) std::exit(3);
+    }
     void dropped(int visit) const { std::cout << "dropped " << token(visit) << "\n"; }
     void stored(int visit, std::int32_t encounter, const std::string& attachment) const {
         std::cout << "stored " << token(visit) << " " << encounter << " " << patient(visit) << " "
@@ -48,6 +54,8 @@ class Job {
 
   private:
     RecordedInteraction mNobody;
+    int mVisit = -1;
+    int mTries = 0;
 };
 
 } // namespace Korvane::Testing

@@ -70,7 +70,7 @@ struct Visit {
         encounter.SavedNewEncounter.connect([this] { nip.EncounterID(encounter.EncounterID()); });
 };
 
-void storeVisits(const Job& job, const std::shared_ptr<ado::Connection>& db, cNIP& nip) {
+void storeVisits(Job& job, const std::shared_ptr<ado::Connection>& db, cNIP& nip) {
     for (int i = 0; i < job.visits; ++i) {
         Visit visit(db, nip, job.patient(i), job.token(i));
         const auto save = [&] {
@@ -87,7 +87,7 @@ void storeVisits(const Job& job, const std::shared_ptr<ado::Connection>& db, cNI
 }
 
 /// All desks write the values of the same encounters, which are stored and have none yet.
-void storeValues(const Job& job, cNIP& nip) {
+void storeValues(Job& job, cNIP& nip) {
     for (int i = 0; i < job.visits; ++i) {
         nip.Load(i + 1, job.patient(i), false);
         setAll(nip, job.token(i));
@@ -100,7 +100,7 @@ void storeValues(const Job& job, cNIP& nip) {
 } // namespace
 
 int main(int, char** argv) {
-    const Job job(argv);
+    Job job(argv);
     const auto db = ado::open(job.address);
     if (job.how == "serializable")
         db->Execute("Set Session Characteristics As Transaction Isolation Level Serializable");

@@ -29,8 +29,9 @@ void enter(const ucNIPPanel& panel, const Job& job, int visit) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const Job job(argv);
+    Job job(argv);
     ucNIPPanel panel;
     panel.Initialize(ado::open(job.address));
     panel.show();

@@ -1,0 +1,59 @@
+#include <korvane/controls/nippanel/ChoiceEditView.h>
+
+#include <korvane/controls/nippanel/ChoiceEditDelegate.h>
+#include <korvane/controls/nippanel/ChoiceOrderModel.h>
+#include <korvane/controls/nippanel/ListEntryText.h>
+
+#include <QLineEdit>
+
+namespace Korvane {
+
+ChoiceEditView::ChoiceEditView(ChoiceOrderModel* choices, QWidget* parent)
+    : ChoiceView(parent), mChoices(choices), mDelegate(new ChoiceEditDelegate(this)) {
+    setModel(choices);
+    setItemDelegate(mDelegate);
+    setEditTriggers(DoubleClicked | EditKeyPressed);
+}
+
+bool ChoiceEditView::takeEdit() {
+    QLineEdit* box = mDelegate->box();
+    if (!box) return true;
+    if (!mDelegate->fault().isEmpty()) {
+        refuse();
+        return false;
+    }
+    commitData(box);
+    closeEditor(box, QAbstractItemDelegate::SubmitModelCache);
+    return true;
+}
+
+void ChoiceEditView::refuse() {
+    scrollTo(mDelegate->edited());
+    mDelegate->box()->setFocus();
+    showListEntryFault(mDelegate->fault());
+}
+
+bool ChoiceEditView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    const bool opensBox = trigger == DoubleClicked || trigger == EditKeyPressed;
+    if (opensBox && index != mDelegate->edited() && !takeEdit()) return false;
+    return QListView::edit(index, trigger, event);
+}
+
+void ChoiceEditView::commitData(QWidget* editor) {
+    if (mDelegate->fault().isEmpty()) ChoiceView::commitData(editor);
+}
+
+// A box that has lost the focus stays open without a word: the user may be on the way to another program. He
+// is told when he ends the edit, or when somebody calls `takeEdit`.
+void ChoiceEditView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    const bool givenUp = hint == QAbstractItemDelegate::RevertModelCache || !editor->isVisible();
+    if (!givenUp && !mDelegate->fault().isEmpty()) {
+        if (editor->hasFocus()) refuse();
+        return;
+    }
+    const QPersistentModelIndex edited = mDelegate->edited();
+    ChoiceView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (edited.isValid() && !mChoices->isChoice(edited.row())) mChoices->remove(edited.row());
+}
+
+} // namespace Korvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <korvane/controls/nippanel/ChoiceView.h>
+
+namespace Korvane {
+
+class ChoiceEditDelegate;
+class ChoiceOrderModel;
+
+/// A list whose choices are edited in place (F2, a double click). A text that the list refuses stays in its
+/// box, and the user is told why, until he changes it or gives it up with Esc; a row that is no choice yet
+/// goes with it.
+class ChoiceEditView : public ChoiceView {
+  public:
+    ChoiceEditView(ChoiceOrderModel* choices, QWidget* parent);
+
+    ChoiceOrderModel& choices() const { return *mChoices; }
+
+    /// Takes what stands in the box of a choice that is being edited. False, after the user has been told,
+    /// when the list refuses it. True when nothing is edited.
+    bool takeEdit();
+
+  protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void commitData(QWidget* editor) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+  private:
+    void refuse();
+
+    ChoiceOrderModel* mChoices;
+    ChoiceEditDelegate* mDelegate;
+};
+
+} // namespace Korvane
