@@ -3,6 +3,7 @@
 #include <korvane/ado/Catalog.h>
 #include <korvane/data/ErrLog.h>
 #include <korvane/nip/Query.h>
+#include <korvane/nip/Revision.h>
 #include <korvane/runtime/HeldMessages.h>
 
 #include <utility>
@@ -31,8 +32,11 @@ bool cNIP::changeSchema(std::string_view prefix, const std::function<bool()>& ch
             ado::Transaction work(*mConnection, ado::TransactionFor::ChangingSchema);
             requireCurrentSchema();
             if (!change()) return false;
-            std::string mark = readSchemaMark();
+            execute(nextRevisionStatement);
+            std::string revision = readCell(revisionStatement);
+            std::string mark = readCell(mConnection->schemaMarkStatement());
             work.commit();
+            mRevision = std::move(revision);
             mSchemaMark = std::move(mark);
             return true;
         });

@@ -5,6 +5,7 @@
 #include <korvane/nip/Counters.h>
 #include <korvane/nip/FieldIndex.h>
 #include <korvane/nip/Query.h>
+#include <korvane/nip/Revision.h>
 
 #include <algorithm>
 #include <array>
@@ -109,13 +110,15 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
 
         Snapshot snapshot(*mConnection);
         std::vector<std::string> statements(structureStatements.begin(), structureStatements.end());
+        statements.push_back(revisionStatement);
         statements.push_back(mConnection->schemaMarkStatement());
         mConnection->Announce(statements);
         FieldIndex index(mGroups);
         loadGroups();
         loadFields(index);
         loadAllowedValues(index);
-        mSchemaMark = readSchemaMark();
+        mRevision = readCell(revisionStatement);
+        mSchemaMark = readCell(statements.back());
         snapshot.end();
         mStructureLoaded = true;
         return true;

@@ -3,6 +3,7 @@
 #include <korvane/data/ErrLog.h>
 #include <korvane/nip/Choices.h>
 #include <korvane/nip/Query.h>
+#include <korvane/nip/Revision.h>
 
 namespace Korvane {
 
@@ -95,7 +96,7 @@ void cNIP::writeLoadStatements() {
         if (count == mStatements.size()) mStatements.emplace_back();
         return mStatements[count++];
     };
-    next() = mConnection->schemaMarkStatement();
+    next() = revisionStatement;
     for (std::size_t i = 1; i < mGroups.size(); ++i) {
         FieldList& list = fieldListOf(mGroups[i]);
         if (list.columns.empty()) continue;
@@ -116,7 +117,7 @@ void cNIP::loadValues() {
     writeLoadStatements();
     Snapshot snapshot(*mConnection);
     mConnection->Announce(mStatements);
-    requireCurrentSchema();
+    requireCurrentRevision();
     auto statement = mStatements.cbegin() + 1;
     SQLData current;
     SQLData latest;

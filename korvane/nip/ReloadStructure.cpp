@@ -2,6 +2,7 @@
 
 #include <korvane/nip/Choices.h>
 #include <korvane/nip/Query.h>
+#include <korvane/nip/Revision.h>
 #include <korvane/runtime/Text.h>
 
 #include <set>
@@ -86,21 +87,26 @@ bool cNIP::withCurrentSchema(const std::function<bool()>& body) {
             throw;
         }
         mSchemaMark = stored.mSchemaMark;
+        mRevision = stored.mRevision;
     }
     return body();
 }
 
 void cNIP::requireCurrentSchema() {
-    if (readSchemaMark() != mSchemaMark) throw SchemaHasChanged();
+    if (readCell(mConnection->schemaMarkStatement()) != mSchemaMark) throw SchemaHasChanged();
 }
 
-/// Of the schema as the open transaction sees it.
-std::string cNIP::readSchemaMark() {
+void cNIP::requireCurrentRevision() {
+    if (readCell(revisionStatement) != mRevision) throw SchemaHasChanged();
+}
+
+/// Empty when there is no row.
+std::string cNIP::readCell(const std::string& statement) {
     SQLData query;
-    Korvane::run(query, mConnection, mConnection->schemaMarkStatement());
-    std::string mark = query.Data(0).textOrEmpty();
+    Korvane::run(query, mConnection, statement);
+    std::string cell = query.Data(0).textOrEmpty();
     raiseFailure(query);
-    return mark;
+    return cell;
 }
 
 bool cNIP::ReloadStructure(std::vector<LostEntry>& lost) {

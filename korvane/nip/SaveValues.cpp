@@ -3,6 +3,7 @@
 #include <korvane/data/ErrLog.h>
 #include <korvane/nip/Choices.h>
 #include <korvane/nip/Query.h>
+#include <korvane/nip/Revision.h>
 #include <korvane/runtime/HeldMessages.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
@@ -97,12 +98,12 @@ void cNIP::requireOwnEncounter(std::string_view statement) const {
 }
 
 /// Whoever changes the schema waits for the rows that this has written: what holds behind the last update
-/// holds until the commit. It is asked before as well, since an update of a column that is gone tells less.
+/// holds until the commit. The revision is asked first, since an update of a column that is gone tells less.
 void cNIP::saveValues() {
     const std::string owner =
         "Select PatientID From Encounter Where EncounterID=" + std::to_string(mEncounterID);
     std::vector<const GroupRecord*> groups;
-    std::vector<std::string> statements{mConnection->schemaMarkStatement()};
+    std::vector<std::string> statements{revisionStatement};
     SQLData lists;
     if (!mPatientID.empty()) statements.push_back(owner);
     const std::size_t before = statements.size();
@@ -111,9 +112,9 @@ void cNIP::saveValues() {
         groups.push_back(&mGroups[i]);
         statements.push_back(updateStatement(lists, mGroups[i], mEncounterID));
     }
-    statements.push_back(statements.front());
+    statements.push_back(mConnection->schemaMarkStatement());
     mConnection->Announce(statements);
-    requireCurrentSchema();
+    requireCurrentRevision();
     requireOwnEncounter(owner);
     // A group without a row is seldom alone: an encounter that is new has none at all.
     std::vector<std::string> inserts;

@@ -203,8 +203,9 @@ class cNIP {
                              std::vector<LostEntry>& lost);
     bool attempt(std::string_view prefix, const std::function<bool()>& body);
     bool changeSchema(std::string_view prefix, const std::function<bool()>& change);
-    std::string readSchemaMark();
+    std::string readCell(const std::string& statement);
     void requireCurrentSchema();
+    void requireCurrentRevision();
     GroupRecord& existingGroup(std::int16_t group);
     FieldRecord& existingField(std::int16_t group, std::int16_t field);
     ado::Catalog& catalog();
@@ -233,7 +234,8 @@ class cNIP {
     std::vector<std::string> mStatements; ///< of the last load, kept for their storage
     bool mNumbersGroups = false;
     std::unique_ptr<ado::Catalog> mCatalog; ///< made when it is first needed
-    std::string mSchemaMark;                ///< of the schema when the structure was loaded
+    std::string mRevision;
+    std::string mSchemaMark; ///< of the schema when the structure was loaded
     bool mStructureChanged = false;
     bool mHoldsValues = false; ///< of a load that succeeded
     std::optional<RuntimeError> mLastError;

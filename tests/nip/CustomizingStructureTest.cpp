@@ -43,7 +43,8 @@ struct CustomizingStructure : testing::Test {
     /// Everything in the database that customizing may touch.
     std::string stored() const {
         std::string all =
-            nips.rows("Select DBFieldGroupID,GroupName,TableName,Ordinal From DBFieldGroups Order By "
+            nips.rows("Select DBFieldGroupID,GroupName,TableName,Ordinal From DBFieldGroups Where "
+                      "DBFieldGroupID>1 Order By "
                       "DBFieldGroupID") +
             "\n" +
             nips.rows("Select ID,FieldName,FieldCaption,DBFieldGroupID,MaxLength,dataType,DisplayType,"

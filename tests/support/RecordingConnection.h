@@ -1,6 +1,7 @@
 #pragma once
 
 #include <korvane/ado/Connection.h>
+#include <korvane/nip/Revision.h>
 #include <korvane/runtime/RuntimeError.h>
 
 #include <algorithm>
@@ -24,7 +25,7 @@ class RecordingConnection : public ado::Connection {
     explicit RecordingConnection(std::shared_ptr<ado::Connection> real) : mReal(std::move(real)) {}
 
     /// Every statement in the order in which it was run, also one that failed; without those that only ask
-    /// whether the schema has changed.
+    /// whether somebody has customized.
     std::vector<std::string> statements;
     /// Every statement that was announced, without those either.
     std::vector<std::string> announced;
@@ -61,9 +62,8 @@ class RecordingConnection : public ado::Connection {
     void RollbackTrans() override { mReal->RollbackTrans(); }
     std::int32_t transactionLevel() const override { return mReal->transactionLevel(); }
     void Announce(std::span<const std::string> coming) override {
-        std::ranges::copy_if(coming, std::back_inserter(announced), [&](const std::string& statement) {
-            return statement != schemaMarkStatement();
-        });
+        std::ranges::copy_if(coming, std::back_inserter(announced),
+                             [&](const std::string& statement) { return !asksForChanges(statement); });
         mReal->Announce(coming);
     }
     std::string schemaMarkStatement() const override { return mReal->schemaMarkStatement(); }
@@ -84,12 +84,15 @@ class RecordingConnection : public ado::Connection {
     const ado::CatalogDialect& catalogDialect() const override { return mReal->catalogDialect(); }
 
   private:
+    bool asksForChanges(std::string_view statement) const {
+        return statement == schemaMarkStatement() || statement == revisionStatement;
+    }
     void step() {
         if (failAfter >= 0 && failAfter-- == 0) throw failure;
     }
     void note(std::string_view statement) {
         step();
-        if (statement == schemaMarkStatement()) return;
+        if (asksForChanges(statement)) return;
         statements.emplace_back(statement);
         if (!failOn.empty() && statement.find(failOn) != std::string_view::npos) throw failure;
     }
