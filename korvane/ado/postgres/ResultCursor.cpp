@@ -113,7 +113,7 @@ Command ResultCursor::updateCommand(std::span<const FieldChange> changes,
         command.values.push_back(parameterText(value));
         names.push_back(origins[i]->name);
         set += (set.empty() ? "" : ", ") + sql::quotedName(names.back()) + " = " + place();
-        returned += sql::quotedName(names.back()) + ", ";
+        returned += (i > 0 ? ", " : "") + sql::quotedName(names.back());
     }
     std::string where;
     for (std::size_t i = 0; i < mWriteback.key.size(); ++i) {
@@ -121,16 +121,15 @@ Command ResultCursor::updateCommand(std::span<const FieldChange> changes,
         command.types.push_back(types::unknown);
         command.values.push_back(cell(static_cast<int>(ownColumns() + i)));
         where += (where.empty() ? "" : " And ") + name + " = " + place();
-        returned += name + ", ";
+        returned += ", " + name;
     }
     const Schema& schema = mSession->schema();
     const std::string table = schema.nameOf(mWriteback.name());
-    const std::string check = schema.typeCheck(mWriteback.name(), table, names);
-    command.text =
-        "With written As (Update " +
-        sql::quotedName(mWriteback.schema.empty() ? "" : schema.schemaOf(mWriteback.schema), table) +
-        " Set " + set + " Where " + where + " Returning " + returned + (check.empty() ? "Null" : check) +
-        ") Select *, (Select 1 From written) From written";
+    const std::string check = schema.typeCheck(mWriteback.name(), names);
+    const std::string within = mWriteback.schema.empty() ? "" : schema.schemaOf(mWriteback.schema);
+    command.text = "With " + check + (check.empty() ? "" : ", ") + "written As (Update " +
+                   sql::quotedName(within, table) + " Set " + set + " Where " + where + " Returning " +
+                   returned + ") Select *, (Select 1 From written) From written";
     return command;
 }
 

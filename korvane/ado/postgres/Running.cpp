@@ -75,7 +75,7 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
     if (namesTable && !statement.scopes.empty() && !statement.scopes.front().sources.empty()) {
         const sql::Source& source = statement.scopes.front().sources.front();
         shape->table = lowerCase(source.schema + "." + source.table);
-        addTypeCheck(*shape, statement);
+        addTypeCheck(shape->translation, source);
     }
     shape->controlsTransaction = controlsTransaction(statement);
     return shape;
@@ -102,21 +102,9 @@ void Session::requireTables(const sql::Statement& statement) {
 // Another program may have changed the type of a column since the catalog was read, and the server would turn
 // the values, made for the old one, into something else. Instead the statement fails, is translated anew, and
 // then stores what was written or refuses it.
-void Session::addTypeCheck(Shape& shape, const sql::Statement& statement) const {
-    const auto& tokens = statement.tokens;
-    const auto isWord = [](const char* word) {
-        return [word](const sql::Token& t) { return t.isWord(word); };
-    };
-    const bool endsPlainly = tokens.size() > 1 && !tokens[tokens.size() - 2].isSymbol(';');
-    if (!endsPlainly || statement.scopes.front().sources.size() != 1 ||
-        std::any_of(tokens.begin(), tokens.end(), isWord("returning")))
-        return;
-    const sql::Source& source = statement.scopes.front().sources.front();
-    const std::string called = source.alias.empty() ? mSchema.nameOf(source.name()) : lowerCase(source.alias);
-    const std::string check = mSchema.typeCheck(source.name(), called, shape.translation.storedColumns);
-    if (check.empty()) return;
-    shape.translation.text += "\nReturning " + check;
-    shape.checksTypes = true;
+void Session::addTypeCheck(sql::Translation& translation, const sql::Source& written) const {
+    const std::string check = mSchema.typeCheck(written.name(), translation.storedColumns);
+    if (!check.empty()) translation.text.insert(0, "With " + check + " ");
 }
 
 Form& Session::formFor(Shape& shape, std::vector<TypeId> types) {
@@ -363,7 +351,7 @@ Outcome Session::outcomeOf(const Request& request, Answer answer) {
         if (mTransactions.isOpen()) mTouched.insert(request.shape->table);
         forgetTable(request.shape->table);
     }
-    if (PQnfields(rows) == 0 || request.shape->checksTypes) return outcome;
+    if (PQnfields(rows) == 0) return outcome;
     if (!request.form) {
         outcome.columns = describe(*request.shape, rows);
         return outcome;

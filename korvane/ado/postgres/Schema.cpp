@@ -19,7 +19,6 @@ enum Item {
     Name,
     IsVisible,
     HasRows,
-    MayReturn,
     Column,
     Number,
     NotNull,
@@ -44,7 +43,7 @@ TypeId typeId(const char* text) {
 } // namespace
 
 // A domain stands for what lies under it, through any number of others. A key does not tell rows apart where
-// other tables inherit from its own. Rows that were written come back from a table that hides none of them.
+// other tables inherit from its own.
 std::string Schema::query() const {
     if (mIsRead && mForgotten.empty()) return {};
     const std::string included =
@@ -62,9 +61,8 @@ std::string Schema::query() const {
            "Where t.typtype='d') "
            "Select c.oid, n.nspname, c.relname, pg_catalog.pg_table_is_visible(c.oid), c.relkind In "
            "('r','p'), "
-           "Not c.relrowsecurity And Not c.relhasrules And "
-           "pg_catalog.has_table_privilege(c.oid, 'Select'), "
-           "a.attname, a.attnum, a.attnotnull, a.atttypid, "
+           "a.attname, a.attnum, a.attnotnull, "
+           "pg_catalog.format_type(a.atttypid, Null), "
            "Coalesce(d.base, a.atttypid), Coalesce(d.modifier, a.atttypmod), t.typcategory='S', "
            "Coalesce(array_position(i.indkey::int2[], a.attnum), -1) "
            "From pg_catalog.pg_class c "
@@ -88,7 +86,6 @@ Schema::Table Schema::tableFrom(const pg_result* catalog, int row) {
     table.relation = typeId(text(Oid));
     table.isVisible = *text(IsVisible) == 't';
     table.hasRows = *text(HasRows) == 't';
-    table.mayReturnRows = table.hasRows && *text(MayReturn) == 't';
     return table;
 }
 
@@ -98,7 +95,7 @@ void Schema::addColumn(Table& table, const pg_result* catalog, int row) {
     const bool onlyShownAsText = type.type == DataType::VarWChar && *text(IsText) != 't';
     table.columns.push_back({text(Column), type.type, type.size, *text(NotNull) != 't', onlyShownAsText});
     table.numbers.push_back(std::atoi(text(Number)));
-    table.types.push_back(typeId(text(Type)));
+    table.types.emplace_back(text(Type));
     if (const int place = std::atoi(text(KeyPlace)); place >= 0) table.key.emplace_back(place, text(Column));
 }
 
@@ -193,21 +190,20 @@ const ColumnInfo* Schema::originOf(const sql::TableName& table, TypeId relation,
     return &known->columns[static_cast<std::size_t>(found - known->numbers.begin())];
 }
 
-std::string Schema::typeCheck(const sql::TableName& table, std::string_view calledAs,
-                              std::span<const std::string> columns) const {
+std::string Schema::typeCheck(const sql::TableName& table, std::span<const std::string> columns) const {
     const Table* known = find(table);
-    if (!known || !known->mayReturnRows) return {};
-    std::string there;
-    std::string expected;
+    if (!known) return {};
+    std::string checks;
     for (std::size_t i = 0; i < known->columns.size(); ++i) {
-        if (std::find(columns.begin(), columns.end(), known->columns[i].name) == columns.end()) continue;
-        const char* comma = there.empty() ? "" : ",";
-        there += comma + ("pg_catalog.pg_typeof(" + sql::quotedName(calledAs, known->columns[i].name) + ")");
-        expected += comma + std::to_string(known->types[i]);
+        const std::string& column = known->columns[i].name;
+        if (std::find(columns.begin(), columns.end(), column) == columns.end()) continue;
+        // Both have to be arrays of the same type.
+        checks += (checks.empty() ? "" : ", ") + ("pg_catalog.array_eq(Array[" + sql::quotedName(column)) +
+                  "], Null::" + known->types[i] + "[])";
     }
-    if (there.empty()) return {};
-    return "NullIf(Array[" + there + "]::pg_catalog.oid[]::pg_catalog.text,'{" + expected +
-           "}')::pg_catalog.int4";
+    if (checks.empty()) return {};
+    return "korvane_types As (Select " + checks + " From " + sql::quotedName(known->schema, known->name) +
+           ")";
 }
 
 } // namespace Korvane::ado::postgres

@@ -50,22 +50,21 @@ class Schema : public sql::Tables {
     /// from elsewhere.
     const ColumnInfo* originOf(const sql::TableName& table, TypeId relation, int column) const;
 
-    /// An expression over a row of a table, to stand in a Returning: Null, but a failure when one of the
-    /// columns is no longer of the type that is known. Empty when nothing may be returned from the table.
-    std::string typeCheck(const sql::TableName& table, std::string_view calledAs,
-                          std::span<const std::string> columns) const;
+    /// A table for a With that nobody reads, so that it costs nothing but being understood: the server
+    /// refuses it, and the statement with it, when one of the columns is no longer of the type that is known.
+    /// Empty when there is none of them.
+    std::string typeCheck(const sql::TableName& table, std::span<const std::string> columns) const;
 
   private:
     struct Table {
         std::string schema;
         std::string name;
         TypeId relation = 0;
-        bool isVisible = false;     ///< found without its schema
-        bool hasRows = false;       ///< keeps rows of its own
-        bool mayReturnRows = false; ///< for whoever may write them
+        bool isVisible = false; ///< found without its schema
+        bool hasRows = false;   ///< keeps rows of its own
         std::vector<ColumnInfo> columns;
-        std::vector<int> numbers;  ///< the engine's, one for each column
-        std::vector<TypeId> types; ///< the same
+        std::vector<int> numbers;       ///< the engine's, one for each column
+        std::vector<std::string> types; ///< by the engine's names, the same
         std::vector<std::pair<int, std::string>> key;
     };
     const Table* find(const sql::TableName& name) const;

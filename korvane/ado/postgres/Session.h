@@ -87,7 +87,7 @@ class Session final : public Connection {
     Outcome run(Request request);
     std::vector<Command> preliminaries(bool plansOnce);
     void requireTables(const sql::Statement& statement);
-    void addTypeCheck(Shape& shape, const sql::Statement& statement) const;
+    void addTypeCheck(sql::Translation& translation, const sql::Source& written) const;
     std::vector<Answer> sendAll(std::span<const Command> commands);
     Outcome outcomeOf(const Request& request, Answer answer);
     std::shared_ptr<const ResultColumns> describe(const Shape& shape, const pg_result* rows) const;

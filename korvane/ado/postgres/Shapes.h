@@ -30,7 +30,6 @@ struct Shape {
                        ///< schema: the table it changes, empty when it may be any
     bool isInsert = false;
     bool controlsTransaction = false; ///< Begin, Commit, Savepoint, ...
-    bool checksTypes = false;         ///< returns nothing but the check of its columns' types
     std::deque<Form> forms;           ///< most often one: it is the values' columns that decide
     std::shared_ptr<std::vector<std::string>> dropped; ///< names that the server may forget
 
