@@ -5,6 +5,7 @@
 #include <korvane/controls/nippanel/ListEntryText.h>
 
 #include <QLineEdit>
+#include <QPointer>
 
 namespace Korvane {
 
@@ -27,15 +28,21 @@ bool ChoiceEditView::takeEdit() {
     return true;
 }
 
+// The message takes the focus off the box.
 void ChoiceEditView::refuse() {
+    const QPointer<QLineEdit> box = mDelegate->box();
     scrollTo(mDelegate->edited());
-    mDelegate->box()->setFocus();
     showListEntryFault(mDelegate->fault());
+    if (box) box->setFocus();
 }
 
 bool ChoiceEditView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     const bool opensBox = trigger == DoubleClicked || trigger == EditKeyPressed;
-    if (opensBox && index != mDelegate->edited() && !takeEdit()) return false;
+    if (opensBox && mDelegate->box() && index == mDelegate->edited()) {
+        mDelegate->box()->setFocus();
+        return true;
+    }
+    if (opensBox && !takeEdit()) return false;
     return QListView::edit(index, trigger, event);
 }
 

@@ -24,12 +24,11 @@ constexpr std::chrono::milliseconds tick{80};
 } // namespace
 
 ChoiceOrderList::ChoiceOrderList(ChoiceOrderModel* choices, QWidget* parent)
-    : ChoiceEditView(choices, parent) {
+    : ChoiceEditView(choices, parent), mTimer(this) {
     setObjectName("lstNipChoices");
     setDragDropMode(InternalMove);
     setDropIndicatorShown(false);
     mTimer.setObjectName("timDragging");
-    mTimer.setParent(this);
     mTimer.setSingleShot(true);
     mTimer.setInterval(tick);
     connect(&mTimer, &QTimer::timeout, this, [this] { scrollAtEdge(); });
@@ -132,14 +131,25 @@ void ChoiceOrderList::mark(int row) {
 
 void ChoiceOrderList::paintEvent(QPaintEvent* event) {
     ChoiceEditView::paintEvent(event);
-    if (mMarked < 0) return;
     QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
     const int thickness = std::max(2, fontMetrics().height() / 8);
+    if (hasFocus()) paintFocus(painter, thickness);
+    if (mMarked >= 0) paintMark(painter, thickness);
+}
+
+// The highlight of the current choice is there without the focus, too.
+void ChoiceOrderList::paintFocus(QPainter& painter, int thickness) {
+    painter.setPen(QPen(palette().color(QPalette::Highlight), thickness));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(viewport()->rect());
+}
+
+void ChoiceOrderList::paintMark(QPainter& painter, int thickness) {
     const int tip = 2 * thickness;
     const int top = visualRect(choices().index(mMarked)).top();
     const int y = std::clamp(top, thickness, viewport()->height() - thickness);
     const int right = viewport()->width();
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette().color(QPalette::Text));
     painter.drawRect(QRectF(0, y - thickness / 2.0, right, thickness));
@@ -158,7 +168,7 @@ void ChoiceOrderList::scrollAtEdge() {
     const int direction = scrollDirection();
     if (!mDragged.isValid() || direction == 0) return;
     ++mScrolled;
-    const int rows = 1 + mScrolled / 8;
+    const int rows = 1 + mScrolled / 4;
     const int step = std::min(rows * 2 * fontMetrics().height(), viewport()->height());
     QScrollBar* bar = verticalScrollBar();
     bar->setValue(bar->value() + direction * step);

@@ -40,6 +40,8 @@ class ChoiceOrderList : public ChoiceEditView {
     Qt::DropAction effect(const QDropEvent& event, int target) const;
     void mark(int row);
     void copy(int row, int before);
+    void paintFocus(QPainter& painter, int thickness);
+    void paintMark(QPainter& painter, int thickness);
     int scrollDirection() const;
     void scrollAtEdge();
 
