@@ -60,6 +60,35 @@ TEST_F(PostgresValues, LandUnalteredOrNotAtAllWhenAColumnHasGotAnotherType) {
     }
 }
 
+TEST_F(PostgresValues, AreReadAsTheTypeThatTheirColumnHasNow) {
+    const struct {
+        const char* type;
+        const char* value;
+        DataType now;
+    } cases[] = {
+        {"varchar(9)", "0042", DataType::VarWChar}, {"numeric(9,2)", "2.5", DataType::Numeric},
+        {"boolean", "True", DataType::Boolean},     {"timestamp", "5/6/2026", DataType::Date},
+        {"integer", "7", DataType::Integer},
+    };
+    mOther->run("create table T (ID integer, V integer); insert into T values (1, 5)");
+    for (const auto& c : cases) {
+        for (const std::string from : {"V", "Max(V)"}) {
+            SCOPED_TRACE(from + " as " + c.type);
+            const auto db = open(mSchema->address());
+            EXPECT_NE(one(db, "Select " + from + " From T Where ID=1"), "");
+            mOther->run(std::string("alter table T alter V type ") + c.type + " using '" + c.value +
+                        "'::" + c.type);
+            const auto rs = Recordset::create();
+            rs->Open("Select " + from + " From T Where ID=1", db);
+            EXPECT_EQ(rs->Value(0).text(), c.value);
+            if (from == "V") {
+                EXPECT_EQ(rs->FieldType(0), c.now);
+            }
+            mOther->run("alter table T alter V type integer using 5");
+        }
+    }
+}
+
 TEST_F(PostgresValues, KeepEveryDigitOfADecimal) {
     mDb->Execute("Create Table T (Wide Numeric, Price Currency)");
     const struct {

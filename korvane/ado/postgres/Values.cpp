@@ -145,7 +145,7 @@ void read(std::string_view cell, DataType type, Variant& value) {
     default:
         if (!isWhole(type)) break;
         if (const auto number = readAs<std::int64_t>(cell)) return setNumber(value, *number, type);
-        break;
+        return readDecimal(cell, DataType::Numeric, value); // its column is of another type by now
     }
     value.setText(cell);
 }
