@@ -7,6 +7,8 @@
 
 #include <libpq-fe.h>
 
+#include <algorithm>
+
 namespace Korvane::ado::postgres {
 
 Session::Session(std::unique_ptr<Wire> wire)
