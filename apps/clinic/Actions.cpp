@@ -64,7 +64,7 @@ Actions::Actions(QMainWindow& window) {
 }
 
 void Actions::fillMenus(QMainWindow& window) const {
-    QMenu* nip = window.menuBar()->addMenu(tr("&Nip"));
+    QMenu* nip = window.menuBar()->addMenu(tr("N&ip"));
     nip->addActions({newNip, openNip, saveNip, closeNip});
     nip->addSeparator();
     nip->addAction(quit);

@@ -34,6 +34,7 @@ NipDesk::NipDesk(QWidget* parent)
     mHeader->setTextInteractionFlags(Qt::TextSelectableByMouse);
     mPanel->setObjectName(QStringLiteral("nipPanel"));
     mPanel->setAccessibleName(tr("Nip"));
+    mPanel->NumbersGroups(true);
     mStack->addWidget(makeHint());
     mStack->addWidget(mPanel);
     auto* layout = new QVBoxLayout(this);

@@ -1,81 +1,203 @@
 #include <korvane/controls/nippanel/CustomizePane.h>
 
 #include <korvane/controls/container/Text.h>
-#include <korvane/controls/nippanel/Counted.h>
+#include <korvane/controls/container/Twips.h>
+#include <korvane/controls/nippanel/EntryControl.h>
+#include <korvane/controls/nippanel/FieldForm.h>
+#include <korvane/controls/nippanel/FieldGrid.h>
 #include <korvane/nip/cNIP.h>
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeWidget>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace Korvane {
 
 namespace {
 
-QTreeWidget* makeStructureView(QWidget* parent) {
-    auto* view = new QTreeWidget(parent);
-    view->setObjectName("treeNipStructure");
-    view->setAccessibleName("Groups and fields of the Nip");
-    view->setHeaderLabels({"Field", "Caption", "Display Type"});
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setUniformRowHeights(true);
-    view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    return view;
+constexpr int lowestList = 1500;
+
+QLabel* makeLine(const char* name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
 }
 
-QTreeWidgetItem* groupItem(const cNIP& nip, std::int16_t group) {
-    auto* item = new QTreeWidgetItem({qt(nip.GroupName(group))});
-    for (const std::int16_t field : CountedFrom1(nip.FieldCount(group))) {
-        item->addChild(new QTreeWidgetItem({qt(nip.fieldName(group, field)), qt(nip.Caption(group, field)),
-                                            qt(nip.displayType(group, field))}));
+/// As high as there is room, from its least height on. A wrapped text in it would have a scroll area give it
+/// the height that it would like best.
+class Stack : public QVBoxLayout {
+  public:
+    using QVBoxLayout::QVBoxLayout;
+    bool hasHeightForWidth() const override { return false; }
+};
+
+/// Scrolls up and down, and to whatever gets the focus.
+class PaneScroll : public QScrollArea {
+  public:
+    explicit PaneScroll(QWidget* parent) : QScrollArea(parent) {
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        viewport()->setAutoFillBackground(false);
     }
-    return item;
-}
+
+    QSize minimumSizeHint() const override {
+        const int bar = verticalScrollBarWidth();
+        return {widget() ? widget()->minimumSizeHint().width() + bar : bar,
+                QScrollArea::minimumSizeHint().height()};
+    }
+
+  private:
+    int verticalScrollBarWidth() const { return style()->pixelMetric(QStyle::PM_ScrollBarExtent); }
+};
 
 } // namespace
 
 CustomizePane::CustomizePane(QWidget* parent)
-    : QWidget(parent), mStructure(makeStructureView(this)), mBack(new QPushButton("&Back to the Nip", this)),
-      mClose(new QPushButton("Close", this)) {
+    : QFrame(parent), mHeading(makeLine("lblCustEditing", this)), mGrid(nullptr), mForm(nullptr),
+      mWarning(makeLine("lblCustDestroys", this)) {
     setObjectName("paneCustomize");
-    auto* title = new QLabel("Customizing the Structure of the NIP tables", this);
-    title->setObjectName("lblCustomizeTitle");
-    title->setWordWrap(true);
-    title->setBuddy(mStructure);
-    mBack->setObjectName("cmdBackToNip");
-    mClose->setObjectName("cmdCloseNipCustomize");
-    mClose->setToolTip("Close the Nip");
-    connect(mBack, &QAbstractButton::clicked, this, &CustomizePane::backClicked);
-    connect(mClose, &QAbstractButton::clicked, this, &CustomizePane::closeClicked);
+    setFrameShape(StyledPanel);
+    QLabel* title = makeLine("lblCustomizeTitle", this);
+    title->setText("Customizing the Structure of the NIP tables");
+    QFont bold = font();
+    bold.setBold(true);
+    mHeading->setFont(bold);
 
-    auto* top = new QHBoxLayout;
-    top->addWidget(title, 1);
-    top->addWidget(mBack);
-    top->addWidget(mClose);
     auto* layout = new QVBoxLayout(this);
+    layout->addWidget(title);
+    layout->addWidget(mHeading);
+    auto* scroll = new PaneScroll(this);
+    scroll->setObjectName("scrollCustomize");
+    scroll->setWidget(makeContent());
+    scroll->widget()->setAutoFillBackground(false);
+    layout->addWidget(scroll, 1);
+    layout->addWidget(mWarning);
+    layout->addWidget(makeButtons());
+    title->setBuddy(mGrid);
+    showGroup(nullptr, 0);
+}
+
+QWidget* CustomizePane::makeContent() {
+    auto* content = new QWidget(this);
+    mGrid = new FieldGrid(content);
+    mGrid->setMinimumHeight(Twips(*this).px(lowestList));
+    mForm = new FieldForm(content);
+    auto* layout = new Stack(content);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(top);
-    layout->addWidget(mStructure, 1);
+    layout->addWidget(mGrid, 1);
+    layout->addWidget(mForm);
+    connect(mGrid, &FieldGrid::chosen, this, &CustomizePane::fieldChosen);
+    connect(mForm, &FieldForm::edited, this, &CustomizePane::offer);
+    return content;
 }
 
-void CustomizePane::showStructure(const cNIP* nip) {
-    mStructure->clear();
-    if (!nip) return;
-    QList<QTreeWidgetItem*> groups;
-    for (const std::int16_t group : CountedFrom1(nip->GroupCount()))
-        groups.append(groupItem(*nip, group));
-    mStructure->addTopLevelItems(groups);
-    for (QTreeWidgetItem* item : groups)
-        item->setFirstColumnSpanned(true);
-    mStructure->expandAll();
+QWidget* CustomizePane::makeButtons() {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const QString captions[] = {"New Field", "Delete Field", "Cancel", "Save"};
+    for (const int i : {NewField, DeleteField, Cancel, Save}) {
+        mButtons[i] = new QPushButton(captions[i], row);
+        mButtons[i]->setObjectName(EntrySite::elementName("cmdNipCustomizeButton", i));
+        mButtons[i]->setAutoDefault(false);
+        if (i == Cancel) layout->addStretch();
+        layout->addWidget(mButtons[i]);
+        connect(mButtons[i], &QPushButton::clicked, this, [this, i] { emit clicked(i); });
+    }
+    mButtons[NewField]->setToolTip("Add a field to this group");
+    mButtons[Cancel]->setAccessibleName("Cancel the field");
+    mButtons[Save]->setAccessibleName("Save the field");
+    mButtons[Cancel]->setToolTip("Leave the field as it is stored (Esc)");
+    mButtons[Save]->setToolTip("Store the field (Ctrl+S)");
+    return row;
 }
 
-void CustomizePane::arrange(bool customizeOnly) {
-    mBack->setVisible(!customizeOnly);
-    mClose->setVisible(!customizeOnly);
+void CustomizePane::showGroup(const cNIP* nip, std::int16_t group) {
+    mNip = nip;
+    mGroup = nip && group >= 1 && group <= nip->GroupCount() ? group : std::int16_t{0};
+    mGrid->list(nip, mGroup);
+    reset();
+}
+
+void CustomizePane::resume(const cNIP& nip, FieldPlace place) {
+    const FieldDraft written = mForm->draft();
+    const FieldDraft begun = mForm->original();
+    mNip = &nip;
+    mGroup = place.group;
+    mGrid->list(&nip, mGroup);
+    const bool isNew = place.field == 0;
+    take(isNew, place.field, written);
+    mForm->compareWith(isNew ? begun : draftOf(nip, mGroup, place.field));
+}
+
+void CustomizePane::beginNew() {
+    take(true, 0, {});
+}
+
+void CustomizePane::edit(std::int16_t field) {
+    take(false, field, draftOf(*mNip, mGroup, field));
+}
+
+void CustomizePane::reset() {
+    take(false, 0, {});
+}
+
+void CustomizePane::take(bool isNew, std::int16_t field, const FieldDraft& draft) {
+    mHoldsNew = isNew;
+    mField = field;
+    mForm->fill(draft, isNew);
+    mForm->setEnabled(isNew || field > 0);
+    markListed();
+    describe();
+    offer();
+    emit turned();
+}
+
+void CustomizePane::markListed() {
+    mGrid->mark(mField);
+}
+
+bool CustomizePane::holdsChanges() const {
+    return (mHoldsNew || mField > 0) && mForm->isChanged();
+}
+
+void CustomizePane::focusList() {
+    mGrid->setFocus(Qt::OtherFocusReason);
+}
+
+QString CustomizePane::groupTitle() const {
+    return mGroup > 0 ? "[" + qt(mNip->GroupName(mGroup)) + "]" : QString();
+}
+
+QString CustomizePane::heading() const {
+    if (mGroup < 1) return "There is no group yet.";
+    if (mHoldsNew) return "New field in group " + groupTitle();
+    if (mField < 1) return "Fields of group " + groupTitle();
+    return QString("Editing field [%1] of group %2").arg(qt(mNip->fieldName(mGroup, mField)), groupTitle());
+}
+
+void CustomizePane::describe() {
+    mHeading->setText(heading());
+    const QString destroys =
+        mField < 1 ? QString()
+                   : QString("Delete Field destroys [%1] with all that any encounter has in it.")
+                         .arg(qt(mNip->fieldName(mGroup, mField)));
+    mWarning->setText(destroys);
+    mWarning->setVisible(!destroys.isEmpty());
+    mButtons[DeleteField]->setAccessibleDescription(destroys);
+}
+
+void CustomizePane::offer() {
+    const bool holds = mHoldsNew || mField > 0;
+    mButtons[NewField]->setEnabled(mGroup > 0);
+    mButtons[DeleteField]->setEnabled(mField > 0);
+    mButtons[Cancel]->setEnabled(holds);
+    mButtons[Save]->setEnabled(holdsChanges());
 }
 
 } // namespace Korvane

@@ -1,37 +1,84 @@
 #pragma once
 
-#include <QWidget>
+#include <korvane/controls/nippanel/FieldDraft.h>
+#include <korvane/nip/FieldPlace.h>
 
-class QAbstractButton;
-class QTreeWidget;
+#include <QFrame>
+
+class QLabel;
+class QPushButton;
 
 namespace Korvane {
 
 class cNIP;
+class FieldForm;
+class FieldGrid;
 
-/// Where the structure of the Nip is customized (`paneCustomize`): for now it shows the groups with their
-/// fields as they are stored, read-only.
-class CustomizePane : public QWidget {
+/// Where the structure of the Nip is customized (`paneCustomize`): the fields of one group, and the one that
+/// is being edited, or a new one, with its inputs. It shows and collects; what is asked and stored is the
+/// panel's.
+///
+///     pane->showGroup(&nip, 1);     // nothing is being edited then
+///     pane->edit(3);                // or beginNew()
+///     ...
+///     if (pane->holdsNew() || pane->holdsChanges()) ...  // something to lose
+class CustomizePane : public QFrame {
     Q_OBJECT
 
   public:
+    /// The elements of `cmdNipCustomizeButton`.
+    enum Button { NewField, DeleteField, Cancel, Save };
+
     explicit CustomizePane(QWidget* parent = nullptr);
 
-    /// Shows the structure of a model; without one, nothing.
-    void showStructure(const cNIP* nip);
+    /// Lists the fields of a group, with nothing to edit; no model or no such group: nothing at all. The
+    /// model must outlive the pane or the next call.
+    void showGroup(const cNIP* nip, std::int16_t group);
+    /// The same after the structure was loaded anew, and what was written stays: in the field that is given,
+    /// or in a new one (0).
+    void resume(const cNIP& nip, FieldPlace place);
+    void beginNew();
+    void edit(std::int16_t field);
+    /// Nothing is edited any more.
+    void reset();
 
-    /// With `customizeOnly` there is no Nip to go back to, nor a close button of the pane's own.
-    void arrange(bool customizeOnly);
+    std::int16_t group() const { return mGroup; }
+    /// The field that is being edited; 0: a new one, or none.
+    std::int16_t field() const { return mField; }
+    bool holdsNew() const { return mHoldsNew; }
+    bool holdsChanges() const;
+    FieldForm& form() const { return *mForm; }
+
+    /// The group as it is shown to the user: "[Vitals]".
+    QString groupTitle() const;
+
+    /// Puts the list's current row back on the field that is being edited.
+    void markListed();
+    void focusList();
 
   signals:
-    void closeClicked();
-    /// The user wants to go on with the Nip.
-    void backClicked();
+    void fieldChosen(int field);
+    void clicked(int button);
+    /// Another field is edited, or none.
+    void turned();
 
   private:
-    QTreeWidget* mStructure;
-    QAbstractButton* mBack;
-    QAbstractButton* mClose;
+    QWidget* makeContent();
+    QWidget* makeButtons();
+    void take(bool isNew, std::int16_t field, const FieldDraft& draft);
+    void describe();
+    void offer();
+    QString heading() const;
+
+    const cNIP* mNip = nullptr;
+    std::int16_t mGroup = 0;
+    std::int16_t mField = 0;
+    bool mHoldsNew = false;
+    QLabel* mHeading;
+    FieldGrid* mGrid;
+    FieldForm* mForm;
+    QLabel* mWarning;
+    QPushButton* mButtons[4];
 };
 
 } // namespace Korvane

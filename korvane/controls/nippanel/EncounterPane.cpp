@@ -63,7 +63,7 @@ EncounterPane::EncounterPane(QWidget* parent)
       mProvider(makeProviderCombo(this)) {
     setObjectName("paneEncounter");
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    mLabels[0] = makeLabel("&Description:", *mDescription, "txtEncounterInfo");
+    mLabels[0] = makeLabel("De&scription:", *mDescription, "txtEncounterInfo");
     mLabels[1] = makeLabel("Da&te:", *mDate, "pvdateEncounter");
     mLabels[2] = makeLabel("&Provider:", *mProvider, "pvcEncounterInfo");
     setTabOrder(mDescription, mDate);

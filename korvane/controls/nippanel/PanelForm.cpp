@@ -2,10 +2,15 @@
 
 #include <korvane/controls/container/Twips.h>
 #include <korvane/controls/nippanel/ButtonRow.h>
+#include <korvane/controls/nippanel/CustomizeBar.h>
 #include <korvane/controls/nippanel/CustomizePane.h>
+#include <korvane/controls/nippanel/DisplayTypes.h>
 #include <korvane/controls/nippanel/EncounterPane.h>
+#include <korvane/controls/nippanel/FieldMark.h>
+#include <korvane/controls/nippanel/FieldPicker.h>
 #include <korvane/controls/nippanel/NipTabs.h>
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -52,24 +57,17 @@ class FixedSplitter : public QSplitter {
 } // namespace
 
 PanelForm::PanelForm(QWidget* parent)
-    : QWidget(parent), mState(new QLabel(this)), mClose(makeCloseButton(this)),
-      mEncounter(new EncounterPane(this)), mContent(new QWidget(this)), mTabs(new NipTabs(mContent)),
-      mCustomize(new CustomizePane(this)), mButtons(new ButtonRow(this)) {
+    : QWidget(parent), mState(new QLabel(this)), mClose(makeCloseButton(this)), mBar(nullptr) {
     mState->setObjectName("lblNipState");
-    mContent->setObjectName("paneContent");
-    mTabs->setAccessibleName("Groups of the Nip");
-    auto* content = new QVBoxLayout(mContent);
-    content->setContentsMargins(0, 0, 0, 0);
-    content->addWidget(mTabs);
-
     auto* top = new QHBoxLayout;
     top->addWidget(mState, 1);
     top->addWidget(mClose);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(top);
+    layout->addWidget(mBar = new CustomizeBar(this));
     layout->addWidget(makeSplitter(), 1);
-    layout->addWidget(mButtons);
+    layout->addWidget(mButtons = new ButtonRow(this));
 
     setFocusProxy(mEncounter);
     setTabOrder(&mButtons->button(ButtonRow::Customize), mClose);
@@ -81,31 +79,99 @@ QSplitter* PanelForm::makeSplitter() {
     auto* splitter = new FixedSplitter(Qt::Vertical, this);
     splitter->setObjectName("splitMain");
     splitter->setChildrenCollapsible(false);
-    splitter->addWidget(mEncounter);
-    splitter->addWidget(mContent);
-    splitter->addWidget(mCustomize);
+    splitter->addWidget(mEncounter = new EncounterPane(this));
+    makeContent();
+    splitter->addWidget(mSplit);
     splitter->setStretchFactor(1, 1);
-    splitter->setStretchFactor(2, 1);
     splitter->setHandleWidth(Twips(*this).px(100));
     return splitter;
+}
+
+void PanelForm::makeContent() {
+    mSplit = new QSplitter(Qt::Horizontal, this);
+    mSplit->setObjectName("splitContent");
+    mSplit->setChildrenCollapsible(false);
+    mContent = new QWidget(mSplit);
+    mContent->setObjectName("paneContent");
+    mTabs = new NipTabs(mContent);
+    mTabs->setAccessibleName("Groups of the Nip");
+    auto* content = new QVBoxLayout(mContent);
+    content->setContentsMargins(0, 0, 0, 0);
+    content->addWidget(mTabs);
+    mPicker = new FieldPicker(mTabs);
+    mMark = new FieldMark(this);
+    mCustomize = new CustomizePane(mSplit);
+    mSplit->setHandleWidth(Twips(*this).px(100));
 }
 
 void PanelForm::arrange(bool customizeOnly, bool allowClose) {
     mButtons->arrange(customizeOnly, allowClose);
     mClose->setVisible(allowClose);
-    mCustomize->arrange(customizeOnly);
+    mBar->arrange(customizeOnly);
 }
 
 void PanelForm::showCustomizing(bool on) {
-    mEncounter->setVisible(!on);
-    mContent->setVisible(!on);
+    const bool turns = on && !mCustomizing;
+    mCustomizing = on;
+    mBar->setVisible(on);
     mCustomize->setVisible(on);
+    if (turns) mSplit->setSizes({mSplit->width() / 2, mSplit->width() / 2});
+    mPicker->setActive(on);
     mButtons->button(ButtonRow::Customize).setEnabled(!on);
+    enableContent();
+}
+
+void PanelForm::showEncounter(bool on) const {
+    mEncounter->setVisible(on);
 }
 
 void PanelForm::setEntryEnabled(bool on) {
+    mEntryEnabled = on;
     mEncounter->setEnabled(on);
-    mContent->setEnabled(on);
+    enableContent();
+}
+
+/// A field is chosen among the entries also while nothing may be entered there.
+void PanelForm::enableContent() {
+    mContent->setEnabled(mEntryEnabled || mCustomizing);
+}
+
+void PanelForm::markField(const cNIP* nip, FieldPlace place) {
+    const DisplayType* type =
+        nip && place.field > 0 ? findDisplayType(nip->displayType(place.group, place.field)) : nullptr;
+    if (!type) return mMark->frame(nullptr, nullptr);
+    const auto find = [&](const char* array, int element) {
+        return mTabs->findChild<QWidget*>(EntrySite::elementName(array, element));
+    };
+    mMark->frame(find("lblNip", nip->ControlIndexLabel(place.group, place.field)),
+                 find(type->array, nip->ControlIndex(place.group, place.field)));
+}
+
+void PanelForm::focusEntries() {
+    if (mMark->entry()) return mMark->entry()->setFocus(Qt::TabFocusReason);
+    QWidget* const page = mTabs->currentWidget();
+    for (QWidget* w = mTabs->nextInFocusChain(); page && w != mTabs; w = w->nextInFocusChain())
+        if (page->isAncestorOf(w) && w->focusPolicy() & Qt::TabFocus) return w->setFocus(Qt::TabFocusReason);
+    mTabs->setFocus(Qt::TabFocusReason);
+}
+
+bool PanelForm::focusIsInEntries() const {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus && mContent->isAncestorOf(focus);
+}
+
+void PanelForm::focusDescription() {
+    if (mEncounter->isVisible() && mEncounter->isEnabled())
+        mEncounter->setFocus(Qt::OtherFocusReason);
+    else
+        mCustomize->focusList();
+}
+
+void PanelForm::focusClose() {
+    if (mClose->isVisible())
+        mClose->setFocus(Qt::OtherFocusReason);
+    else
+        mCustomize->focusList();
 }
 
 void PanelForm::say(const QString& state) {

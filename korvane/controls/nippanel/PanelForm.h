@@ -1,5 +1,7 @@
 #pragma once
 
+#include <korvane/nip/FieldPlace.h>
+
 #include <QWidget>
 
 class QLabel;
@@ -9,12 +11,17 @@ class QToolButton;
 namespace Korvane {
 
 class ButtonRow;
+class cNIP;
+class CustomizeBar;
 class CustomizePane;
 class EncounterPane;
+class FieldMark;
+class FieldPicker;
 class NipTabs;
 
 /// What the Nip panel looks like: a line that says what is open, with the close button; the splitter with the
-/// encounter pane, the entry controls and the customize pane; the button row. It knows no states.
+/// encounter pane, the entry controls and, while it is customized, the customize pane beside them with the
+/// bar above; the button row. It knows no states.
 class PanelForm : public QWidget {
     Q_OBJECT
 
@@ -24,13 +31,26 @@ class PanelForm : public QWidget {
     EncounterPane& encounterPane() const { return *mEncounter; }
     NipTabs& tabs() const { return *mTabs; }
     CustomizePane& customizePane() const { return *mCustomize; }
+    CustomizeBar& customizeBar() const { return *mBar; }
+    FieldPicker& picker() const { return *mPicker; }
     ButtonRow& buttons() const { return *mButtons; }
 
     /// Shows the buttons that the panel's two properties call for, except Save.
     void arrange(bool customizeOnly, bool allowClose);
 
-    /// The customize pane in place of the Nip, or the Nip.
+    /// The customize pane beside the entry controls, which then stand for their fields, or the Nip alone.
     void showCustomizing(bool on);
+    void showEncounter(bool on) const;
+
+    /// Marks a field among the entry controls; field 0: none.
+    void markField(const cNIP* nip, FieldPlace place);
+    /// Gives the focus to the entry controls: to the field that is marked, else to the first.
+    void focusEntries();
+    bool focusIsInEntries() const;
+    /// Gives the focus to the encounter's description; where that is not shown, to the list of fields.
+    void focusDescription();
+    /// Gives the focus to the close button; where there is none, to the list of fields.
+    void focusClose();
 
     /// Whether the user may enter anything.
     void setEntryEnabled(bool on);
@@ -41,14 +61,22 @@ class PanelForm : public QWidget {
 
   private:
     QSplitter* makeSplitter();
+    void makeContent();
+    void enableContent();
 
     QLabel* mState;
     QToolButton* mClose;
     EncounterPane* mEncounter;
+    QSplitter* mSplit;
     QWidget* mContent;
     NipTabs* mTabs;
+    CustomizeBar* mBar;
     CustomizePane* mCustomize;
     ButtonRow* mButtons;
+    FieldPicker* mPicker;
+    FieldMark* mMark;
+    bool mEntryEnabled = true;
+    bool mCustomizing = false;
 };
 
 } // namespace Korvane

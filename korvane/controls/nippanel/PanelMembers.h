@@ -1,6 +1,7 @@
 #pragma once
 
 #include <korvane/ado/Connection.h>
+#include <korvane/controls/nippanel/FieldDraft.h>
 #include <korvane/controls/nippanel/ucNIPPanel.h>
 #include <korvane/nip/cNIP.h>
 #include <korvane/records/Encounter.h>
@@ -9,10 +10,15 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
+
+class QKeyEvent;
 
 namespace Korvane {
 
+class CustomizePane;
 class EncounterPane;
 class PanelForm;
 
@@ -45,7 +51,9 @@ struct ucNIPPanel::Members {
 
     void customize();
     bool cancelCustomize();
+    void leaveCustomizing();
     void click(int button);
+    bool pressedWhileCustomizing(const QKeyEvent& key);
     void edited();
     /// Shows the buttons and the pane that the properties call for.
     void arrange();
@@ -67,8 +75,11 @@ struct ucNIPPanel::Members {
     qint16 mode = 0;
     bool customizeOnly = false;
     bool allowClosePanel = true;
+    bool numbersGroups = false;
 
   private:
+    struct InHand;
+
     /// Runs one of the panel's tasks, which no other may interrupt: those that the host calls for meanwhile,
     /// in a timer while a box is open, are refused. What the task has to say is said at its end; then
     /// `raise` is called if the task succeeded, and may call for others. False when it did not, or when the
@@ -88,6 +99,33 @@ struct ucNIPPanel::Members {
     bool settle(Shown shown);
     void clear();
     void describe();
+
+    static void forgetValues(cNIP& nip);
+
+    void listenToCustomizing();
+    void enterCustomizing();
+    void clickCustomize(int button);
+    std::int16_t selectedGroup() const;
+    void showGroup();
+    void markField();
+    void chooseTab();
+    bool chooseField(int field);
+    void newField();
+    void cancelField();
+    bool mayLeaveField();
+    static bool asksToLeave(const CustomizePane& pane);
+
+    std::string whyFailed() const;
+    bool renewStructure(bool tellsLost);
+    void resume(const InHand& before);
+    bool refuse(FieldDraft::Input input, std::string_view message, std::string_view title);
+    void saveField();
+    bool storeField(const FieldDefinition& definition);
+    void deleteField();
+    std::optional<std::string> askGroupName();
+    void newGroup();
+    bool createGroup(const std::string& name);
+    void deleteGroup();
 
     bool isComplete();
     bool leadTo(void (EncounterPane::*focus)(), std::string_view message);

@@ -80,7 +80,6 @@ bool ucNIPPanel::Members::isComplete() {
 
 /// Tells the user what is missing, with the focus there. False.
 bool ucNIPPanel::Members::leadTo(void (EncounterPane::*focus)(), std::string_view message) {
-    if (mode == customizing) cancelCustomize();
     (form->encounterPane().*focus)();
     tell(message, MsgBoxStyle::Information);
     return false;

@@ -15,24 +15,9 @@
 
 namespace Korvane {
 
-namespace {
-
-void forgetValues(cNIP& nip) {
-    const Variant nothing("");
-    for (const std::int16_t group : CountedFrom1(nip.GroupCount())) {
-        for (const std::int16_t field : CountedFrom1(nip.FieldCount(group))) {
-            nip.value(group, field, nothing);
-            nip.ChoiceList(group, field, Variant());
-            nip.ChoiceListCount(group, field, 0);
-        }
-    }
-    nip.EncounterID(-1);
-}
-
-} // namespace
-
 ucNIPPanel::Members::Members(ucNIPPanel& owner) : panel(owner), form(new PanelForm(&owner)) {
     form->setEntryEnabled(false);
+    listenToCustomizing();
     describe();
 }
 
@@ -49,6 +34,7 @@ void ucNIPPanel::Members::initialize(const std::shared_ptr<ado::Connection>& hos
         nothingLeft = false;
         patientID.clear();
         const auto previous = std::exchange(nip, std::make_unique<cNIP>()); // the controls still look at it
+        nip->numbersGroups(numbersGroups);
         connection = host;
         structureLoaded = nip->LoadStructure(connection);
         buildControls();
@@ -59,7 +45,7 @@ void ucNIPPanel::Members::initialize(const std::shared_ptr<ado::Connection>& hos
 
 void ucNIPPanel::Members::buildControls() {
     form->tabs().CreateNipControls(*nip);
-    if (mode == customizing) form->customizePane().showStructure(nip.get());
+    if (mode == customizing) showGroup();
 }
 
 /// A structure that could not be read at first is tried again whenever it is needed.
@@ -90,6 +76,7 @@ bool ucNIPPanel::Members::createNip(const QString& patient) {
                               : "Are you sure you want to create a new nip and discard the changes you are "
                                 "making?"))
             return false;
+        if (mode == customizing && !cancelCustomize()) return false;
         const Hourglass hourglass;
         const PaintLock lock(panel);
         return settle(routine("Error in ucNipPanel.CreateNip: ", Shown::NotReadable,
@@ -111,6 +98,7 @@ bool ucNIPPanel::Members::loadNip(qint32 encounterID, const QString& patient) {
                          ? "Are you sure you want to load a nip and discard the one you were creating?"
                          : "Are you sure you want to load a nip and discard the changes you are making?"))
             return false;
+        if (mode == customizing && !cancelCustomize()) return false;
         return routine("Error in ucNipPanel.LoadNipInfo: ", false, [&] {
             const Hourglass hourglass;
             const PaintLock lock(panel);
@@ -181,6 +169,18 @@ bool ucNIPPanel::Members::settle(Shown shown) {
     return false;
 }
 
+void ucNIPPanel::Members::forgetValues(cNIP& nip) {
+    const Variant nothing("");
+    for (const std::int16_t group : CountedFrom1(nip.GroupCount())) {
+        for (const std::int16_t field : CountedFrom1(nip.FieldCount(group))) {
+            nip.value(group, field, nothing);
+            nip.ChoiceList(group, field, Variant());
+            nip.ChoiceListCount(group, field, 0);
+        }
+    }
+    nip.EncounterID(-1);
+}
+
 /// Entries that were thrown away must not look as if they were kept.
 void ucNIPPanel::Members::clear() {
     savedNewEncounter.disconnect();
@@ -228,6 +228,7 @@ void ucNIPPanel::Members::setChanged(bool on) {
 /// Unsaved entries can be saved, also by a panel that from now on serves only to customize.
 void ucNIPPanel::Members::describe() {
     form->buttons().offerSave(!customizeOnly || changed, !nothingLeft);
+    form->showEncounter(mode != customizing || mEncounter);
     if (!mEncounter) return form->say("No Nip is open");
     const QString what = creating ? "New Nip" : "Saved Nip";
     form->say(changed ? what + " with changes that are not saved" : what);

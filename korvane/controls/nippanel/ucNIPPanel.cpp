@@ -1,7 +1,6 @@
 #include <korvane/controls/nippanel/ucNIPPanel.h>
 
 #include <korvane/controls/nippanel/ButtonRow.h>
-#include <korvane/controls/nippanel/CustomizePane.h>
 #include <korvane/controls/nippanel/EncounterPane.h>
 #include <korvane/controls/nippanel/NipTabs.h>
 #include <korvane/controls/nippanel/PanelForm.h>
@@ -29,10 +28,7 @@ ucNIPPanel::ucNIPPanel(QWidget* parent) : UserControl(parent), m(std::make_uniqu
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m->form);
     setFocusProxy(m->form);
-    const auto closeClicked = [this] { m->click(ButtonRow::Cancel); };
-    connect(m->form, &PanelForm::closeClicked, this, closeClicked);
-    connect(&m->form->customizePane(), &CustomizePane::closeClicked, this, closeClicked);
-    connect(&m->form->customizePane(), &CustomizePane::backClicked, this, [this] { m->cancelCustomize(); });
+    connect(m->form, &PanelForm::closeClicked, this, [this] { m->click(ButtonRow::Cancel); });
     connect(&m->form->buttons(), &ButtonRow::clicked, this, [this](int button) { m->click(button); });
     connect(&m->form->tabs(), &NipTabs::edited, this, [this] { m->edited(); });
     connect(&m->form->encounterPane(), &EncounterPane::edited, this, [this] { m->edited(); });
@@ -53,7 +49,7 @@ bool ucNIPPanel::CustomizeOnly() const {
 void ucNIPPanel::CustomizeOnly(bool on) {
     const bool leaves = m->customizeOnly && !on;
     m->customizeOnly = on;
-    if (leaves) m->cancelCustomize();
+    if (leaves) m->leaveCustomizing();
     m->arrange();
     emit PropertyChanged("CustomizeOnly");
 }
@@ -66,6 +62,16 @@ void ucNIPPanel::AllowClosePanel(bool on) {
     m->allowClosePanel = on;
     m->arrange();
     emit PropertyChanged("AllowClosePanel");
+}
+
+bool ucNIPPanel::NumbersGroups() const {
+    return m->numbersGroups;
+}
+
+void ucNIPPanel::NumbersGroups(bool on) {
+    m->numbersGroups = on;
+    if (m->nip) m->nip->numbersGroups(on);
+    emit PropertyChanged("NumbersGroups");
 }
 
 void ucNIPPanel::ReadProperties(const PropertyBag& bag) {
@@ -126,6 +132,7 @@ bool ucNIPPanel::eventFilter(QObject* watched, QEvent* event) {
 
 /// Here rather than as shortcuts, so that a host's own keys come first.
 bool ucNIPPanel::pressed(const QKeyEvent& key) {
+    if (m->pressedWhileCustomizing(key)) return true;
     const bool save = key.matches(QKeySequence::Save);
     QPushButton& button = m->form->buttons().button(save ? ButtonRow::Save : ButtonRow::Cancel);
     if ((!save && !key.matches(QKeySequence::Cancel)) || !button.isVisible() || !button.isEnabled())

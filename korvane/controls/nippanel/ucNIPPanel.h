@@ -29,6 +29,7 @@ class ucNIPPanel : public UserControl {
     Q_PROPERTY(QString PatientID READ PatientID)
     Q_PROPERTY(bool CustomizeOnly READ CustomizeOnly WRITE CustomizeOnly)
     Q_PROPERTY(bool AllowClosePanel READ AllowClosePanel WRITE AllowClosePanel)
+    Q_PROPERTY(bool NumbersGroups READ NumbersGroups WRITE NumbersGroups)
 
   public:
     explicit ucNIPPanel(QWidget* parent = nullptr);
@@ -45,6 +46,11 @@ class ucNIPPanel : public UserControl {
     /// Whether the panel offers its close buttons. Default true.
     bool AllowClosePanel() const;
     void AllowClosePanel(bool on);
+
+    /// Whether a group that the user makes gets a table with the next free number (`cNIP::numbersGroups`), so
+    /// that there can be more than two of them. Default false; not kept in the host's bag.
+    bool NumbersGroups() const;
+    void NumbersGroups(bool on);
 
     /// Saves the entered values; of a Nip being created also its encounter, in the same transaction, as the
     /// Save button does. Otherwise the encounter pane is not saved, and what was edited there stays modified.

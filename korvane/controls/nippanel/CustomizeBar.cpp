@@ -1,0 +1,60 @@
+#include <korvane/controls/nippanel/CustomizeBar.h>
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QToolBar>
+
+namespace Korvane {
+
+CustomizeBar::CustomizeBar(QWidget* parent)
+    : QWidget(parent), mTools(new QToolBar("General", this)),
+      mBack(new QPushButton("&Back to the Nip", this)), mClose(new QPushButton("Close", this)) {
+    mTools->setObjectName("ToolBars1");
+    mTools->setAccessibleName("Groups");
+    addTool("ID_NewNipGroup", "&New Nip Group", &CustomizeBar::newGroupClicked)
+        ->setToolTip("Add a group to the Nip");
+    mDeleteGroup = addTool("ID_DeleteNipGroup", "&Delete Nip Group", &CustomizeBar::deleteGroupClicked);
+    mCustomizeGroup =
+        addTool("ID_CustomizeNipGroup", "CustomizeNipGroup", &CustomizeBar::customizeGroupClicked);
+    mBack->setObjectName("cmdBackToNip");
+    mBack->setToolTip("Go on with the Nip (Esc)");
+    mClose->setObjectName("cmdCloseNipCustomize");
+    mClose->setToolTip("Close the Nip");
+    connect(mBack, &QAbstractButton::clicked, this, &CustomizeBar::backClicked);
+    connect(mClose, &QAbstractButton::clicked, this, &CustomizeBar::closeClicked);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(mTools, 1);
+    layout->addWidget(mBack);
+    layout->addWidget(mClose);
+    showGroup(QString(), 0);
+}
+
+/// A button of a tool bar shows no mnemonic and takes no focus unless it is told to.
+QAction* CustomizeBar::addTool(const char* id, const QString& caption, void (CustomizeBar::*triggered)()) {
+    QAction* action = mTools->addAction(caption);
+    action->setObjectName(id);
+    action->setIconText(caption);
+    mTools->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    connect(action, &QAction::triggered, this, triggered);
+    return action;
+}
+
+void CustomizeBar::arrange(bool customizeOnly) {
+    mBack->setVisible(!customizeOnly);
+    mClose->setVisible(!customizeOnly);
+}
+
+void CustomizeBar::showGroup(const QString& title, int fields) {
+    mDeleteGroup->setEnabled(!title.isEmpty());
+    mCustomizeGroup->setEnabled(!title.isEmpty());
+    mDeleteGroup->setToolTip(
+        QString("Remove the group %1 with its %2 fields and all that was entered in them, in every encounter")
+            .arg(title)
+            .arg(fields));
+    mCustomizeGroup->setToolTip("Go to the fields of the group " + title);
+}
+
+} // namespace Korvane

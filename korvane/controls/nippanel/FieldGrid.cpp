@@ -1,0 +1,73 @@
+#include <korvane/controls/nippanel/FieldGrid.h>
+
+#include <korvane/controls/container/Text.h>
+#include <korvane/controls/nippanel/Counted.h>
+#include <korvane/nip/cNIP.h>
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+
+namespace Korvane {
+
+namespace {
+
+QTreeWidgetItem* itemOf(const cNIP& nip, std::int16_t group, std::int16_t field) {
+    return new QTreeWidgetItem(
+        {qt(nip.fieldName(group, field)), qt(nip.Caption(group, field)), qt(nip.displayType(group, field)),
+         QString::number(nip.maxLength(group, field)), QString::number(nip.RowIndex(group, field))});
+}
+
+} // namespace
+
+FieldGrid::FieldGrid(QWidget* parent) : QTreeWidget(parent) {
+    setObjectName("gridNipFields");
+    setAccessibleName("Fields of the group");
+    setHeaderLabels({"Name", "Caption", "Display Type", "Width", "Row"});
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    connect(this, &QTreeWidget::currentItemChanged, this, &FieldGrid::tell, Qt::QueuedConnection);
+    connect(this, &QTreeWidget::itemClicked, this, &FieldGrid::tell, Qt::QueuedConnection);
+    connect(this, &QTreeWidget::itemActivated, this, &FieldGrid::tell, Qt::QueuedConnection);
+}
+
+void FieldGrid::list(const cNIP* nip, std::int16_t group) {
+    const QSignalBlocker quiet(this);
+    clear();
+    mMarked = 0;
+    if (!nip || group < 1 || group > nip->GroupCount()) return;
+    QList<QTreeWidgetItem*> items;
+    for (const std::int16_t field : CountedFrom1(nip->FieldCount(group)))
+        items.append(itemOf(*nip, group, field));
+    addTopLevelItems(items);
+}
+
+void FieldGrid::mark(std::int16_t field) {
+    const QSignalBlocker quiet(this);
+    mMarked = field;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        QTreeWidgetItem* item = topLevelItem(i);
+        QFont font = this->font();
+        font.setBold(i + 1 == field);
+        item->setFont(0, font);
+        item->setSelected(i + 1 == field);
+    }
+    setCurrentItem(topLevelItem(field - 1));
+}
+
+/// A view without a current row takes its first one then, which nobody has chosen.
+void FieldGrid::focusInEvent(QFocusEvent* event) {
+    const QSignalBlocker quiet(this);
+    QTreeWidget::focusInEvent(event);
+    if (mMarked == 0) setCurrentItem(nullptr);
+}
+
+void FieldGrid::tell() {
+    const int row = indexOfTopLevelItem(currentItem()) + 1;
+    if (row > 0 && row != mMarked) emit chosen(row);
+}
+
+} // namespace Korvane

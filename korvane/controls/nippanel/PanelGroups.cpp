@@ -1,0 +1,89 @@
+#include <korvane/controls/nippanel/PanelMembers.h>
+
+#include <korvane/controls/container/Busy.h>
+#include <korvane/controls/container/Text.h>
+#include <korvane/controls/nippanel/Counted.h>
+#include <korvane/controls/nippanel/CustomizePane.h>
+#include <korvane/controls/nippanel/NipTabs.h>
+#include <korvane/controls/nippanel/PanelForm.h>
+#include <korvane/controls/nippanel/Routine.h>
+#include <korvane/controls/nippanel/StructureLimits.h>
+#include <korvane/runtime/Interaction.h>
+#include <korvane/runtime/Text.h>
+
+#include <QPointer>
+
+namespace Korvane {
+
+/// Nothing when the user gives none, or one that the table does not take.
+std::optional<std::string> ucNIPPanel::Members::askGroupName() {
+    const QPointer<ucNIPPanel> alive(&panel);
+    const std::optional<std::string> name = Interaction::current().InputBox(
+        "What is the name of the group you would like to create", "New group name");
+    if (!alive || !name) return std::nullopt;
+    if (trim(*name).empty()) {
+        tell("A group needs a name.  No group was created.", MsgBoxStyle::Information);
+        return std::nullopt;
+    }
+    const std::int32_t limit = readLimits(connection).groupName;
+    if (limit > 0 && qt(*name).toUcs4().size() > limit) {
+        tell("The name of the group is too long.  It can have " + std::to_string(limit) +
+                 " characters.  No group was created.",
+             MsgBoxStyle::Information);
+        return std::nullopt;
+    }
+    return name;
+}
+
+void ucNIPPanel::Members::newGroup() {
+    if (panel.designMode()) return;
+    alone([&] {
+        return routine("Error in ucNipPanel.NewNipGroup: ", false, [&] {
+            if (!nip || !mayLeaveField()) return false;
+            const std::optional<std::string> name = askGroupName();
+            return name && createGroup(*name);
+        });
+    });
+}
+
+bool ucNIPPanel::Members::createGroup(const std::string& name) {
+    const Hourglass hourglass;
+    const PaintLock lock(panel);
+    const bool created = nip->CreateGroup(name);
+    const std::string reason = created ? "" : whyFailed();
+    renewStructure(!created);
+    if (created)
+        for (const std::int16_t group : CountedFrom1(nip->GroupCount()))
+            if (nip->GroupName(group) == name) form->tabs().setCurrentIndex(group - 1);
+    showGroup();
+    if (!created) tell("System error: Unable to create this Nip group" + reason, MsgBoxStyle::Exclamation);
+    return created;
+}
+
+void ucNIPPanel::Members::deleteGroup() {
+    if (panel.designMode()) return;
+    alone([&] {
+        return routine("Error in ucNipPanel.DeleteNipGroup: ", false, [&] {
+            if (!nip || selectedGroup() < 1 || !mayLeaveField()) return false;
+            const QPointer<ucNIPPanel> alive(&panel);
+            const Answer answer = Interaction::current().MsgBox(
+                "Deleting a Nip Group will also delete all fields in the group.\nThis is a destructive "
+                "action "
+                "that cannot be reversed.  Do you wish to continue?",
+                MsgBoxStyle::OkCancel | MsgBoxStyle::Question | MsgBoxStyle::DefaultButton2,
+                "Delete Group Confirmation");
+            if (!alive || answer != Answer::Ok) return false;
+            const Hourglass hourglass;
+            const PaintLock lock(panel);
+            const bool deleted = nip->DeleteGroup(selectedGroup());
+            const std::string reason = deleted ? "" : whyFailed();
+            renewStructure(!deleted);
+            showGroup();
+            if (!deleted)
+                tell("System error: Unable to remove this nip group." + reason, MsgBoxStyle::Exclamation);
+            return deleted;
+        });
+    });
+}
+
+} // namespace Korvane
