@@ -2,8 +2,6 @@
 
 #include <korvane/controls/nippanel/ChoiceOrderModel.h>
 
-#include <QLineEdit>
-
 #include <limits>
 
 namespace Korvane {

@@ -2,10 +2,9 @@
 
 #include <korvane/controls/nippanel/ChoiceRowDelegate.h>
 
+#include <QLineEdit>
 #include <QPersistentModelIndex>
 #include <QPointer>
-
-class QLineEdit;
 
 namespace Korvane {
 

@@ -10,7 +10,7 @@
 namespace Korvane {
 
 ChoiceEditView::ChoiceEditView(ChoiceOrderModel* choices, QWidget* parent)
-    : ChoiceView(parent), mChoices(choices), mDelegate(new ChoiceEditDelegate(this)) {
+    : WrappingList(parent), mChoices(choices), mDelegate(new ChoiceEditDelegate(this)) {
     setModel(choices);
     setItemDelegate(mDelegate);
     setEditTriggers(DoubleClicked | EditKeyPressed);
@@ -43,11 +43,11 @@ bool ChoiceEditView::edit(const QModelIndex& index, EditTrigger trigger, QEvent*
         return true;
     }
     if (opensBox && !takeEdit()) return false;
-    return QListView::edit(index, trigger, event);
+    return WrappingList::edit(index, trigger, event);
 }
 
 void ChoiceEditView::commitData(QWidget* editor) {
-    if (mDelegate->fault().isEmpty()) ChoiceView::commitData(editor);
+    if (mDelegate->fault().isEmpty()) WrappingList::commitData(editor);
 }
 
 // A box that has lost the focus stays open without a word: the user may be on the way to another program. He
@@ -59,7 +59,7 @@ void ChoiceEditView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEdit
         return;
     }
     const QPersistentModelIndex edited = mDelegate->edited();
-    ChoiceView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    WrappingList::closeEditor(editor, QAbstractItemDelegate::NoHint);
     if (edited.isValid() && !mChoices->isChoice(edited.row())) mChoices->remove(edited.row());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <korvane/controls/nippanel/ChoiceView.h>
+#include <korvane/controls/nippanel/WrappingList.h>
 
 namespace Korvane {
 
@@ -10,7 +10,7 @@ class ChoiceOrderModel;
 /// A list whose choices are edited in place (F2, a double click). A text that the list refuses stays in its
 /// box, and the user is told why, until he changes it or gives it up with Esc; a row that is no choice yet
 /// goes with it.
-class ChoiceEditView : public ChoiceView {
+class ChoiceEditView : public WrappingList {
   public:
     ChoiceEditView(ChoiceOrderModel* choices, QWidget* parent);
 

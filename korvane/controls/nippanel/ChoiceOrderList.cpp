@@ -79,6 +79,7 @@ Qt::DropAction ChoiceOrderList::effect(const QDropEvent& event, int target) cons
     return target == mDragged.row() ? Qt::IgnoreAction : Qt::MoveAction;
 }
 
+// Accepted for the whole list, also where a drop does nothing: the moves that follow are wanted.
 void ChoiceOrderList::dragEnterEvent(QDragEnterEvent* event) {
     if (isOurs(*event))
         event->accept();
@@ -86,7 +87,6 @@ void ChoiceOrderList::dragEnterEvent(QDragEnterEvent* event) {
         event->ignore();
 }
 
-// Accepted for the whole list, also where a drop does nothing: the moves that follow are wanted.
 void ChoiceOrderList::dragMoveEvent(QDragMoveEvent* event) {
     if (!isOurs(*event)) return event->ignore();
     mPoint = event->position().toPoint();

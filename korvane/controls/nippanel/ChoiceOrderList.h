@@ -5,6 +5,8 @@
 #include <QPersistentModelIndex>
 #include <QTimer>
 
+class QPainter;
+
 namespace Korvane {
 
 /// The list of the choices (`lstNipChoices`), put in order by dragging, or with Alt+Up and Alt+Down.

@@ -21,7 +21,7 @@ QString ChoiceOrderModel::fault(const QString& text, int row) const {
         if (now == text || now == choice) return {};
     }
     if (choice.isEmpty()) return QStringLiteral("A choice cannot be empty.");
-    const QString entry = listEntryFault(choice);
+    QString entry = listEntryFault(choice);
     if (!entry.isEmpty()) return entry;
     int at = 0;
     for (const ChoiceRow& other : rows())

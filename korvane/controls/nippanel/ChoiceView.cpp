@@ -1,21 +1,11 @@
 #include <korvane/controls/nippanel/ChoiceView.h>
 
 #include <korvane/controls/nippanel/ChoiceModel.h>
-#include <korvane/controls/nippanel/ChoiceRowDelegate.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace Korvane {
-
-ChoiceView::ChoiceView(QWidget* parent) : QListView(parent) {
-    setWordWrap(true);
-    setResizeMode(QListView::Adjust);
-    setTextElideMode(Qt::ElideNone);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    setItemDelegate(new ChoiceRowDelegate(this));
-}
 
 // The view asks here before it starts an editor: with the release of a click on a row, with a key on the
 // current one. The rows have no editor.

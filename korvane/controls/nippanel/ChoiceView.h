@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QListView>
+#include <korvane/controls/nippanel/WrappingList.h>
 
 namespace Korvane {
 
-/// A list grid: long rows wrap, a click anywhere on a row with a check box, or the space bar, turns it.
-class ChoiceView : public QListView {
+/// A list grid: a click anywhere on a row with a check box, or the space bar, turns it.
+class ChoiceView : public WrappingList {
   public:
-    explicit ChoiceView(QWidget* parent);
+    using WrappingList::WrappingList;
 
   protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
