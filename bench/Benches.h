@@ -7,5 +7,7 @@ void registerStructure();
 void registerLoad();
 void registerSave();
 void registerPanel();
+void registerCustomize();
+void registerRebuild();
 
 } // namespace Korvane::Bench

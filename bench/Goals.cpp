@@ -18,7 +18,11 @@ constexpr Goal ratios[] = {
     {"Insert", "50x100", "literal", 0.7},       {"Insert", "", "literal", 1.0},
     {"Tabs", "50x100", "widgets", 0.06},        {"TabsMemory", "50x100", "widgets", 0.12},
     {"LoadStructure@server", "", "libpq", 1.2}, {"Load@server", "", "libpq", 0.3},
-    {"Update@server", "", "libpq", 0.7},
+    {"Update@server", "", "libpq", 0.7},        {"ChangeField", "", "literal", 1.5},
+    {"NewField", "", "literal", 1.5},           {"Rebuild", "", "literal", 1.5},
+    {"ChangeField@server", "", "libpq", 1.5},   {"NewField@server", "", "libpq", 1.5},
+    {"ChangeField@1ms", "", "libpq", 1.5},      {"NewField@1ms", "", "libpq", 1.5},
+    {"ChangeField@10ms", "", "libpq", 1.5},     {"NewField@10ms", "", "libpq", 1.5},
 };
 
 constexpr Goal amounts[] = {

@@ -16,6 +16,7 @@ class KeptCells {
         const std::size_t needed = mUsed + static_cast<std::size_t>(cells);
         if (mCells.size() < needed) mCells.resize(needed);
     }
+    const std::string& first() const { return mCells.front(); }
     void keep(std::string_view cell) { mCells[mUsed++].assign(cell); }
 
   private:

@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <map>
 #include <string>
 
 namespace Korvane::Bench {
@@ -20,6 +21,13 @@ void forEachDatabase(Measure&& measure) {
     for (const Place& place : serverPlaces)
         for (const Size& size : serverSizes)
             measure(place, size);
+}
+
+/// What stays open through all repetitions, as it does through a day; made from the address of its database.
+template <typename Kept>
+Kept& keptOn(const std::string& address) {
+    static std::map<std::string, Kept> kept;
+    return kept.try_emplace(address, address).first->second;
 }
 
 /// Registers "<work><place>/<size>/<by>". Where a server or a line does part of the work the clock on the

@@ -8,7 +8,6 @@
 #include <korvane/ado/Connection.h>
 #include <korvane/nip/cNIP.h>
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -38,12 +37,6 @@ struct OpenNip {
     cNIP nip;
     int turn = 0;
 };
-
-template <typename Kept>
-Kept& keptOn(const std::string& address) {
-    static std::map<std::string, Kept> kept;
-    return kept.try_emplace(address, address).first->second;
-}
 
 template <Kind kind>
 void ours(benchmark::State& state, Place place, Size size) {

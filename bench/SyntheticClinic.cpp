@@ -72,14 +72,18 @@ void makeFile(const std::string& path, const Size& size) {
     flush(path);
 }
 
-std::string fileOf(const Size& size) {
+/// Whether a database is as it was made, and may be kept for the next run, or has been customized.
+enum class Structure { Untouched, Customized };
+
+std::string fileOf(const std::string& name, const Size& size, Structure structure) {
     static const Directory directory;
     // While one connection stays, the write-ahead log does too: as on any day in a clinic, no run begins with
     // making a new one.
     static std::map<std::string, BareSqlite> open;
-    const fs::path path = directory.path() / (size.name() + ".db");
+    const fs::path path = directory.path() / (name + ".db");
     const std::string address = "sqlite:" + path.string();
     if (open.contains(address)) return address;
+    if (structure == Structure::Customized) fs::remove(path);
     if (!fs::exists(path)) {
         const fs::path unfinished = path.string() + ".new";
         fs::remove(unfinished);
@@ -91,14 +95,15 @@ std::string fileOf(const Size& size) {
 }
 
 // A throw-away server goes with all that is made here; another one keeps it for the next run.
-void makeOnServer(const std::string& name, const Size& size) {
+void makeOnServer(const std::string& name, const Size& size, Structure structure) {
     const Place near = serverPlaces.front();
     const BarePostgres server(serverAddress(near, "postgres"));
     KeptCells dropped;
+    server.run("Set client_min_messages=warning");
+    if (structure == Structure::Customized) server.run("Drop Database If Exists " + name);
     if (server.run("Select 1 From pg_database Where datname='" + name + "'", dropped) > 0) return;
     std::cerr << "making " << name << " on the server ..." << std::endl;
     const std::string unfinished = name + "_new";
-    server.run("Set client_min_messages=warning");
     server.run("Drop Database If Exists " + unfinished);
     server.run("Create Database " + unfinished);
     {
@@ -110,14 +115,22 @@ void makeOnServer(const std::string& name, const Size& size) {
     server.run("Alter Database " + unfinished + " Rename To " + name);
 }
 
+std::string addressOf(const std::string& name, const Place& place, const Size& size, Structure structure) {
+    if (!place.onServer) return fileOf(name, size, structure);
+    static std::set<std::string> made;
+    const std::string onServer = "bench" + name;
+    if (made.insert(onServer).second) makeOnServer(onServer, size, structure);
+    return serverAddress(place, onServer);
+}
+
 } // namespace
 
 std::string databaseOf(const Place& place, const Size& size) {
-    if (!place.onServer) return fileOf(size);
-    static std::set<std::string> made;
-    const std::string name = "bench" + size.name();
-    if (made.insert(name).second) makeOnServer(name, size);
-    return serverAddress(place, name);
+    return addressOf(size.name(), place, size, Structure::Untouched);
+}
+
+std::string databaseToCustomize(const Place& place, const Size& size) {
+    return addressOf(size.name() + "_customized", place, size, Structure::Customized);
 }
 
 int freshEncounter(const Place& place, const Size& size) {

@@ -12,6 +12,9 @@ namespace Korvane::Bench {
 /// KORVANE_BENCH_DIR. Encounters count from 1.
 std::string databaseOf(const Place& place, const Size& size);
 
+/// The address of another one like that, for those who change its structure; made anew in each process.
+std::string databaseToCustomize(const Place& place, const Size& size);
+
 /// An identifier that no encounter of that database has yet; never the same one twice in this process.
 int freshEncounter(const Place& place, const Size& size);
 

@@ -33,12 +33,29 @@ std::string_view displayType(int group, int field) {
 }
 
 std::vector<std::string> allowedValues(int group, int field) {
-    std::vector<std::string> values;
     const std::string_view type = displayType(group, field);
-    if (type == "TEXT" || type == "LIST-EDITCONTENT") return values;
+    if (type == "TEXT" || type == "LIST-EDITCONTENT") return {};
+    return allowedChoices();
+}
+
+std::vector<std::string> allowedChoices() {
+    std::vector<std::string> values;
     for (int i = 0; i < choices; ++i)
         values.push_back(choice(i));
     return values;
+}
+
+StructureChange changedField(const Size& size, int turn) {
+    const int group = turn % size.groups + 1;
+    int field = 1;
+    while (displayType(group, field) != StructureChange::displayType)
+        ++field;
+    return {group, field, (group - 1) * size.fields + field, fieldName(field),
+            "Caption in turn " + std::to_string(turn)};
+}
+
+StructureChange addedField(const Size& size, int turn) {
+    return {turn % size.groups + 1, 0, 0, "Added" + std::to_string(turn), "The new one"};
 }
 
 std::string valueOf(int group, int field, int turn) {
@@ -91,6 +108,38 @@ std::string insertStatement(const Size& size, int group, int encounter, int turn
     }
     return "Insert Into " + tableName(group) + "(" + columns + "[EncounterID])  values (" + values +
            std::to_string(encounter) + ")";
+}
+
+std::string addColumnStatement(const StructureChange& change) {
+    return "Alter Table " + tableName(change.group) + " Add Column " + change.name + " VarChar(" +
+           std::to_string(StructureChange::maxLength) + ")";
+}
+
+std::vector<std::string> structureRows(const StructureChange& change, int id, bool isNew) {
+    const std::string owner = std::to_string(change.group + 1);
+    const std::string length = std::to_string(StructureChange::maxLength);
+    std::vector<std::string> statements;
+    if (isNew)
+        statements.push_back("Insert Into DBFields "
+                             "([ID],[Code],[FieldName],[FieldCaption],[DBFieldGroupID],[MaxLength],[dataType]"
+                             ",[DisplayType],[Indexed],[Required],[Ordinal],[InitialValueRuleID])  values (" +
+                             std::to_string(id) + ",1,'" + change.name + "','" + change.caption + "'," +
+                             owner + "," + length + ",'dbText','" + StructureChange::displayType +
+                             "',0,0,1000,0)");
+    else
+        statements.push_back("Update DBFields Set [FieldCaption]='" + change.caption +
+                             "',[MaxLength]=" + length + ",[DisplayType]='" + StructureChange::displayType +
+                             "',[InitialValueRuleID]=0,[Ordinal]=" + std::to_string(change.field) +
+                             " Where ID=" + std::to_string(id));
+    statements.push_back("Delete From DBFieldValues Where fieldName='" + change.name +
+                         "' and DBFieldGroupID=" + owner);
+    int ordinal = 0;
+    for (const std::string& value : allowedChoices())
+        statements.push_back(
+            "Insert Into DBFieldValues "
+            "([FieldName],[DBFieldGroupID],[FieldValue],[DefaultValue],[Ordinal])  values ('" +
+            change.name + "'," + owner + ",'" + value + "',False," + std::to_string(++ordinal) + ")");
+    return statements;
 }
 
 } // namespace Korvane::Bench

@@ -26,6 +26,8 @@ int main(int argc, char** argv) {
     Korvane::Bench::registerLoad();
     Korvane::Bench::registerSave();
     Korvane::Bench::registerPanel();
+    Korvane::Bench::registerCustomize();
+    Korvane::Bench::registerRebuild();
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
     Korvane::Bench::RatioTable table;

@@ -27,13 +27,13 @@ std::vector<std::string> Tables::Names() const {
 }
 
 bool Tables::Exists(std::string_view name) const {
-    const auto found = findRelation(*mConnection, name);
+    const auto found = findRelation(*mConnection, name, Read::NameOnly);
     return found && found->isTable;
 }
 
 Table Tables::Item(std::string_view name) const {
     auto state = std::make_shared<TableState>();
-    state->name = requireTable(*mConnection, name).name;
+    state->name = requireTable(*mConnection, name, Read::NameOnly).name;
     state->connection = mConnection;
     return Table(std::move(state));
 }
@@ -49,7 +49,7 @@ void Tables::Append(const Table& table) {
     if (state.columns.empty()) refuse(RuntimeError::InvalidArgument, "needs a column.");
     for (const Column& column : state.columns)
         dialect.requireName(column.Name());
-    if (const auto known = findRelation(*mConnection, state.name)) {
+    if (const auto known = findRelation(*mConnection, state.name, Read::NameOnly)) {
         refuse(RuntimeError::DuplicateKey, std::string("cannot be made: there is already a ") +
                                                (known->isTable ? "table" : "view") + " \"" + known->name +
                                                "\".");
@@ -61,7 +61,7 @@ void Tables::Append(const Table& table) {
 }
 
 void Tables::Delete(std::string_view name) {
-    const std::string table = requireTable(*mConnection, name).name;
+    const std::string table = requireTable(*mConnection, name, Read::NameOnly).name;
     runSteps(*mConnection, {mConnection->catalogDialect().dropTable(table)});
 }
 

@@ -33,10 +33,10 @@ Connection& TableState::requireStored() const {
                        "The table \"" + name + "\" is new; it has to be appended to a catalog first.");
 }
 
-std::optional<Relation> findRelation(Connection& connection, std::string_view name) {
+std::optional<Relation> findRelation(Connection& connection, std::string_view name, Read what) {
     const CatalogDialect& dialect = connection.catalogDialect();
     std::vector<Relation> alike;
-    const auto rows = connection.openNative(dialect.relationQuery(name));
+    const auto rows = connection.openNative(dialect.relationQuery(name, what == Read::Columns));
     for (; !rows->atEnd(); rows->moveNext()) {
         std::string relation = cell(*rows, 0).text();
         if (alike.empty() || alike.back().name != relation)
@@ -51,8 +51,8 @@ std::optional<Relation> findRelation(Connection& connection, std::string_view na
     return std::move(alike.front());
 }
 
-Relation requireTable(Connection& connection, std::string_view name) {
-    auto found = findRelation(connection, name);
+Relation requireTable(Connection& connection, std::string_view name, Read what) {
+    auto found = findRelation(connection, name, what);
     if (found && found->isTable) return std::move(*found);
     throw RuntimeError(RuntimeError::ItemNotFound, "There is no table \"" + std::string(name) + "\".");
 }

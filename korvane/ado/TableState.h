@@ -28,8 +28,11 @@ struct TableState {
 struct Relation {
     std::string name;
     bool isTable = false;
-    std::vector<Column> columns;
+    std::vector<Column> columns; ///< none when only the relation itself was asked for
 };
+
+/// How much is to be read of a relation.
+enum class Read { Columns, NameOnly };
 
 /// An index as the database has it now.
 struct StoredIndex {
@@ -39,9 +42,10 @@ struct StoredIndex {
 
 /// The table or view of a name; of several that differ in case only, the one spelled so, else the one in
 /// lower case.
-std::optional<Relation> findRelation(Connection& connection, std::string_view name);
+std::optional<Relation> findRelation(Connection& connection, std::string_view name,
+                                     Read what = Read::Columns);
 /// ItemNotFound when there is no such table.
-Relation requireTable(Connection& connection, std::string_view name);
+Relation requireTable(Connection& connection, std::string_view name, Read what = Read::Columns);
 std::vector<StoredIndex> storedIndexes(Connection& connection, const std::string& table);
 
 /// The one of that name: spelled so, else without regard to case; null when there is none.

@@ -51,6 +51,7 @@ void moveTo(GroupRecord& group, std::int16_t field, std::int16_t row) {
         FieldRecord& moved = group.fields[static_cast<std::size_t>(index)];
         moved.ordinal = ordinal;
         moved.changed = true;
+        group.hasChanges = true;
     }
 }
 
@@ -77,6 +78,7 @@ bool cNIP::CreateField(std::int16_t groupIndex, const FieldDefinition& definitio
         define(field, definition);
         FieldRecord& added = appendField(group);
         added = std::move(field);
+        group.hasChanges = true;
         place(group, added);
         if (definition.rowIndex > 0) moveTo(group, group.fieldCount, definition.rowIndex);
         group.fieldList.reset();
@@ -98,6 +100,7 @@ bool cNIP::EditField(std::int16_t groupIndex, std::int16_t fieldIndex, const Fie
         define(edited, definition);
         edited.changed = true;
         field = std::move(edited);
+        group.hasChanges = true;
         if (definition.rowIndex > 0) moveTo(group, fieldIndex, definition.rowIndex);
         if (field.pending) group.fieldList.reset();
         return true;

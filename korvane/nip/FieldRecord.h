@@ -28,7 +28,8 @@ struct FieldRecord {
     std::string fieldName;    ///< also the column in the group's table
     std::string newFieldName; ///< while it is being renamed
     std::string caption;
-    std::int16_t maxLength = 0; ///< characters; 0: no limit
+    std::int16_t maxLength = 0;    ///< characters; 0: no limit
+    std::int16_t storedLength = 0; ///< `maxLength` as it is in the database
     std::string dataType;
     float ordinal = 0;
     std::int16_t controlIndex = 0;

@@ -17,6 +17,7 @@ struct GroupRecord {
     std::string groupID; ///< in decimal
     std::int16_t fieldCount = 0;
     std::int16_t rowCount = 0;
+    bool hasChanges = false; ///< some field is new or changed: spares a walk through the others
     /// Element 0 is empty, 1 to `fieldCount` are the fields; what may stand behind is no field.
     std::vector<FieldRecord> fields;
     /// Made when it is first needed; to be reset whenever a field is added, removed or renamed.

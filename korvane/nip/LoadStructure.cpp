@@ -77,6 +77,7 @@ void fillField(FieldRecord& field, SQLData& row) {
     field.groupID = number(fieldGroupID, &Variant::toInt32);
     setText(field.displayType, row.DataView(fieldDisplayType));
     field.maxLength = number(fieldMaxLength, &Variant::toInt16);
+    field.storedLength = field.maxLength;
     field.initialValueRule = number(fieldInitialValueRule, &Variant::toInt16);
     field.ordinal = number(fieldOrdinal, &Variant::toSingle);
     field.valueList = emptyList();

@@ -24,10 +24,14 @@ const std::string& savedName(const FieldRecord& field) {
 }
 
 void settle(GroupRecord& group) {
+    if (!group.hasChanges) return;
+    group.hasChanges = false;
     for (FieldRecord& field : group.fields) {
+        if (!field.pending && !field.changed) continue;
         if (!field.newFieldName.empty()) group.fieldList.reset();
         field.fieldName = savedName(field);
         field.newFieldName.clear();
+        field.storedLength = field.maxLength;
         field.pending = false;
         field.changed = false;
     }

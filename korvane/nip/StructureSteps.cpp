@@ -34,7 +34,8 @@ class Plan {
     }
 
     void addChanged(FieldPlace place, const std::string& table, const FieldRecord& field) {
-        const std::int32_t size = mSchema.sizeOf(table, field.fieldName);
+        const bool isLonger = field.maxLength > field.storedLength;
+        const std::int32_t size = isLonger ? mSchema.sizeOf(table, field.fieldName) : 0;
         if (!field.newFieldName.empty()) step(StructureStep::RenameColumn, place);
         if (size > 0 && size < field.maxLength) step(StructureStep::WidenColumn, place);
         step(StructureStep::UpdateField, place);
@@ -51,6 +52,7 @@ std::vector<StructureStep> planStructureSave(const std::vector<GroupRecord>& gro
                                              const SchemaFacts& schema) {
     Plan plan(schema);
     for (std::size_t group = 1; group < groups.size(); ++group) {
+        if (!groups[group].hasChanges) continue;
         for (std::int16_t field = 1; field <= groups[group].fieldCount; ++field) {
             const FieldPlace place{static_cast<std::int16_t>(group), field};
             plan.add(place, groups[group], groups[group].fields[static_cast<std::size_t>(field)]);

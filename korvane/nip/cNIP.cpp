@@ -76,6 +76,7 @@ void cNIP::fieldName(std::int16_t group, std::int16_t field, std::string_view na
     if (record.fieldName == name) return;
     record.newFieldName = name;
     record.changed = true;
+    mGroups[static_cast<std::size_t>(group)].hasChanges = true;
 }
 const std::string& cNIP::Caption(std::int16_t group, std::int16_t field) const {
     return at(group, field).caption;

@@ -7,7 +7,12 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <functional>
+#include <memory>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace Korvane {
 
@@ -280,6 +285,44 @@ TEST_F(CustomizingStructure, ChangesAllOrNothingWhereverItFails) {
         EXPECT_GT(steps, 4) << change.what;
         EXPECT_NE(stored(), before.first);
     }
+}
+
+// Every process is killed one step further than the one before it, until one comes to the end.
+TEST_F(CustomizingStructure, LeavesTheOldStructureOrTheNewOneWhenTheProcessIsKilled) {
+    nips.group(4, "Later", "NIP_Custom9");
+    nips.db->quietly("Drop Table NIP_Custom9");
+    const auto before = stored();
+    nips.db->Close(); // a process of its own opens the database below
+    const auto saveUpTo = [&](int steps) {
+        const auto db = std::make_shared<RecordingConnection>(ado::open(nips.address()));
+        bool done = nip.LoadStructure(db) && nip.CreateField(1, temperature) &&
+                    nip.CreateField(3, temperature) &&
+                    nip.EditField(1, 3, {.fieldName = "Humour", .maxLength = 90, .values = {"a", "b"}});
+        db->insteadOfFailing = [] { kill(getpid(), SIGKILL); };
+        db->failAfter = steps;
+        return done && nip.SaveStructure();
+    };
+    int steps = 0;
+    for (int status = -1; status != 0; ++steps) {
+        ASSERT_LT(steps, 100);
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) _exit(saveUpTo(steps) ? 0 : 1);
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(status == 0 || WIFSIGNALED(status)) << "it failed by itself: " << nips.errorLog();
+        nips.db = std::make_shared<RecordingConnection>(ado::open(nips.address()));
+        if (status == 0) break;
+        ASSERT_EQ(stored(), before) << "killed at step " << steps;
+        nips.db->Close();
+    }
+    EXPECT_GT(steps, 20);
+    reload();
+    EXPECT_EQ(modelled(),
+              "Vitals(4): Pulse/The Pulse Weight/The Weight Humour/ Temp-1/The patient's temperature "
+              "Notes(1): Text/The Text Later(1): Temp-1/The patient's temperature ");
+    EXPECT_EQ(nips.rows("Select Humour,[Temp-1] From NIP_Custom1"), "Poor|NULL");
+    EXPECT_EQ(nips.rows("Select * From NIP_Custom9"), "");
+    EXPECT_EQ(nips.rows("Select Count(*) From DBFieldValues"), "6");
 }
 
 // Another desk has customized since the structure was loaded.

@@ -5,6 +5,7 @@
 #include <korvane/runtime/RuntimeError.h>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <string>
@@ -39,6 +40,8 @@ class RecordingConnection : public ado::Connection {
     bool carriedOut = true;
     /// How many more statements, commits among them, run before one fails; below 0: none does.
     int failAfter = -1;
+    /// Called instead of that failure.
+    std::function<void()> insteadOfFailing;
 
     /// Runs `statement` past the record, to prepare or look at what is stored.
     std::int32_t quietly(std::string_view statement) { return mReal->Execute(statement); }
@@ -88,7 +91,9 @@ class RecordingConnection : public ado::Connection {
         return statement == schemaMarkStatement() || statement == revisionStatement;
     }
     void step() {
-        if (failAfter >= 0 && failAfter-- == 0) throw failure;
+        if (failAfter < 0 || failAfter-- > 0) return;
+        if (!insteadOfFailing) throw failure;
+        insteadOfFailing();
     }
     void note(std::string_view statement) {
         step();

@@ -20,17 +20,20 @@ std::string CatalogDialect::tablesQuery() const {
 }
 
 // In the collation named so, lower() knows ASCII letters only.
-std::string CatalogDialect::relationQuery(std::string_view name) const {
-    return std::string("Select c.relname, ") + isTable +
+std::string CatalogDialect::relationQuery(std::string_view name, bool withColumns) const {
+    const std::string relation = std::string("Select c.relname, ") + isTable;
+    const std::string named = std::string(" Where c.relkind In ('r','p','v','m','f') And ") + isVisible +
+                              " And pg_catalog.lower(c.relname::pg_catalog.text Collate \"C\")='" +
+                              escapeQuotes(lowerCase(name)) + "' Order By c.relname";
+    if (!withColumns) return relation + ", Null From pg_catalog.pg_class c" + named;
+    return relation +
            ", a.attname, a.attnotnull, "
            "(Case When t.typtype='d' Then t.typbasetype Else a.atttypid End)::pg_catalog.int8, "
            "Case When t.typtype='d' Then t.typtypmod Else a.atttypmod End "
            "From pg_catalog.pg_class c "
            "Left Join pg_catalog.pg_attribute a On a.attrelid=c.oid And a.attnum>0 And Not a.attisdropped "
-           "Left Join pg_catalog.pg_type t On t.oid=a.atttypid "
-           "Where c.relkind In ('r','p','v','m','f') And " +
-           isVisible + " And pg_catalog.lower(c.relname::pg_catalog.text Collate \"C\")='" +
-           escapeQuotes(lowerCase(name)) + "' Order By c.relname, a.attnum";
+           "Left Join pg_catalog.pg_type t On t.oid=a.atttypid" +
+           named + ", a.attnum";
 }
 
 ColumnInfo CatalogDialect::column(const Cursor& row) const {

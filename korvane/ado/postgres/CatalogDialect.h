@@ -7,7 +7,7 @@ namespace Korvane::ado::postgres {
 class CatalogDialect final : public ado::CatalogDialect {
   public:
     std::string tablesQuery() const override;
-    std::string relationQuery(std::string_view name) const override;
+    std::string relationQuery(std::string_view name, bool withColumns) const override;
     ColumnInfo column(const Cursor& row) const override;
     std::string indexesQuery(const std::string& table) const override;
     std::optional<std::string> widenColumn(const std::string& table, const Column& column) const override;
