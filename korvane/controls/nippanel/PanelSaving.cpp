@@ -193,7 +193,6 @@ void ucNIPPanel::Members::takeOnStructure() {
             "could not be read. Everything you entered is still here; please try again.",
             MsgBoxStyle::Exclamation);
     buildControls();
-    form->tabs().fill();
     tell("This Nip is not saved yet, because another desk has customized the form. It is shown as it is now, "
          "with everything you entered; please look through it and save it again." +
              listOf(lost),
