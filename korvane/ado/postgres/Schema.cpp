@@ -99,10 +99,11 @@ void Schema::addColumn(Table& table, const pg_result* catalog, int row) {
     if (const int place = std::atoi(text(KeyPlace)); place >= 0) table.key.emplace_back(place, text(Column));
 }
 
+// Each column counts with its name and its place, a removed one with the name that it has since. A sum of
+// 32-bit numbers is several times as quick as one of texts, which every save would wait for.
 std::string_view Schema::markQuery() {
-    return "Select Sum(hashtextextended(c.relname || '.' || a.attname, a.attnum)) As SchemaMark "
-           "From pg_catalog.pg_class c "
-           "Join pg_catalog.pg_attribute a On a.attrelid=c.oid And a.attnum>0 And Not a.attisdropped "
+    return "Select Sum(hashname(a.attname) # hashint8(a.attrelid::bigint * 2000 + a.attnum)) As SchemaMark "
+           "From pg_catalog.pg_class c Join pg_catalog.pg_attribute a On a.attrelid=c.oid "
            "Where c.relkind In ('r','p') And c.relnamespace In (Select n.oid From pg_catalog.pg_namespace n "
            "Where n.nspname=Any(current_schemas(false)))";
 }
