@@ -299,6 +299,7 @@ TEST(Customizing, WhatFailsChangesNothingAndCanBeTriedAgain) {
         EXPECT_TRUE(std::any_of(desk.user->boxes.begin(), desk.user->boxes.end(), isReport));
         EXPECT_EQ(desk.fields(), before);
         EXPECT_EQ(desk.tabs().count(), 2);
+        EXPECT_EQ(desk.listed(), "Pulse Mood");
         if (saves) {
             EXPECT_EQ(desk.caption().text(), "Weight");
         }
@@ -331,6 +332,43 @@ TEST(Customizing, TakesOnWhatAnotherDeskHasChangedAndKeepsWhatIsWritten) {
         desk.saveField();
         EXPECT_THAT(desk.fields(), HasSubstr("Mood|How they feel"));
     }
+}
+
+TEST(Customizing, AStructureThatCannotBeReadAgainIsReadBeforeItIsNeeded) {
+    for (const bool savesField : {true, false}) {
+        CustomizingDesk desk;
+        desk.click("cmdBackToNip");
+        desk.type(desk.pulse(), "99");
+        desk.click("cmdNipButton(2)");
+        desk.newField();
+        desk.type(desk.caption(), "Weight");
+        desk.db->failOn = "DBFields";
+        desk.saveField();
+        EXPECT_THAT(desk.lastBox().text, HasSubstr("could not be read from the database again"));
+        EXPECT_EQ(utf8(desk.pulse().text() + desk.caption().text()), "99Weight");
+        desk.db->failOn.clear();
+        desk.user->clear();
+        if (savesField) desk.saveField();
+        desk.panel.SaveNipInfo();
+        EXPECT_THAT(desk.user->boxes, IsEmpty());
+        EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "99");
+        EXPECT_EQ(desk.caption().text(), savesField ? "" : "Weight");
+        EXPECT_EQ(desk.listed(), savesField ? "Pulse Mood Weight" : "Pulse Mood");
+    }
+}
+
+TEST(Customizing, SavingTheNipOnAFormThatChangedKeepsWhatIsWrittenInThePane) {
+    CustomizingDesk desk;
+    desk.chooseListed(1);
+    desk.type(desk.caption(), "How they feel");
+    cNIP other;
+    ASSERT_TRUE(other.LoadStructure(desk.db));
+    ASSERT_TRUE(other.DeleteField(1, 1));
+    desk.panel.SaveNipInfo();
+    EXPECT_THAT(desk.lastBox().text, HasSubstr("another desk has customized the form"));
+    EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]");
+    EXPECT_EQ(desk.caption().text(), "How they feel");
+    EXPECT_EQ(desk.listed(), "Mood");
 }
 
 TEST(Customizing, WorksWithoutAnOpenNip) {

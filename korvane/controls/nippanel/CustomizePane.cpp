@@ -124,15 +124,18 @@ void CustomizePane::showGroup(const cNIP* nip, std::int16_t group) {
     reset();
 }
 
-void CustomizePane::resume(const cNIP& nip, FieldPlace place) {
+bool CustomizePane::resume(const cNIP& nip) {
+    const bool isNew = mHoldsNew;
+    const FieldPlace place = isNew || mField > 0 ? mHeld.in(nip) : FieldPlace{};
+    if (place.group < 1) return false;
     const FieldDraft written = mForm->draft();
     const FieldDraft begun = mForm->original();
     mNip = &nip;
     mGroup = place.group;
     mGrid->list(&nip, mGroup);
-    const bool isNew = place.field == 0;
     take(isNew, place.field, written);
     mForm->compareWith(isNew ? begun : draftOf(nip, mGroup, place.field));
+    return true;
 }
 
 void CustomizePane::beginNew() {
@@ -150,6 +153,7 @@ void CustomizePane::reset() {
 void CustomizePane::take(bool isNew, std::int16_t field, const FieldDraft& draft) {
     mHoldsNew = isNew;
     mField = field;
+    if (isNew || field > 0) mHeld = HeldField::of(*mNip, {mGroup, field});
     mForm->fill(draft, isNew);
     mForm->setEnabled(isNew || field > 0);
     markListed();

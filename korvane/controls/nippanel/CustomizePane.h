@@ -1,7 +1,7 @@
 #pragma once
 
 #include <korvane/controls/nippanel/FieldDraft.h>
-#include <korvane/nip/FieldPlace.h>
+#include <korvane/controls/nippanel/HeldField.h>
 
 #include <QFrame>
 
@@ -34,9 +34,9 @@ class CustomizePane : public QFrame {
     /// Lists the fields of a group, with nothing to edit; no model or no such group: nothing at all. The
     /// model must outlive the pane or the next call.
     void showGroup(const cNIP* nip, std::int16_t group);
-    /// The same after the structure was loaded anew, and what was written stays: in the field that is given,
-    /// or in a new one (0).
-    void resume(const cNIP& nip, FieldPlace place);
+    /// After the structure was loaded anew: shows the group and the field as they are now, and what was
+    /// written stays. False, with nothing done, when nothing is edited or it is there no more.
+    bool resume(const cNIP& nip);
     void beginNew();
     void edit(std::int16_t field);
     /// Nothing is edited any more.
@@ -73,6 +73,7 @@ class CustomizePane : public QFrame {
     const cNIP* mNip = nullptr;
     std::int16_t mGroup = 0;
     std::int16_t mField = 0;
+    HeldField mHeld;
     bool mHoldsNew = false;
     QLabel* mHeading;
     FieldGrid* mGrid;

@@ -40,7 +40,7 @@ void ucNIPPanel::Members::customize() {
     alone([&] {
         return routine("Error in ucNipPanel.CustomizeNip: ", false, [&] {
             if (!mayLeaveField()) return false;
-            if (nip) ensureStructure();
+            if (nip) freshStructure();
             enterCustomizing();
             form->customizePane().focusList();
             return true;
@@ -109,8 +109,12 @@ std::int16_t ucNIPPanel::Members::selectedGroup() const {
 }
 
 void ucNIPPanel::Members::showGroup() {
-    CustomizePane& pane = form->customizePane();
-    pane.showGroup(nip.get(), selectedGroup());
+    form->customizePane().showGroup(nip.get(), selectedGroup());
+    showTools();
+}
+
+void ucNIPPanel::Members::showTools() {
+    const CustomizePane& pane = form->customizePane();
     form->customizeBar().showGroup(pane.groupTitle(), pane.group() > 0 ? nip->FieldCount(pane.group()) : 0);
 }
 

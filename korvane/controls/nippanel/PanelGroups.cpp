@@ -39,7 +39,7 @@ void ucNIPPanel::Members::newGroup() {
     if (panel.designMode()) return;
     alone([&] {
         return routine("Error in ucNipPanel.NewNipGroup: ", false, [&] {
-            if (!nip || !mayLeaveField()) return false;
+            if (!nip || !mayLeaveField() || !freshStructure()) return false;
             const std::optional<std::string> name = askGroupName();
             return name && createGroup(*name);
         });
@@ -50,21 +50,20 @@ bool ucNIPPanel::Members::createGroup(const std::string& name) {
     const Hourglass hourglass;
     const PaintLock lock(panel);
     const bool created = nip->CreateGroup(name);
-    const std::string reason = created ? "" : whyFailed();
-    renewStructure(!created);
-    if (created)
-        for (const std::int16_t group : CountedFrom1(nip->GroupCount()))
-            if (nip->GroupName(group) == name) form->tabs().setCurrentIndex(group - 1);
+    if (!created)
+        tell("System error: Unable to create this Nip group" + whyFailed(), MsgBoxStyle::Exclamation);
+    if (!renewStructure() || !created) return false;
+    for (const std::int16_t group : CountedFrom1(nip->GroupCount()))
+        if (nip->GroupName(group) == name) form->tabs().setCurrentIndex(group - 1);
     showGroup();
-    if (!created) tell("System error: Unable to create this Nip group" + reason, MsgBoxStyle::Exclamation);
-    return created;
+    return true;
 }
 
 void ucNIPPanel::Members::deleteGroup() {
     if (panel.designMode()) return;
     alone([&] {
         return routine("Error in ucNipPanel.DeleteNipGroup: ", false, [&] {
-            if (!nip || selectedGroup() < 1 || !mayLeaveField()) return false;
+            if (!nip || !mayLeaveField() || !freshStructure() || selectedGroup() < 1) return false;
             const QPointer<ucNIPPanel> alive(&panel);
             const Answer answer = Interaction::current().MsgBox(
                 "Deleting a Nip Group will also delete all fields in the group.\nThis is a destructive "
@@ -76,12 +75,10 @@ void ucNIPPanel::Members::deleteGroup() {
             const Hourglass hourglass;
             const PaintLock lock(panel);
             const bool deleted = nip->DeleteGroup(selectedGroup());
-            const std::string reason = deleted ? "" : whyFailed();
-            renewStructure(!deleted);
-            showGroup();
             if (!deleted)
-                tell("System error: Unable to remove this nip group." + reason, MsgBoxStyle::Exclamation);
-            return deleted;
+                tell("System error: Unable to remove this nip group." + whyFailed(),
+                     MsgBoxStyle::Exclamation);
+            return renewStructure() && deleted;
         });
     });
 }

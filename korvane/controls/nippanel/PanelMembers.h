@@ -78,8 +78,6 @@ struct ucNIPPanel::Members {
     bool numbersGroups = false;
 
   private:
-    struct InHand;
-
     /// Runs one of the panel's tasks, which no other may interrupt: those that the host calls for meanwhile,
     /// in a timer while a box is open, are refused. What the task has to say is said at its end; then
     /// `raise` is called if the task succeeded, and may call for others. False when it did not, or when the
@@ -107,6 +105,7 @@ struct ucNIPPanel::Members {
     void clickCustomize(int button);
     std::int16_t selectedGroup() const;
     void showGroup();
+    void showTools();
     void markField();
     void chooseTab();
     bool chooseField(int field);
@@ -116,8 +115,10 @@ struct ucNIPPanel::Members {
     static bool asksToLeave(const CustomizePane& pane);
 
     std::string whyFailed() const;
-    bool renewStructure(bool tellsLost);
-    void resume(const InHand& before);
+    bool reloadStructure(std::string& lost);
+    bool renewStructure();
+    bool freshStructure();
+    void followStructure();
     bool refuse(FieldDraft::Input input, std::string_view message, std::string_view title);
     void saveField();
     bool storeField(const FieldDefinition& definition);

@@ -7,7 +7,6 @@
 #include <korvane/controls/nippanel/NipTabs.h>
 #include <korvane/controls/nippanel/PanelForm.h>
 #include <korvane/controls/nippanel/Routine.h>
-#include <korvane/data/ErrLog.h>
 #include <korvane/runtime/Interaction.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Variant.h>
@@ -19,21 +18,6 @@ namespace {
 /// Overflow above 32767.
 qint16 eventID(const Encounter& encounter) {
     return Variant(encounter.EncounterID()).toInt16();
-}
-
-/// What was entered into fields that are gone: in full in the error log, since a box holds only so much.
-std::string listOf(const std::vector<LostEntry>& lost) {
-    if (lost.empty()) return {};
-    constexpr std::size_t shown = 500;
-    std::string list = "\r\n\r\nThese entries have no field any more (they are kept in the error log):";
-    for (const LostEntry& entry : lost) {
-        const std::string name = "[" + entry.groupName + "] " + entry.caption + ": ";
-        ErrLog("ucNipPanel: the field is gone into which was entered: " + name + entry.text);
-        const QString text = qt(entry.text);
-        list += "\r\n" + name +
-                utf8(static_cast<std::size_t>(text.size()) > shown ? text.left(shown) + QChar(0x2026) : text);
-    }
-    return list;
 }
 
 } // namespace
@@ -86,6 +70,7 @@ bool ucNIPPanel::Members::leadTo(void (EncounterPane::*focus)(), std::string_vie
 }
 
 bool ucNIPPanel::Members::storeAll() {
+    if (!freshStructure()) return false;
     mEncounter->Settle();
     const Encounter before = *mEncounter;
     form->encounterPane().copyInto(*mEncounter);
@@ -107,6 +92,7 @@ bool ucNIPPanel::Members::storeAll() {
 
 /// The encounter pane is not saved here: what was edited there stays unsaved.
 bool ucNIPPanel::Members::storeValues() {
+    if (!freshStructure()) return false;
     const Outcome outcome = store("Error in ucNipPanel.SaveNipInfo: ", [&] { return claim(); });
     if (outcome == Outcome::Customized) takeOnStructure();
     if (outcome != Outcome::Stored) return false;
@@ -186,16 +172,15 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::claim() const {
 void ucNIPPanel::Members::takeOnStructure() {
     const Hourglass hourglass;
     const PaintLock lock(panel);
-    std::vector<LostEntry> lost;
-    if (!nip->ReloadStructure(lost))
+    std::string lost;
+    if (!reloadStructure(lost))
         return tell(
             "This Nip could not be saved, because another desk has customized the form, and the new form "
             "could not be read. Everything you entered is still here; please try again.",
             MsgBoxStyle::Exclamation);
-    buildControls();
     tell("This Nip is not saved yet, because another desk has customized the form. It is shown as it is now, "
          "with everything you entered; please look through it and save it again." +
-             listOf(lost),
+             lost,
          MsgBoxStyle::Exclamation);
 }
 

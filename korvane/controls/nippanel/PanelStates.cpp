@@ -33,6 +33,7 @@ void ucNIPPanel::Members::initialize(const std::shared_ptr<ado::Connection>& hos
         clear();
         nothingLeft = false;
         patientID.clear();
+        form->customizePane().showGroup(nullptr, 0);
         const auto previous = std::exchange(nip, std::make_unique<cNIP>()); // the controls still look at it
         nip->numbersGroups(numbersGroups);
         connection = host;
@@ -45,7 +46,7 @@ void ucNIPPanel::Members::initialize(const std::shared_ptr<ado::Connection>& hos
 
 void ucNIPPanel::Members::buildControls() {
     form->tabs().CreateNipControls(*nip);
-    if (mode == customizing) showGroup();
+    if (mode == customizing) followStructure();
 }
 
 /// A structure that could not be read at first is tried again whenever it is needed.
