@@ -28,6 +28,8 @@ void showKeys(QWidget& window) {
     rows += line(tr("Down"), tr("From the search box into the list of patients"));
     rows += line(tr("Enter"), tr("On a patient: to the encounters. On an encounter: opens its Nip"));
     rows += line(tr("Ctrl+Tab"), tr("In a Nip: to the next group"));
+    rows += line(tr("Ctrl+F6"), tr("While customizing: between the form and the list of fields"));
+    rows += line(tr("Enter"), tr("While customizing, on an entry of the form: chooses its field"));
     rows += line(tr("Alt and a letter"),
                  tr("Opens the menu, or goes to the control, with that letter underlined"));
     QMessageBox box(QMessageBox::NoIcon, tr("Keyboard"), QStringLiteral("<table>%1</table>").arg(rows),

@@ -8,7 +8,7 @@ namespace Korvane {
 ButtonRow::ButtonRow(QWidget* parent) : QWidget(parent) {
     const QString captions[] = {"Save", "Cancel", "Customize"};
     const QString tips[] = {"Save and close (Ctrl+S)", "Close without saving (Esc)",
-                            "Show the structure of the Nip"};
+                            "Change the groups and fields of the Nip"};
     for (int i : {Save, Cancel, Customize}) {
         mButtons[i] = new QPushButton(captions[i], this);
         mButtons[i]->setObjectName(QString("cmdNipButton(%1)").arg(i));

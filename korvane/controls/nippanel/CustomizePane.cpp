@@ -185,12 +185,20 @@ QString CustomizePane::heading() const {
     return QString("Editing field [%1] of group %2").arg(qt(mNip->fieldName(mGroup, mField)), groupTitle());
 }
 
+/// By the button or tool that is at hand.
+QString CustomizePane::whatIsDestroyed() const {
+    if (mField > 0)
+        return QString("Delete Field destroys [%1] with all that any encounter has in it.")
+            .arg(qt(mNip->fieldName(mGroup, mField)));
+    if (mGroup < 1 || mHoldsNew) return {};
+    return QString("Delete Nip Group destroys %1 with its %2 fields and all that any encounter has in them.")
+        .arg(groupTitle())
+        .arg(mNip->FieldCount(mGroup));
+}
+
 void CustomizePane::describe() {
     mHeading->setText(heading());
-    const QString destroys =
-        mField < 1 ? QString()
-                   : QString("Delete Field destroys [%1] with all that any encounter has in it.")
-                         .arg(qt(mNip->fieldName(mGroup, mField)));
+    const QString destroys = whatIsDestroyed();
     mWarning->setText(destroys);
     mWarning->setVisible(!destroys.isEmpty());
     mButtons[DeleteField]->setAccessibleDescription(destroys);

@@ -69,6 +69,7 @@ class CustomizePane : public QFrame {
     void describe();
     void offer();
     QString heading() const;
+    QString whatIsDestroyed() const;
 
     const cNIP* mNip = nullptr;
     std::int16_t mGroup = 0;

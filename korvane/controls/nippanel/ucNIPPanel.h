@@ -63,7 +63,10 @@ class ucNIPPanel : public UserControl {
     /// structure cannot be read, the next create or load tries again.
     void Initialize(const std::shared_ptr<ado::Connection>& connection);
 
-    /// Switches into customization mode.
+    /// Switches into customization mode: groups and fields are made, changed and deleted beside the form,
+    /// whose entries then stand for their fields; what was entered into an open Nip stays. Asks before a
+    /// field that is being written is left, and does nothing when the user wants to stay; so do the calls
+    /// that open or close a Nip, which leave the mode unless the panel serves only to customize.
     void CustomizeNip();
 
     /// Hands the identifier of an encounter just inserted to the model. Called by the encounter's own event.
