@@ -121,6 +121,34 @@ TEST(Customizing, ChoosesFieldsByKeysInTheListAndInTheForm) {
     EXPECT_THAT(desk.heard, IsEmpty()) << "back to the Nip, which stays open";
 }
 
+TEST(Customizing, TabGoesThroughThePaneInTheOrderInWhichItIsRead) {
+    CustomizingDesk desk;
+    desk.chooseListed(0);
+    desk.type(desk.caption(), "Rate");
+    std::vector<std::string> order;
+    for (QWidget* w = &desk.list(); w != &desk.part<QWidget>("cmdNipButton(0)"); w = w->nextInFocusChain())
+        if (w->focusPolicy() & Qt::TabFocus && w->isVisible() && w->isEnabled() &&
+            !w->objectName().startsWith("qt_"))
+            order.push_back(utf8(w->objectName()));
+    EXPECT_THAT(order, ElementsAre("gridNipFields", "txtCustNip(0)", "txtCustNip(1)", "cboCustNip(0)",
+                                   "txtCustNip(2)", "cboCustNip(1)", "txtCustNip(3)", "lstNipChoices",
+                                   "cmdNipChoices(0)", "cmdNipCustomizeButton(0)", "cmdNipCustomizeButton(1)",
+                                   "cmdNipCustomizeButton(2)", "cmdNipCustomizeButton(3)"));
+}
+
+TEST(Customizing, WhatIsWrongIsInViewWithTheFocus) {
+    CustomizingDesk desk;
+    desk.panel.resize(700, 350);
+    desk.newField();
+    desk.type(desk.name(), "Temp");
+    desk.type(desk.row(), "0");
+    desk.name().setFocus();
+    QTest::keyClick(&desk.name(), Qt::Key_Return);
+    EXPECT_THAT(desk.lastBox().text, StartsWith("The row position must be"));
+    EXPECT_TRUE(desk.row().hasFocus());
+    EXPECT_EQ(desk.row().visibleRegion().boundingRect(), desk.row().rect());
+}
+
 TEST(Customizing, AsksBeforeAFieldIsLeft) {
     for (const WayOut& way : waysOut) {
         for (const bool isNew : {true, false}) {

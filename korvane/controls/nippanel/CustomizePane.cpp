@@ -7,6 +7,7 @@
 #include <korvane/controls/nippanel/FieldGrid.h>
 #include <korvane/nip/cNIP.h>
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -43,6 +44,7 @@ class PaneScroll : public QScrollArea {
         setFrameShape(QFrame::NoFrame);
         setFocusPolicy(Qt::NoFocus);
         viewport()->setAutoFillBackground(false);
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { reveal(now); });
     }
 
     QSize minimumSizeHint() const override {
@@ -52,6 +54,13 @@ class PaneScroll : public QScrollArea {
     }
 
   private:
+    /// What is under the mouse must not move away between press and release.
+    void reveal(QWidget* focus) {
+        if (focus && widget() && widget()->isAncestorOf(focus) &&
+            QGuiApplication::mouseButtons() == Qt::NoButton)
+            ensureWidgetVisible(focus, 0);
+    }
+
     int verticalScrollBarWidth() const { return style()->pixelMetric(QStyle::PM_ScrollBarExtent); }
 };
 
@@ -147,7 +156,9 @@ void CustomizePane::edit(std::int16_t field) {
 }
 
 void CustomizePane::reset() {
-    take(false, 0, {});
+    FieldDraft nothing;
+    nothing.width.clear();
+    take(false, 0, nothing);
 }
 
 void CustomizePane::take(bool isNew, std::int16_t field, const FieldDraft& draft) {

@@ -5,6 +5,7 @@
 #include <korvane/controls/nippanel/FieldName.h>
 #include <korvane/controls/nippanel/PageCombo.h>
 
+#include <QAbstractItemView>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -60,7 +61,6 @@ FieldForm::FieldForm(QWidget* parent) : QWidget(parent) {
     mRule->addItem("Cascade Item", 1);
     mRule->addItem("Do not Cascade", 0);
     mRule->setToolTip("Cascading means that values from one Exam will be carried over to the next exam");
-    mRow->setPlaceholderText("as it is");
     mChoices = new ChoiceEditor(this);
     grid->addWidget(mChoices, FieldDraft::Choices, 0, 1, 2);
     mMarks[FieldDraft::Choices] = new QLabel(this);
@@ -113,6 +113,7 @@ void FieldForm::fill(const FieldDraft& field, bool isNew) {
     setText(*mWidth, field.width);
     choose(*mRule, field.rule);
     setText(*mRow, field.row);
+    mRow->setPlaceholderText(isNew ? "the last" : "as it is");
     const QSignalBlocker quiet(mChoices);
     mChoices->show(field.choices, field.selected);
     compareWith(field);
@@ -146,7 +147,8 @@ QWidget* FieldForm::input(FieldDraft::Input input) const {
 }
 
 void FieldForm::focus(FieldDraft::Input which) {
-    input(which)->setFocus(Qt::OtherFocusReason);
+    QWidget* target = which == FieldDraft::Choices ? mChoices->findChild<QAbstractItemView*>() : input(which);
+    target->setFocus(Qt::OtherFocusReason);
     if (auto* box = qobject_cast<QLineEdit*>(input(which))) box->selectAll();
 }
 

@@ -11,7 +11,9 @@
 #include <korvane/controls/nippanel/Routine.h>
 #include <korvane/runtime/Interaction.h>
 
+#include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPointer>
 
 namespace Korvane {
@@ -197,13 +199,21 @@ bool ucNIPPanel::Members::asksToLeave(const CustomizePane& pane) {
                                          "Discard Customization Confirmation") == Answer::Ok;
 }
 
+/// In one of the pane's boxes Enter stores the field, and never presses what a dialog around the panel takes
+/// for its default button.
+bool ucNIPPanel::Members::isEnterInPane(const QKeyEvent& key) const {
+    const QWidget* focus = QApplication::focusWidget();
+    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) &&
+           qobject_cast<const QLineEdit*>(focus) && form->customizePane().isAncestorOf(focus);
+}
+
 /// What the keys of the panel mean while it is customized: storing and leaving the field comes before storing
 /// and leaving the Nip.
 bool ucNIPPanel::Members::pressedWhileCustomizing(const QKeyEvent& key) {
     if (mode != customizing) return false;
     const CustomizePane& pane = form->customizePane();
     const bool holds = pane.holdsNew() || pane.field() > 0;
-    const bool save = key.matches(QKeySequence::Save);
+    const bool save = key.matches(QKeySequence::Save) || isEnterInPane(key);
     const bool cancel = key.matches(QKeySequence::Cancel);
     if (key.key() == Qt::Key_F6 && !(key.modifiers() & (Qt::AltModifier | Qt::MetaModifier))) {
         if (form->focusIsInEntries())

@@ -112,6 +112,7 @@ struct ucNIPPanel::Members {
     void newField();
     void cancelField();
     bool mayLeaveField();
+    bool isEnterInPane(const QKeyEvent& key) const;
     static bool asksToLeave(const CustomizePane& pane);
 
     std::string whyFailed() const;
