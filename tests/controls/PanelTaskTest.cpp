@@ -1,5 +1,6 @@
 #include "support/PanelDesk.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QPointer>
 
@@ -30,12 +31,17 @@ struct DoomedPanel {
     DoomedPanel() {
         panel->Initialize(desk.db);
         panel->LoadNipInfo(7, "P1");
+        panel->resize(900, 500);
         panel->show();
         PanelDesk::type(*panel->findChild<QLineEdit*>("txtEncounterInfo"), "Edited");
         QCoreApplication::processEvents(); // the change has been told
     }
     ~DoomedPanel() { delete panel; }
-    void save() { QTest::mouseClick(panel->findChild<QAbstractButton*>("cmdNipButton(0)"), Qt::LeftButton); }
+    void click(const char* button) {
+        QCoreApplication::processEvents(); // what was just shown has its place then
+        QTest::mouseClick(panel->findChild<QAbstractButton*>(button), Qt::LeftButton);
+    }
+    void save() { click("cmdNipButton(0)"); }
 };
 
 } // namespace
@@ -153,6 +159,21 @@ TEST(PanelTask, ThePanelMayBeDeletedWhileItsBoxesAreOpen) {
         [](DoomedPanel& d) {
             d.desk.db->failOn = "DBFieldGroups";
             d.panel->Initialize(d.desk.db);
+        },
+        [](DoomedPanel& d) {
+            d.panel->CustomizeNip();
+            d.panel->findChild<QAction*>("ID_DeleteNipGroup")->trigger();
+        },
+        [](DoomedPanel& d) {
+            d.panel->CustomizeNip();
+            d.click("cmdNipCustomizeButton(0)");
+            d.click("cmdNipCustomizeButton(2)");
+        },
+        [](DoomedPanel& d) {
+            d.panel->CustomizeNip();
+            d.click("cmdNipCustomizeButton(0)");
+            PanelDesk::type(*d.panel->findChild<QLineEdit*>("txtCustNip(0)"), "Pulse");
+            d.click("cmdNipCustomizeButton(3)");
         },
     };
     for (const auto& ask : asking) {

@@ -18,7 +18,7 @@ namespace Korvane {
 /// Nothing when the user gives none, or one that the table does not take.
 std::optional<std::string> ucNIPPanel::Members::askGroupName() {
     const QPointer<ucNIPPanel> alive(&panel);
-    const std::optional<std::string> name = Interaction::current().InputBox(
+    std::optional<std::string> name = Interaction::current().InputBox(
         "What is the name of the group you would like to create", "New group name");
     if (!alive || !name) return std::nullopt;
     if (trim(*name).empty()) {
