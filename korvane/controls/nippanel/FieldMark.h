@@ -2,8 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
-
-class QWidget;
+#include <QWidget>
 
 namespace Korvane {
 
