@@ -16,11 +16,15 @@ namespace Korvane {
 namespace {
 
 constexpr std::string_view commentSuffix = "_Comments";
+constexpr std::size_t longestName = 63; // of a server's column
 
 /// Refuses a name that the field cannot have beside the others of its group.
 void requireFreeName(const GroupRecord& group, const FieldRecord& field, const std::string& name) {
     if (trim(name).empty()) throw RuntimeError(RuntimeError::InvalidArgument, "A field needs a name");
     sqlName(name);
+    if (name.size() > longestName)
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           "The name " + name + " is longer than " + std::to_string(longestName) + " bytes");
     if (sameName(name, "EncounterID"))
         throw RuntimeError(RuntimeError::DuplicateKey, "The name " + name + " is that of the group's key");
     for (std::int16_t i = 1; i <= group.fieldCount; ++i) {
@@ -33,6 +37,10 @@ void requireFreeName(const GroupRecord& group, const FieldRecord& field, const s
 
 /// Takes over all but name and place.
 void define(FieldRecord& field, const FieldDefinition& definition) {
+    if (definition.maxLength < 1 && definition.maxLength != field.maxLength)
+        throw RuntimeError(RuntimeError::InvalidArgument, "A field of " +
+                                                              std::to_string(definition.maxLength) +
+                                                              " characters holds nothing");
     if (definition.values.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
         throw RuntimeError(RuntimeError::Overflow, "More than 32767 values of a field");
     field.caption = definition.caption;
@@ -73,6 +81,7 @@ bool cNIP::CreateField(std::int16_t groupIndex, const FieldDefinition& definitio
         field.groupName = group.groupName;
         field.groupID = Variant(group.groupID).toInt32();
         field.dataType = "dbText";
+        field.maxLength = -1; // none that may stay
         field.choiceList = emptyList();
         field.ordinal = ordinalBehindAll(group);
         define(field, definition);

@@ -5,6 +5,7 @@
 #include <korvane/nip/DataTable.h>
 #include <korvane/nip/GroupTableName.h>
 #include <korvane/nip/Query.h>
+#include <korvane/runtime/Text.h>
 
 namespace Korvane {
 
@@ -12,6 +13,10 @@ bool cNIP::CreateGroup(std::string_view name) {
     GroupRecord group;
     group.groupName = name;
     group.fields.emplace_back();
+    if (trim(name).empty())
+        return attempt("Error in cNip.CreateGroup:", []() -> bool {
+            throw RuntimeError(RuntimeError::InvalidArgument, "A group needs a name");
+        });
     const bool created = changeSchema("Error in cNip.CreateGroup:", [&] {
         catalog();
         countedUp(GroupCount(), "groups");

@@ -30,14 +30,13 @@ bool cNIP::changeSchema(std::string_view prefix, const std::function<bool()>& ch
         return withCurrentSchema([&] {
             const HeldMessages messages;
             ado::Transaction work(*mConnection, ado::TransactionFor::ChangingSchema);
-            requireCurrentSchema();
+            requireCurrentRevision();
             if (!change()) return false;
             execute(nextRevisionStatement);
             std::string revision = readCell(revisionStatement);
-            std::string mark = readCell(mConnection->schemaMarkStatement());
             work.commit();
             mRevision = std::move(revision);
-            mSchemaMark = std::move(mark);
+            mSchemaMark.clear(); // whoever needs it before the structure is loaded anew looks at that again
             return true;
         });
     });

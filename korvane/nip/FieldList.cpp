@@ -29,6 +29,7 @@ FieldList GetFieldList(const GroupRecord& group) {
     std::int16_t column = 0;
     for (std::size_t i = 1; i < list.columnOf.size(); ++i) {
         const std::string& fieldName = group.fields[i].fieldName;
+        if (group.fields[i].pending) continue;
         if (trim(fieldName).empty()) {
             ErrLog("cNip.GetFieldList-Trying to add a blank field to a select list");
             continue;

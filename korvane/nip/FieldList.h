@@ -23,9 +23,9 @@ struct FieldList {
     bool hasEncounterDate = false;
 };
 
-/// A field whose name is blank has no column; it is left out, with a line in the error log. Raises
-/// InvalidArgument for a field or table whose name no statement can hold, and for two fields whose names
-/// differ in case only: they would share one column.
+/// A field that is not saved yet has no column. Neither has one whose name is blank; it is left out, with a
+/// line in the error log. Raises InvalidArgument for a field or table whose name no statement can hold, and
+/// for two fields whose names differ in case only: they would share one column.
 FieldList GetFieldList(const GroupRecord& group);
 
 /// Makes `joinedColumns`: a name that is also one of these columns of `Encounter` is qualified.

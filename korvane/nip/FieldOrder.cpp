@@ -4,7 +4,6 @@
 #include <cmath>
 #include <limits>
 #include <map>
-#include <tuple>
 
 namespace Korvane {
 
@@ -17,16 +16,12 @@ const FieldRecord& fieldOf(const GroupRecord& group, std::int16_t field) {
     return group.fields[static_cast<std::size_t>(field)];
 }
 
-/// In the order in which the structure will be loaded.
+/// In the order in which they stand; those that were moved since the structure was loaded have moved.
 std::vector<Row> rowsOf(const GroupRecord& group) {
     Row fields;
     for (std::int16_t field = 1; field <= group.fieldCount; ++field)
         fields.push_back(field);
-    std::ranges::stable_sort(fields, [&](std::int16_t a, std::int16_t b) {
-        const FieldRecord& left = fieldOf(group, a);
-        const FieldRecord& right = fieldOf(group, b);
-        return std::tie(left.ordinal, left.fieldName) < std::tie(right.ordinal, right.fieldName);
-    });
+    std::ranges::stable_sort(fields, {}, [&](std::int16_t field) { return fieldOf(group, field).ordinal; });
     std::vector<Row> rows;
     std::map<std::int16_t, std::size_t> placeOf; // by row index
     for (const std::int16_t field : fields) {
@@ -49,6 +44,21 @@ std::vector<float> between(float from, float to, std::size_t count) {
         ordinals.push_back(last = ordinal);
     }
     return ordinals;
+}
+
+/// Whether the other rows have ordinals that put them into this order whatever else an engine goes by: equal
+/// ones do not, nor does 0, which a Null is read as.
+bool risesWithout(const std::vector<Row>& rows, std::vector<Row>::const_iterator moved,
+                  const GroupRecord& group) {
+    float last = 0;
+    for (auto row = rows.begin(); row != rows.end(); ++row) {
+        if (row == moved) continue;
+        for (const std::int16_t field : *row) {
+            if (!(fieldOf(group, field).ordinal > last)) return false;
+            last = fieldOf(group, field).ordinal;
+        }
+    }
+    return true;
 }
 
 OrdinalChanges numbered(const std::vector<Row>& rows) {
@@ -74,12 +84,11 @@ OrdinalChanges moveToRow(const GroupRecord& group, std::int16_t field, std::int1
         std::rotate(to, from, from + 1);
 
     const auto ordinal = [&](std::int16_t of) { return fieldOf(group, of).ordinal; };
-    const bool isLast = to + 1 == rows.end();
     const auto count = static_cast<float>(to->size());
-    const float next = isLast ? ordinal((to - 1)->back()) + count + 1 : ordinal((to + 1)->front());
-    const float before = to == rows.begin() ? next - count - 1 : ordinal((to - 1)->back());
+    const float before = to == rows.begin() ? 0 : ordinal((to - 1)->back());
+    const float next = to + 1 == rows.end() ? before + count + 1 : ordinal((to + 1)->front());
     const std::vector<float> ordinals = between(before, next, to->size());
-    if (ordinals.empty()) return numbered(rows);
+    if (ordinals.empty() || !risesWithout(rows, to, group)) return numbered(rows);
     OrdinalChanges changes;
     for (std::size_t i = 0; i < ordinals.size(); ++i)
         changes.emplace_back((*to)[i], ordinals[i]);

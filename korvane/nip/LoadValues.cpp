@@ -63,7 +63,10 @@ bool cNIP::Load(std::int32_t encounterID, std::string_view patientID, bool newEn
             return true;
         });
     });
-    if (!mHoldsValues) forgetValues();
+    if (!mHoldsValues) {
+        noteChangedStructure();
+        forgetValues();
+    }
     return mHoldsValues;
 }
 
@@ -136,6 +139,8 @@ void cNIP::loadValues() {
     current.CloseRS();
     latest.CloseRS();
     snapshot.end();
+    // Names are looked up as of the statement, not of the snapshot: somebody may have renamed in between.
+    requireCurrentRevision();
 }
 
 void cNIP::fillGroup(GroupRecord& group, SQLData& current, SQLData& latest) {

@@ -13,6 +13,12 @@ namespace Korvane {
 
 namespace {
 
+/// Those of the name in any case: that is how they are found.
+std::string deleteTwins(const std::string& fieldName, std::int32_t groupID) {
+    return "Delete From DBFieldValues Where Upper(fieldName)=Upper('" + escapeQuotes(fieldName) +
+           "') and DBFieldGroupID=" + std::to_string(groupID);
+}
+
 std::string deleteValues(const std::string& fieldName, std::int32_t groupID) {
     return "Delete From DBFieldValues Where fieldName='" + escapeQuotes(fieldName) +
            "' and DBFieldGroupID=" + std::to_string(groupID);
@@ -28,7 +34,7 @@ void settle(GroupRecord& group) {
     group.hasChanges = false;
     for (FieldRecord& field : group.fields) {
         if (!field.pending && !field.changed) continue;
-        if (!field.newFieldName.empty()) group.fieldList.reset();
+        if (field.pending || !field.newFieldName.empty()) group.fieldList.reset();
         field.fieldName = savedName(field);
         field.newFieldName.clear();
         field.storedLength = field.maxLength;
@@ -40,6 +46,8 @@ void settle(GroupRecord& group) {
 } // namespace
 
 bool cNIP::SaveStructure() {
+    const auto hasChanges = [](const GroupRecord& group) { return group.hasChanges; };
+    if (mStructureLoaded && std::ranges::none_of(mGroups, hasChanges)) return true;
     const bool saved = changeSchema("Error in cNip.SaveStructure: ", [&] {
         const SchemaFacts schema{[&](const std::string& table) { return catalog().Tables().Exists(table); },
                                  [&](const std::string& table, const std::string& column) {
@@ -128,8 +136,9 @@ void cNIP::updateField(const GroupRecord& group, const FieldRecord& field) {
 
 /// A renamed field takes its values along; what is left over under its new name is none of its own.
 void cNIP::writeAllowedValues(const FieldRecord& field) {
-    std::vector<std::string> statements{deleteValues(field.fieldName, field.groupID)};
-    if (!field.newFieldName.empty()) statements.push_back(deleteValues(field.newFieldName, field.groupID));
+    std::vector<std::string> statements{deleteValues(field.fieldName, field.groupID),
+                                        deleteTwins(field.fieldName, field.groupID)};
+    if (!field.newFieldName.empty()) statements.push_back(deleteTwins(field.newFieldName, field.groupID));
     const std::string byDefault = field.defaultValue.textOrEmpty();
     SQLData lists;
     for (std::int16_t position = 1; position <= field.valueListCount; ++position) {

@@ -66,7 +66,7 @@ std::string insertStatement(SQLData& lists, const GroupRecord& group, std::int32
 } // namespace
 
 bool cNIP::Save() {
-    return attempt("Error in cNip.Save: ", [&] {
+    const bool saved = attempt("Error in cNip.Save: ", [&] {
         if (!mStructureLoaded)
             throw RuntimeError(RuntimeError::InvalidProcedureCall, "The structure is not loaded");
         if (mEncounterID == -1)
@@ -79,6 +79,8 @@ bool cNIP::Save() {
             return true;
         });
     });
+    if (!saved) noteChangedStructure();
+    return saved;
 }
 
 /// Raises when the row under the encounter's identifier is not this patient's, or when there are two. None at

@@ -74,7 +74,7 @@ const std::string& cNIP::fieldName(std::int16_t group, std::int16_t field) const
 void cNIP::fieldName(std::int16_t group, std::int16_t field, std::string_view name) {
     FieldRecord& record = at(group, field);
     if (record.fieldName == name) return;
-    record.newFieldName = name;
+    (record.pending ? record.fieldName : record.newFieldName) = name;
     record.changed = true;
     mGroups[static_cast<std::size_t>(group)].hasChanges = true;
 }

@@ -112,8 +112,8 @@ class cNIP {
     /// loaded up to it stays. More than 32767 groups, fields of a group or rows are such a failure.
     bool LoadStructure(const std::shared_ptr<ado::Connection>& connection);
 
-    /// Whether the latest operation failed because somebody has added, renamed or removed groups or fields
-    /// since the structure was loaded. `Load`, `Save` and the operations of customizing then do nothing but
+    /// Whether the latest operation failed because somebody has customized the Nip since the structure was
+    /// loaded. `Load`, `Save` and the operations of customizing then do nothing but
     /// return false, until the structure is loaded anew.
     bool StructureChanged() const { return mStructureChanged; }
 
@@ -148,6 +148,7 @@ class cNIP {
     /// Adds a group with a table of its own, as the last one. Its table is named after the greatest name
     /// there is, by the rule of `tableNameAfter`, which knows no more than two names; with `numbersGroups` it
     /// takes the number after the greatest in use.
+    /// A blank name is refused.
     bool CreateGroup(std::string_view name);
     bool numbersGroups() const { return mNumbersGroups; }
     void numbersGroups(bool on) { mNumbersGroups = on; }
@@ -199,8 +200,9 @@ class cNIP {
 
     cNIP& operator=(cNIP&& other) noexcept;
     bool withCurrentSchema(const std::function<bool()>& body);
-    static void carryEntries(const GroupRecord& old, std::vector<GroupRecord>& groups,
-                             std::vector<LostEntry>& lost);
+    bool isAsStored();
+    void noteChangedStructure();
+    void carryEntries(cNIP& fresh, std::vector<LostEntry>& lost) const;
     bool attempt(std::string_view prefix, const std::function<bool()>& body);
     bool changeSchema(std::string_view prefix, const std::function<bool()>& change);
     std::string readCell(const std::string& statement);

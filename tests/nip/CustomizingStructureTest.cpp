@@ -154,7 +154,8 @@ TEST_F(CustomizingStructure, PutsACommentBesideItsField) {
 
 TEST_F(CustomizingStructure, RefusesNamesThatAGroupCannotHold) {
     const auto before = std::pair(stored(), modelled());
-    for (const char* name : {"Pulse", "pulse", "ENCOUNTERID", "", "  ", "a]b"}) {
+    const std::string tooLong(64, 'n');
+    for (const char* name : {"Pulse", "pulse", "ENCOUNTERID", "", "  ", "a]b", tooLong.c_str()}) {
         EXPECT_FALSE(nip.CreateField(1, {.fieldName = name, .maxLength = 5})) << name;
         EXPECT_FALSE(nip.EditField(1, 2, {.fieldName = name, .maxLength = 5})) << name;
     }
@@ -165,12 +166,15 @@ TEST_F(CustomizingStructure, RefusesNamesThatAGroupCannotHold) {
     EXPECT_FALSE(nip.EditField(1, 9, temperature));
     EXPECT_FALSE(nip.DeleteField(1, 0));
     EXPECT_FALSE(nip.DeleteGroup(0));
+    EXPECT_FALSE(nip.CreateGroup(" "));
+    EXPECT_FALSE(nip.CreateField(1, {.fieldName = "Short", .maxLength = 0}));
+    EXPECT_FALSE(nip.EditField(1, 1, {.fieldName = "Pulse", .maxLength = -1}));
     EXPECT_TRUE(nip.SaveStructure());
     EXPECT_EQ(std::pair(stored(), modelled()), before);
 }
 
 TEST_F(CustomizingStructure, RenamesAFieldWithItsDataItsValuesAndWhatItCarriesForward) {
-    for (const char* name : {"Humour", "humour", "Order", "Sp\"ecial"}) {
+    for (const char* name : {"Humour", "humour", "Order", "Sp\"ecial", "Top"}) {
         ASSERT_TRUE(nip.EditField(1, 3,
                                   {.fieldName = name,
                                    .caption = "Mood",
@@ -192,6 +196,30 @@ TEST_F(CustomizingStructure, RenamesAFieldWithItsDataItsValuesAndWhatItCarriesFo
     EXPECT_EQ(nips.rows("Select Count(*) From DBFieldValues"), "2");
 }
 
+TEST_F(CustomizingStructure, ReplacesTheValuesOfAFieldWhateverTheCaseOfItsNameThere) {
+    nips.allowed(2, "MOOD", "Left over", 3);
+    reload();
+    ASSERT_EQ(nip.ValueListCount(1, 3), 3);
+    ASSERT_TRUE(nip.EditField(
+        1, 3, {.fieldName = "Mood", .maxLength = 50, .displayType = "LIST", .values = {"Good"}}));
+    ASSERT_TRUE(nip.SaveStructure());
+    reload();
+    EXPECT_EQ(nip.ValueListCount(1, 3), 1);
+}
+
+TEST_F(CustomizingStructure, LoadsAndSavesBesideAFieldThatIsNotSavedYet) {
+    ASSERT_TRUE(nip.CreateField(1, {.fieldName = "A", .maxLength = 5, .values = {"x"}}));
+    nip.fieldName(1, 4, "B");
+    ASSERT_TRUE(nip.Load(7, "P1", false)) << nips.errorLog();
+    nip.value(1, 1, "73");
+    ASSERT_TRUE(nip.Save()) << nips.errorLog();
+    ASSERT_TRUE(nip.SaveStructure()) << nips.errorLog();
+    reload();
+    EXPECT_EQ(nip.fieldName(1, 4), "B");
+    EXPECT_EQ(nip.ValueListCount(1, 4), 1);
+    EXPECT_EQ(nips.rows("Select Pulse,B From NIP_Custom1"), "73|NULL");
+}
+
 TEST_F(CustomizingStructure, WidensAColumnAndNeverNarrowsIt) {
     const auto edit = [&](std::int16_t length) {
         return nip.EditField(1, 1, {.fieldName = "Pulse", .caption = "Pulse", .maxLength = length}) &&
@@ -209,7 +237,8 @@ TEST_F(CustomizingStructure, WidensAColumnAndNeverNarrowsIt) {
 }
 
 TEST_F(CustomizingStructure, MovesAFieldToAnotherRow) {
-    ASSERT_TRUE(nip.EditField(1, 3, {.fieldName = "Mood", .displayType = "LIST", .rowIndex = 1}));
+    ASSERT_TRUE(
+        nip.EditField(1, 3, {.fieldName = "Mood", .maxLength = 50, .displayType = "LIST", .rowIndex = 1}));
     ASSERT_TRUE(nip.CreateField(1, {.fieldName = "New", .maxLength = 5, .rowIndex = 2}));
     ASSERT_TRUE(nip.SaveStructure()) << nips.errorLog();
     reload();
@@ -333,8 +362,7 @@ struct CustomizedElsewhere : CustomizingStructure {
     /// A Nip in which every field has been typed into.
     void enter() {
         ASSERT_TRUE(nip.Load(7, "P1", false));
-        for (const char* value : {"99"})
-            nip.value(1, 1, value);
+        nip.value(1, 1, "99");
         nip.value(1, 2, "81");
         ASSERT_TRUE(other.LoadStructure(nips.db));
     }
@@ -363,6 +391,43 @@ TEST_F(CustomizedElsewhere, IsNoticedBeforeAnythingIsWrittenAndKeepsTheEntries) 
     EXPECT_EQ(lost[0].caption + ": " + lost[0].text, "The Weight: 81");
     ASSERT_TRUE(nip.Save()) << nips.errorLog();
     EXPECT_EQ(nips.rows("Select HeartRate,Mood,Pulse From NIP_Custom1"), "99|Poor|");
+}
+
+// The new field takes over name, column and identifier of the one that was deleted.
+TEST_F(CustomizedElsewhere, PutsNothingIntoAFieldOfTheSameNameThatMeansSomethingElse) {
+    ASSERT_TRUE(nip.Load(7, "P1", false));
+    nip.value(2, 1, "hello");
+    ASSERT_TRUE(other.LoadStructure(nips.db));
+    ASSERT_TRUE(other.DeleteField(2, 1));
+    ASSERT_TRUE(other.LoadStructure(nips.db));
+    ASSERT_TRUE(other.CreateField(2, {.fieldName = "Text", .caption = "Allergies", .maxLength = 50}));
+    ASSERT_TRUE(other.SaveStructure());
+    EXPECT_FALSE(nip.Load(7, "P1", false));
+    EXPECT_TRUE(nip.StructureChanged());
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    ASSERT_TRUE(nip.Load(7, "P1", false));
+    nip.value(2, 1, "penicillin");
+    ASSERT_TRUE(other.LoadStructure(nips.db));
+    ASSERT_TRUE(other.EditField(2, 1, {.fieldName = "Text", .caption = "Diet", .maxLength = 50}));
+    ASSERT_TRUE(other.SaveStructure());
+    EXPECT_FALSE(nip.Save());
+    ASSERT_TRUE(nip.ReloadStructure(lost));
+    ASSERT_EQ(lost.size(), 1U);
+    EXPECT_EQ(lost[0].text, "penicillin");
+    EXPECT_EQ(nip.value(2, 1), Variant(""));
+}
+
+TEST_F(CustomizedElsewhere, IsNoticedAlsoWhereNobodyCounts) {
+    nips.db->quietly("Delete From DBFieldGroups Where DBFieldGroupID=1");
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    enter();
+    ASSERT_TRUE(other.CreateField(1, {.fieldName = "New", .maxLength = 50}));
+    ASSERT_TRUE(other.SaveStructure());
+    EXPECT_FALSE(nip.Save());
+    EXPECT_TRUE(nip.StructureChanged());
+    ASSERT_TRUE(nip.ReloadStructure(lost));
+    EXPECT_TRUE(nip.Save());
+    EXPECT_EQ(nips.rows("Select Pulse From NIP_Custom1"), "99");
 }
 
 TEST_F(CustomizedElsewhere, TakesOverWhatOthersHaveStoredMeanwhile) {

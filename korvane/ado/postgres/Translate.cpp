@@ -77,6 +77,7 @@ class Translator : public sql::Translator {
 
     void name(std::size_t at) {
         if (at > 0 && token(at - 1).isSymbol("::")) return; // a type
+        if (std::ranges::binary_search(mTop, at, {}, &sql::TopClause::first)) return;
         if (const sql::Source* source = mTableAt[at]) return write(at, tables().nameOf(source->name()));
         if (token(at + 1).isSymbol('.')) return write(at, qualifier(at));
         const auto ref = sql::refBefore(statement(), at + 1);
