@@ -203,7 +203,7 @@ TEST(NipTabs, ShowWhatIsNewOfAFieldInItsOldControl) {
     QPointer<QWidget> combo = form.control<QWidget>("cboNip(0)");
     QPointer<QWidget> list = form.control<QWidget>("gridNip(0)");
     const int height = form.control<QLabel>("lblNip(0)")->height();
-    form.db->quietly("Update DBFields Set MaxLength=4,FieldCaption='" + std::string(300, 'm') +
+    form.db->quietly("Update DBFields Set MaxLength=4,FieldCaption='" + std::string(200, 'm') +
                      " m' Where FieldName='F1'");
     form.db->quietly("Update DBFields Set DisplayType='LIST' Where FieldName='F2'");
     form.allowed(2, "F4", "B", 9);
