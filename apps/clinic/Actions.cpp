@@ -48,6 +48,10 @@ Actions::Actions(QMainWindow& window) {
     reload =
         action("actionReload", "&Reload",
                "Read patients and encounters again; reconnects to a database that was lost", {Qt::Key_F5});
+    showLists = action("actionShowLists", "Patients and &Encounters",
+                       "Show or hide the lists beside an open Nip", {Qt::Key_F9});
+    showLists->setCheckable(true);
+    showLists->setChecked(true);
     nextPane = action("actionNextPane", "Ne&xt Pane", "Go to the next part of the window", {Qt::Key_F6});
     previousPane = action("actionPreviousPane", "&Previous Pane", "Go to the part of the window before",
                           {Qt::SHIFT | Qt::Key_F6});
@@ -73,7 +77,7 @@ void Actions::fillMenus(QMainWindow& window) const {
     QMenu* view = window.menuBar()->addMenu(tr("&View"));
     view->addActions({largerText, smallerText, usualText});
     view->addSeparator();
-    view->addActions({nextPane, previousPane});
+    view->addActions({showLists, nextPane, previousPane});
     window.menuBar()->addMenu(tr("&Help"))->addActions({keys, about});
 }
 

@@ -18,6 +18,7 @@ struct Actions {
     QAction* quit;
     QAction* findPatient;
     QAction* reload;
+    QAction* showLists; ///< checked while they are in view
     QAction* nextPane;
     QAction* previousPane;
     QAction* largerText;

@@ -104,7 +104,11 @@ void MainWindow::connectActions() {
     connect(a.saveNip, &QAction::triggered, mDesk, &NipDesk::saveNip);
     connect(a.closeNip, &QAction::triggered, mDesk, &NipDesk::closeNip);
     connect(a.quit, &QAction::triggered, this, &QWidget::close);
-    connect(a.findPatient, &QAction::triggered, mPatients, &PatientPane::startSearch);
+    connect(a.findPatient, &QAction::triggered, this, [this] {
+        mActions->showLists->setChecked(true);
+        mPatients->startSearch();
+    });
+    connect(a.showLists, &QAction::toggled, this, &MainWindow::showLists);
     connect(a.reload, &QAction::triggered, this, &MainWindow::reload);
     connect(a.nextPane, &QAction::triggered, mPanes, &PaneCycle::next);
     connect(a.previousPane, &QAction::triggered, mPanes, &PaneCycle::previous);
@@ -168,8 +172,16 @@ void MainWindow::newNip() {
     if (mDesk->createNip()) mEncounters->choose(-1);
 }
 
+void MainWindow::showLists(bool on) {
+    const QWidget* focus = focusWidget();
+    const bool hidesFocus = !on && focus && mLists->isAncestorOf(focus);
+    mLists->setVisible(on);
+    if (hidesFocus) mDesk->takeFocus();
+}
+
 // The focus goes on to the encounters, unless the user is walking through the patients.
 void MainWindow::nipClosed() {
+    mActions->showLists->setChecked(true);
     mEncounters->setOpen(-1);
     if (!mChoosingPatient) readEncountersOfPatient();
     refresh();
@@ -182,6 +194,7 @@ void MainWindow::refresh() {
     mActions->openNip->setEnabled(mEncounters->chosen() >= 0);
     mActions->saveNip->setEnabled(open);
     mActions->closeNip->setEnabled(open);
+    mActions->showLists->setEnabled(open);
     const QString who = mDesk->hasPatient() ? mDesk->patient().name() + QStringLiteral(" - ") : QString();
     setWindowTitle(who + QStringLiteral("Korvane Clinic[*]"));
     setWindowModified(mDesk->isModified());

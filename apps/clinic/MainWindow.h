@@ -48,6 +48,7 @@ class MainWindow : public QMainWindow {
     void newNip();
     void readEncountersOfPatient();
     void nipClosed();
+    void showLists(bool on);
     void connectionIsBack();
     void refresh();
     void say(const QString& message);

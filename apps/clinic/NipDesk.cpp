@@ -137,8 +137,13 @@ QAbstractButton& NipDesk::saveButton() const {
     return *mPanel->findChild<QAbstractButton*>(QStringLiteral("cmdNipButton(0)"));
 }
 
+// A field that is being customized comes first: its pane names the same key.
 void NipDesk::saveNip() const {
-    if (isNipOpen()) saveButton().click();
+    if (!isNipOpen()) return;
+    const auto* leavesField = mPanel->findChild<QAbstractButton*>(QStringLiteral("cmdNipCustomizeButton(2)"));
+    const bool holdsField = leavesField->isVisible() && leavesField->isEnabled();
+    auto* storesField = mPanel->findChild<QAbstractButton*>(QStringLiteral("cmdNipCustomizeButton(3)"));
+    (holdsField ? *storesField : saveButton()).click();
 }
 
 bool NipDesk::closeNip() {

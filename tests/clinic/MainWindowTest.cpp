@@ -132,6 +132,23 @@ TEST_F(MainWindow, LetsTheKeyboardGoRoundThePanesAndComeBack) {
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtEncounterInfo");
 }
 
+TEST_F(MainWindow, HidesTheListsWhileANipIsOpenUntilTheyAreNeeded) {
+    const auto& encounters = part<QTableView>("encounters");
+    press(Qt::Key_F9);
+    EXPECT_TRUE(encounters.isVisible()) << "no Nip is open";
+    openNewest("P-0007");
+    part<QTableView>("encounters").setFocus();
+    press(Qt::Key_F9);
+    EXPECT_FALSE(encounters.isVisible());
+    EXPECT_TRUE(part<QWidget>("nipPanel").isAncestorOf(QApplication::focusWidget()));
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(encounters.isVisible());
+    press(Qt::Key_F9);
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(encounters.isVisible());
+    EXPECT_TRUE(encounters.hasFocus());
+}
+
 TEST_F(MainWindow, LetsTheKeyboardWalkThroughThePatientsWhileANipIsOpen) {
     openNewest("P-0007");
     part<QTableView>("patients").setFocus();

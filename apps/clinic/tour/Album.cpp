@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <utility>
+
 namespace Clinic {
 
 namespace {
@@ -38,16 +40,26 @@ Album::Album(QWidget& window, const QString& directory) : mWindow(window), mDire
 }
 
 void Album::add(const QString& title) {
-    // Until what fades in, such as the button in a search box, is there.
-    constexpr int fadeTime = 250;
-    QTest::qWait(fadeTime);
     ++mCount;
     static const QRegularExpression gaps(QStringLiteral("[^a-z0-9]+"));
     const QString name = QStringLiteral("%1-%2.png")
                              .arg(mCount, 2, 10, QLatin1Char('0'))
                              .arg(title.toLower().replace(gaps, QStringLiteral("-")));
-    require(picture().save(mDirectory.filePath(name)),
+    require(pictureAtRest().save(mDirectory.filePath(name)),
             QStringLiteral("The picture %1 cannot be written.").arg(mDirectory.filePath(name)));
+}
+
+// Until what fades in, such as the button in a search box, is there.
+QImage Album::pictureAtRest() const {
+    constexpr int lull = 50, patience = 60;
+    QImage before;
+    QImage now = picture();
+    for (int i = 0; now != before; ++i) {
+        require(i < patience, QStringLiteral("The window does not come to rest."));
+        QTest::qWait(lull);
+        before = std::exchange(now, picture());
+    }
+    return now;
 }
 
 QImage Album::picture() const {

@@ -18,6 +18,7 @@ class Album {
     int count() const { return mCount; }
 
   private:
+    QImage pictureAtRest() const;
     QImage picture() const;
 
     QWidget& mWindow;

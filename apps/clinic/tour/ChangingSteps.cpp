@@ -2,6 +2,7 @@
 
 #include <korvane/controls/container/Text.h>
 
+#include <QApplication>
 #include <QTableView>
 
 namespace Clinic {
@@ -14,14 +15,8 @@ QString cancelChanges() {
     return QStringLiteral("Are you sure you want to cancel the changes made to this Nip?");
 }
 
-void openTheChosenEncounter(Journey& j) {
-    j.part("encounters").setFocus();
-    j.hand.press(Qt::Key_Return);
-    j.requireNipOpen(true);
-}
-
 void openAgain(Journey& j) {
-    openTheChosenEncounter(j);
+    j.openChosenEncounter();
     j.requireShown();
     j.form.control(heartRate);
     j.album.add(QStringLiteral("Open again"));
@@ -29,29 +24,29 @@ void openAgain(Journey& j) {
 
 void changeAndRename(Journey& j) {
     j.form.write(j.form.control(heartRate), QStringLiteral("68"));
-    for (auto& entry : j.entries) {
+    for (auto& entry : j.visit.entries) {
         if (entry.name.field == heartRate.field) entry.value = QStringLiteral("68");
     }
-    j.description = QStringLiteral("Follow-up, dose halved");
-    j.form.write(j.part("txtEncounterInfo"), j.description);
+    j.visit.description = QStringLiteral("Follow-up, dose halved");
+    j.form.write(j.part("txtEncounterInfo"), j.visit.description);
     j.album.add(QStringLiteral("Change and rename"));
     j.hand.click(j.part("cmdNipButton(0)"));
     j.requireNipOpen(false);
-    require(j.chosenCell("encounters", 1) == j.description,
+    require(j.chosenCell("encounters", 1) == j.visit.description,
             QStringLiteral("The list does not show the new name."));
     j.requireStored();
     j.album.add(QStringLiteral("The new name in the list"));
 }
 
 void cancelWithoutChanges(Journey& j) {
-    openTheChosenEncounter(j);
+    j.openChosenEncounter();
     j.hand.click(j.part("cmdNipButton(1)"));
     j.requireNipOpen(false);
     j.requireStored();
 }
 
 void cancelWithChanges(Journey& j) {
-    openTheChosenEncounter(j);
+    j.openChosenEncounter();
     j.form.write(j.form.control(heartRate), QStringLiteral("200"));
     j.answer([&] { j.hand.click(j.part("cmdNipButton(1)")); }, cancelChanges(), QStringLiteral("No"),
              QStringLiteral("Cancel asks about changes"));
@@ -99,10 +94,13 @@ void seeAnotherPatient(Journey& j) {
 }
 
 void readInLargeText(Journey& j) {
-    for (int i = 0; i < 3; ++i)
+    const QFont before = QApplication::font();
+    constexpr int presses = 3;
+    for (int i = 0; i < presses; ++i)
         j.hand.press(Qt::Key_Plus, Qt::ControlModifier);
     j.album.add(QStringLiteral("Read in large text"));
-    j.hand.press(Qt::Key_0, Qt::ControlModifier);
+    for (int i = 0; i < presses && QApplication::font() != before; ++i)
+        j.hand.press(Qt::Key_Minus, Qt::ControlModifier);
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QInputDialog>
 #include <QTableView>
 
 namespace Clinic {
@@ -25,8 +24,8 @@ void chooseAPatient(Journey& j) {
 void startANip(Journey& j) {
     j.hand.press(Qt::Key_N, Qt::ControlModifier);
     j.requireNipOpen(true);
-    j.description = QStringLiteral("Follow-up, new medication");
-    j.form.write(j.part("txtEncounterInfo"), j.description);
+    j.visit.description = QStringLiteral("Follow-up, new medication");
+    j.form.write(j.part("txtEncounterInfo"), j.visit.description);
     j.form.pick(j.part<QComboBox>("pvcEncounterInfo"), QStringLiteral("Physician Anna Köhler MD"),
                 [&] { j.album.add(QStringLiteral("Start a Nip")); });
 }
@@ -39,7 +38,7 @@ void writeTexts(Journey& j) {
     for (const auto& [name, text] : texts) {
         requireType(j, name, "TEXT");
         j.form.write(j.form.control(name), text);
-        j.entries.push_back({name, text});
+        j.visit.entries.push_back({name, text});
     }
     j.album.add(QStringLiteral("Write texts"));
 }
@@ -49,7 +48,7 @@ void pickFromAComboBox(Journey& j) {
     requireType(j, name, "COMBOBOX-RESTRICTED");
     j.form.pick(dynamic_cast<QComboBox&>(j.form.control(name)), QStringLiteral("Several days"),
                 [&] { j.album.add(QStringLiteral("Pick from a restricted combo box")); });
-    j.entries.push_back({name, QStringLiteral("Several days")});
+    j.visit.entries.push_back({name, QStringLiteral("Several days")});
 }
 
 void chooseOneOfAList(Journey& j) {
@@ -58,7 +57,7 @@ void chooseOneOfAList(Journey& j) {
     auto& grid = dynamic_cast<QAbstractItemView&>(j.form.control(name));
     j.form.check(grid, QStringLiteral("No"));
     j.form.check(grid, QStringLiteral("Yes"));
-    j.entries.push_back({name, QStringLiteral("Yes")});
+    j.visit.entries.push_back({name, QStringLiteral("Yes")});
     j.album.add(QStringLiteral("Choose one of a list"));
 }
 
@@ -66,7 +65,7 @@ void writeIntoAComboBox(Journey& j) {
     const FieldName name{"Demographics", "specify_mood"};
     requireType(j, name, "COMBOBOX");
     j.form.write(j.form.control(name), QStringLiteral("Hopeful"));
-    j.entries.push_back({name, QStringLiteral("Hopeful")});
+    j.visit.entries.push_back({name, QStringLiteral("Hopeful")});
     j.album.add(QStringLiteral("Write into a combo box"));
 }
 
@@ -75,13 +74,9 @@ void editAList(Journey& j) {
     requireType(j, name, "LIST-EDITCONTENT");
     const auto add = [&](const QString& problem, const QString& picture) {
         QWidget& button = j.form.button(name, 1);
-        j.hand.answering([&] { j.hand.click(button); },
-                         [&](QWidget& box) {
-                             require(qobject_cast<QInputDialog*>(&box),
-                                     QStringLiteral("No input box came up."));
-                             j.hand.type(problem);
+        j.hand.answering([&] { j.hand.click(button); }, problem,
+                         [&] {
                              if (!picture.isEmpty()) j.album.add(picture);
-                             j.hand.press(Qt::Key_Return);
                          });
     };
     const QString before = j.form.shown(name);
@@ -92,7 +87,7 @@ void editAList(Journey& j) {
     const QString expected = before.isEmpty() ? problem : before + u'|' + problem;
     require(j.form.shown(name) == expected,
             QStringLiteral("The problem list holds \"%1\".").arg(j.form.shown(name)));
-    j.entries.push_back({name, expected});
+    j.visit.entries.push_back({name, expected});
     j.album.add(QStringLiteral("The edited list"));
 }
 
@@ -102,9 +97,9 @@ void checkSeveralOfAList(Journey& j) {
     auto& grid = dynamic_cast<QAbstractItemView&>(j.form.control(name));
     j.form.check(grid, QStringLiteral("Medication review"));
     j.form.check(grid, QStringLiteral("Depression screening"));
-    j.entries.push_back(
+    j.visit.entries.push_back(
         {name, QStringLiteral("Office visit, established patient|Depression screening|Medication review")});
-    require(j.form.shown(name) == j.entries.back().value,
+    require(j.form.shown(name) == j.visit.entries.back().value,
             QStringLiteral("The billing list holds \"%1\".").arg(j.form.shown(name)));
     j.album.add(QStringLiteral("Check several of a list"));
 }
@@ -117,14 +112,14 @@ void save(Journey& j) {
     j.requireNipOpen(false);
     require(list.model()->rowCount() == before + 1,
             QStringLiteral("The list does not show the new encounter."));
-    require(j.chosenCell("encounters", 1) == j.description,
+    require(j.chosenCell("encounters", 1) == j.visit.description,
             QStringLiteral("The new encounter is not chosen."));
     require(j.ledger.encounterCount() == stored + 1, QStringLiteral("Not one encounter more is stored."));
     j.album.add(QStringLiteral("Save"));
 }
 
 void findItInTheDatabase(Journey& j) {
-    j.encounter = j.ledger.newestEncounter();
+    j.visit.encounter = j.ledger.newestEncounter();
     j.requireStored();
 }
 

@@ -5,7 +5,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -34,12 +33,6 @@ QString chosenRows(const QAbstractItemView& view) {
     return rows.join(u'|');
 }
 
-void scrollTo(QWidget& widget) {
-    for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
-        if (auto* area = qobject_cast<QScrollArea*>(parent)) area->ensureWidgetVisible(&widget);
-    }
-}
-
 } // namespace
 
 Form::Form(QWidget& panel, Hand& hand, const Ledger& ledger) : mPanel(panel), mHand(hand), mLedger(ledger) {}
@@ -47,7 +40,7 @@ Form::Form(QWidget& panel, Hand& hand, const Ledger& ledger) : mPanel(panel), mH
 QWidget& Form::tagged(const QString& tag) {
     for (QWidget* widget : mPanel.findChildren<QWidget*>()) {
         if (widget->property("Tag").toString() == tag && widget->isVisible()) {
-            scrollTo(*widget);
+            mHand.reach(*widget);
             mHand.settle();
             return *widget;
         }

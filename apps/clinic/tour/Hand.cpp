@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QScopeGuard>
+#include <QScrollArea>
 #include <QTest>
 #include <QWindow>
 
@@ -37,6 +39,12 @@ void Hand::settle() {
     if (const auto trouble = std::exchange(mTrouble, nullptr)) std::rethrow_exception(trouble);
 }
 
+void Hand::reach(QWidget& widget) {
+    for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(parent)) area->ensureWidgetVisible(&widget);
+    }
+}
+
 void Hand::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(keyWindow(), key, modifiers);
     settle();
@@ -53,6 +61,7 @@ void Hand::click(QWidget& widget) {
 }
 
 void Hand::click(QWidget& widget, QPoint where) {
+    reach(widget);
     QTest::mouseClick(windowOf(widget), Qt::LeftButton, {}, widget.mapTo(widget.window(), where));
     settle();
 }
@@ -77,6 +86,45 @@ void Hand::answering(const std::function<void()>& deed, const std::function<void
     // What a window manager does; there may be none.
     window->activateWindow();
     require(QTest::qWaitForWindowActive(window), QStringLiteral("The window did not become active again."));
+}
+
+bool Hand::canDrag() {
+    return QGuiApplication::platformName() == QStringLiteral("xcb");
+}
+
+void Hand::answering(const std::function<void()>& deed, const QString& text,
+                     const std::function<void()>& look) {
+    answering(deed, [&](QWidget& box) {
+        require(qobject_cast<QInputDialog*>(&box), QStringLiteral("The box that came up asks for no text."));
+        type(text);
+        look();
+        press(Qt::Key_Return);
+    });
+}
+
+// A drag has an event loop of its own, which the move that begins it does not leave before the drop; no
+// exception may leave it.
+void Hand::drag(QWidget& widget, QPoint from, QPoint to, const std::function<void()>& look) {
+    reach(widget);
+    QWindow* const window = windowOf(widget);
+    const auto at = [&](QPoint point) { return widget.mapTo(widget.window(), point); };
+    bool dropped = false;
+    QTimer::singleShot(100, [&] {
+        QTest::mouseMove(window, at(to));
+        try {
+            look();
+        } catch (...) {
+            mTrouble = std::current_exception();
+        }
+        QTest::mouseRelease(window, Qt::LeftButton, {}, at(to));
+        dropped = true;
+    });
+    QTest::mousePress(window, Qt::LeftButton, {}, at(from));
+    const QPoint begins(QApplication::startDragDistance(), 0);
+    QTest::mouseMove(window, at(from + begins));
+    QTest::mouseMove(window, at(from + 2 * begins));
+    require(QTest::qWaitFor([&] { return dropped; }), QStringLiteral("Nothing was dropped."));
+    settle();
 }
 
 // Runs inside the box's own event loop, which no exception may leave: it is kept until the box is gone.

@@ -18,6 +18,9 @@ class Hand {
   public:
     Hand();
 
+    /// Scrolls to what is to be clicked.
+    void reach(QWidget& widget);
+
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString& text);
     void click(QWidget& widget);
@@ -26,6 +29,17 @@ class Hand {
 
     /// Does something that must bring up a box, and handles that box. Fails when none comes up.
     void answering(const std::function<void()>& deed, const std::function<void(QWidget& box)>& handle);
+
+    /// The same for an input box: types a text into it, lets `look` see it, and accepts it.
+    void answering(
+        const std::function<void()>& deed, const QString& text, const std::function<void()>& look = [] {});
+
+    /// Whether the platform lets a drag be driven by the events of a window: one without a screen ends it at
+    /// once.
+    static bool canDrag();
+    /// Drags what lies at one point to another one, and lets `look` see it there before it is dropped.
+    /// Only where `canDrag`.
+    void drag(QWidget& widget, QPoint from, QPoint to, const std::function<void()>& look);
 
     /// Lets the application do what it has to do.
     void settle();

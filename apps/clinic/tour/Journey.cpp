@@ -78,19 +78,27 @@ QString Journey::chosenCell(const char* list, int column) {
     return row.siblingAtColumn(column).data().toString();
 }
 
+void Journey::openChosenEncounter() {
+    part("encounters").setFocus();
+    hand.press(Qt::Key_Return);
+    requireNipOpen(true);
+}
+
 void Journey::requireShown() {
-    requireSame(QStringLiteral("The description"), part<QLineEdit>("txtEncounterInfo").text(), description);
-    for (const Entry& entry : entries)
+    requireSame(QStringLiteral("The description"), part<QLineEdit>("txtEncounterInfo").text(),
+                visit.description);
+    for (const Visit::Entry& entry : visit.entries)
         requireSame(qt(entry.name.field) + QStringLiteral(" in the panel"), form.shown(entry.name),
                     entry.value);
 }
 
-void Journey::requireStored() {
-    const auto rows = ledger.rowsOf(encounter);
-    requireSame(QStringLiteral("The stored description"), qt(rows.front().at("Description")), description);
-    for (const Entry& entry : entries)
+void Journey::requireStored(const Visit& entered) {
+    requireSame(QStringLiteral("The stored description"),
+                qt(ledger.encounterRow(entered.encounter).at("Description")), entered.description);
+    for (const Visit::Entry& entry : entered.entries)
         requireSame(qt(entry.name.field) + QStringLiteral(" in the database"),
-                    qt(ledger.groupRow(encounter, entry.name.group).at(entry.name.field)), entry.value);
+                    qt(ledger.groupRow(entered.encounter, entry.name.group).at(entry.name.field)),
+                    entry.value);
 }
 
 } // namespace Clinic

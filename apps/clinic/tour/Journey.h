@@ -13,6 +13,17 @@
 
 namespace Clinic {
 
+/// What was entered into one Nip.
+struct Visit {
+    struct Entry {
+        FieldName name;
+        QString value; ///< as the database holds it
+    };
+    std::vector<Entry> entries;
+    QString description; ///< of its encounter
+    qint32 encounter = -1;
+};
+
 /// What a tour has at hand, and what it must find in the end.
 class Journey {
   public:
@@ -44,9 +55,13 @@ class Journey {
     /// The chosen row of a list: the text of one of its columns.
     QString chosenCell(const char* list, int column);
 
+    /// Opens the encounter that is chosen in the list, by keyboard.
+    void openChosenEncounter();
+
     /// Fails unless every control shows, and every row holds, what was entered.
     void requireShown();
-    void requireStored();
+    void requireStored(const Visit& entered);
+    void requireStored() { requireStored(visit); }
 
     QWidget& window;
     Hand hand;
@@ -54,13 +69,9 @@ class Journey {
     Ledger ledger;
     Form form;
 
-    struct Entry {
-        FieldName name;
-        QString value; ///< as the database holds it
-    };
-    std::vector<Entry> entries; ///< what was entered into the Nip
-    QString description;        ///< and into its encounter
-    qint32 encounter = -1;
+    Visit visit;                       ///< the one at hand
+    Visit earlier;                     ///< the one before the form was customized
+    std::vector<StoredRow> rowsBefore; ///< and all that was stored then
 };
 
 } // namespace Clinic

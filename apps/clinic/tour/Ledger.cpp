@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 namespace Clinic {
 
@@ -21,49 +22,77 @@ const std::string& StoredRow::at(std::string_view column) const {
 }
 
 Ledger::Ledger(const QString& address) : mConnection(Korvane::ado::open(Korvane::utf8(address))) {
+    reload();
+}
+
+void Ledger::reload() {
     require(mStructure.LoadStructure(mConnection), QStringLiteral("The Nip's structure cannot be read."));
 }
 
 // Each column by its name as the clinic spells it: what a database calls it is up to the engine.
-StoredRow Ledger::read(const std::string& table, const std::vector<std::string>& columns,
-                       qint32 encounterID) {
+std::vector<StoredRow> Ledger::read(const Source& source, const std::string& condition) {
     std::string list;
-    for (const std::string& column : columns)
+    for (const std::string& column : source.columns)
         list += (list.empty() ? "[" : ",[") + column + "]";
     const auto rows = Recordset::create();
-    rows->Open("Select " + list + " From " + table + " Where EncounterID=" + std::to_string(encounterID),
-               mConnection);
-    const QString where = QStringLiteral("%1 of encounter %2").arg(qt(table)).arg(encounterID);
-    require(!rows->Eof(), QStringLiteral("There is no row in ") + where);
-    StoredRow row{table, {}};
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        row.columns.emplace_back(columns[i], rows->Value(static_cast<int>(i)).textOrEmpty());
-    rows->MoveNext();
-    require(rows->Eof(), QStringLiteral("There is more than one row in ") + where);
-    return row;
+    rows->Open("Select " + list + " From " + source.table + condition + " Order By EncounterID", mConnection);
+    std::vector<StoredRow> read;
+    for (; !rows->Eof(); rows->MoveNext()) {
+        StoredRow& row = read.emplace_back(source.table);
+        for (std::size_t i = 0; i < source.columns.size(); ++i)
+            row.columns.emplace_back(source.columns[i], rows->Value(static_cast<int>(i)).textOrEmpty());
+    }
+    return read;
+}
+
+StoredRow Ledger::readOne(const Source& source, qint32 encounterID) {
+    auto rows = read(source, " Where EncounterID=" + std::to_string(encounterID));
+    require(rows.size() == 1, QStringLiteral("There are %1 rows in %2 of encounter %3.")
+                                  .arg(rows.size())
+                                  .arg(qt(source.table))
+                                  .arg(encounterID));
+    return std::move(rows.front());
+}
+
+const Ledger::Source& Ledger::encounters() {
+    static const Source source{"Encounter",
+                               {"EncounterID", "EncounterMethodID", "PatientID", "ProviderID",
+                                "ForeignProviderID", "LocationID", "EncounterDate", "Outgoing", "Description",
+                                "Transport"}};
+    return source;
+}
+
+Ledger::Source Ledger::groupTable(std::int16_t group) const {
+    Source source{mStructure.TableName(group, 1), {"EncounterID"}};
+    for (std::int16_t f = 1; f <= mStructure.FieldCount(group); ++f)
+        source.columns.push_back(mStructure.fieldName(group, f));
+    return source;
 }
 
 std::vector<StoredRow> Ledger::rowsOf(qint32 encounterID) {
-    std::vector<StoredRow> rows{
-        read("Encounter",
-             {"EncounterID", "EncounterMethodID", "PatientID", "ProviderID", "ForeignProviderID",
-              "LocationID", "EncounterDate", "Outgoing", "Description", "Transport"},
-             encounterID)};
+    std::vector<StoredRow> rows{encounterRow(encounterID)};
     for (std::int16_t g = 1; g <= mStructure.GroupCount(); ++g) {
-        if (mStructure.FieldCount(g) > 0) rows.push_back(groupRow(encounterID, g));
+        if (mStructure.FieldCount(g) > 0) rows.push_back(readOne(groupTable(g), encounterID));
     }
     return rows;
 }
 
-StoredRow Ledger::groupRow(qint32 encounterID, std::string_view group) {
-    return groupRow(encounterID, groupIndex(group));
+StoredRow Ledger::encounterRow(qint32 encounterID) {
+    return readOne(encounters(), encounterID);
 }
 
-StoredRow Ledger::groupRow(qint32 encounterID, std::int16_t group) {
-    std::vector<std::string> columns{"EncounterID"};
-    for (std::int16_t f = 1; f <= mStructure.FieldCount(group); ++f)
-        columns.push_back(mStructure.fieldName(group, f));
-    return read(mStructure.TableName(group, 1), columns, encounterID);
+StoredRow Ledger::groupRow(qint32 encounterID, std::string_view group) {
+    return readOne(groupTable(groupIndex(group)), encounterID);
+}
+
+std::vector<StoredRow> Ledger::everyRow() {
+    std::vector<StoredRow> rows = read(encounters(), "");
+    for (std::int16_t g = 1; g <= mStructure.GroupCount(); ++g) {
+        if (mStructure.FieldCount(g) == 0) continue;
+        auto more = read(groupTable(g), "");
+        rows.insert(rows.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+    }
+    return rows;
 }
 
 qint32 Ledger::number(const std::string& expression) {
@@ -87,12 +116,25 @@ std::int16_t Ledger::groupIndex(std::string_view group) const {
     throw Failure(QStringLiteral("The Nip has no group %1.").arg(qt(group)));
 }
 
+bool Ledger::hasField(std::string_view group, std::string_view field) const {
+    return fieldIndex(groupIndex(group), field) > 0;
+}
+
+std::int16_t Ledger::fieldIndex(std::int16_t group, std::string_view field) const {
+    for (std::int16_t f = 1; f <= mStructure.FieldCount(group); ++f) {
+        if (mStructure.fieldName(group, f) == field) return f;
+    }
+    return 0;
+}
+
 Ledger::Place Ledger::placeOf(std::string_view group, std::string_view field) const {
     const std::int16_t g = groupIndex(group);
-    for (std::int16_t f = 1; f <= mStructure.FieldCount(g); ++f) {
-        if (mStructure.fieldName(g, f) == field) return {g, f, mStructure.displayType(g, f)};
-    }
-    throw Failure(QStringLiteral("The group %1 has no field %2.").arg(qt(group), qt(field)));
+    const std::int16_t f = fieldIndex(g, field);
+    require(f > 0, QStringLiteral("The group %1 has no field %2.").arg(qt(group), qt(field)));
+    Place place{g, f, mStructure.displayType(g, f), mStructure.Caption(g, f), {}};
+    for (std::int16_t i = 1; i <= mStructure.ValueListCount(g, f); ++i)
+        place.choices.push_back(mStructure.ValueList(g, f).array().at(i).textOrEmpty());
+    return place;
 }
 
 void print(const std::vector<StoredRow>& rows) {

@@ -21,6 +21,8 @@ struct StoredRow {
 
     /// Fails when there is no such column.
     const std::string& at(std::string_view column) const;
+
+    bool operator==(const StoredRow&) const = default;
 };
 
 /// Reads what a database holds for an encounter, past the window and its connection.
@@ -28,11 +30,19 @@ class Ledger {
   public:
     explicit Ledger(const QString& address);
 
+    /// Goes on with the structure as it is stored now.
+    void reload();
+
     /// The encounter's own row, then each group's. Fails when one of them is missing or there are two.
     std::vector<StoredRow> rowsOf(qint32 encounterID);
 
+    StoredRow encounterRow(qint32 encounterID);
+
     /// The row of one group, by the group's name.
     StoredRow groupRow(qint32 encounterID, std::string_view group);
+
+    /// All encounters, then all rows of each group, in the order of their identifiers.
+    std::vector<StoredRow> everyRow();
 
     qint32 encounterCount();
     /// The greatest identifier.
@@ -41,15 +51,26 @@ class Ledger {
     /// Where a field stands in the structure. Fails when there is none.
     struct Place {
         std::int16_t group = 0, field = 0;
-        std::string displayType;
+        std::string displayType, caption;
+        std::vector<std::string> choices;
     };
     Place placeOf(std::string_view group, std::string_view field) const;
+    bool hasField(std::string_view group, std::string_view field) const;
 
   private:
     std::int16_t groupIndex(std::string_view group) const;
+    /// 0: there is none.
+    std::int16_t fieldIndex(std::int16_t group, std::string_view field) const;
     qint32 number(const std::string& expression);
-    StoredRow groupRow(qint32 encounterID, std::int16_t group);
-    StoredRow read(const std::string& table, const std::vector<std::string>& columns, qint32 encounterID);
+    /// A table of the Nip and its columns, `EncounterID` first.
+    struct Source {
+        std::string table;
+        std::vector<std::string> columns;
+    };
+    static const Source& encounters();
+    Source groupTable(std::int16_t group) const;
+    std::vector<StoredRow> read(const Source& source, const std::string& condition);
+    StoredRow readOne(const Source& source, qint32 encounterID);
 
     std::shared_ptr<Korvane::ado::Connection> mConnection;
     Korvane::cNIP mStructure;

@@ -18,4 +18,7 @@ const std::vector<Step>& enteringSteps();
 /// Opening that Nip again, changing, renaming and cancelling.
 const std::vector<Step>& changingSteps();
 
+/// Customizing the form while that Nip is open, entering a Nip in it, and finding the old ones intact.
+const std::vector<Step>& customizingSteps();
+
 } // namespace Clinic

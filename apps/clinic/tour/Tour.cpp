@@ -68,7 +68,7 @@ void limitTime() {
 }
 
 void travel(Journey& journey, const char*& title) {
-    for (const auto* steps : {&enteringSteps(), &changingSteps()}) {
+    for (const auto* steps : {&enteringSteps(), &changingSteps(), &customizingSteps()}) {
         for (const Step& step : *steps) {
             title = step.title;
             step.run(journey);
@@ -92,7 +92,8 @@ void drive(const QDir& directory, const QString& address, int textSize, const ch
     Journey journey(window, database, directory.absolutePath());
     travel(journey, title);
     std::printf("\nThe database now holds:\n");
-    print(journey.ledger.rowsOf(journey.encounter));
+    for (const Visit* visit : {&journey.visit, &journey.earlier})
+        print(journey.ledger.rowsOf(visit->encounter));
     std::printf("\n%d pictures in %s\n", journey.album.count(), qUtf8Printable(directory.absolutePath()));
 }
 
