@@ -86,6 +86,7 @@ void putChoicesInOrder(Journey& j) {
     chooseInForm(j, severity);
     auto& list = j.part<QListView>("lstNipChoices");
     const auto middle = [&](int row) { return list.visualRect(list.model()->index(row, 0)).center(); };
+    list.scrollToBottom();
     j.hand.click(*list.viewport(), middle(3));
     j.hand.press(Qt::Key_Up, Qt::AltModifier);
     if (Hand::canDrag())

@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QWindow>
 
+#include <vector>
+
 namespace Clinic {
 
 namespace {
@@ -27,6 +29,14 @@ QWindow* keyWindow() {
     return windowOf(*active);
 }
 
+std::vector<QScrollArea*> areasAround(const QWidget& widget) {
+    std::vector<QScrollArea*> areas;
+    for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(parent)) areas.push_back(area);
+    }
+    return areas;
+}
+
 } // namespace
 
 Hand::Hand() {
@@ -40,8 +50,15 @@ void Hand::settle() {
 }
 
 void Hand::reach(QWidget& widget) {
-    for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
-        if (auto* area = qobject_cast<QScrollArea*>(parent)) area->ensureWidgetVisible(&widget);
+    for (QScrollArea* area : areasAround(widget))
+        area->ensureWidgetVisible(&widget);
+}
+
+void Hand::reach(QWidget& widget, QPoint where) {
+    for (QScrollArea* area : areasAround(widget)) {
+        const QPoint inside = widget.mapTo(area->widget(), where);
+        const int margin = area->fontMetrics().height() / 2;
+        area->ensureVisible(inside.x(), inside.y(), margin, margin);
     }
 }
 
@@ -62,6 +79,7 @@ void Hand::click(QWidget& widget) {
 
 void Hand::click(QWidget& widget, QPoint where) {
     reach(widget);
+    reach(widget, where);
     QTest::mouseClick(windowOf(widget), Qt::LeftButton, {}, widget.mapTo(widget.window(), where));
     settle();
 }
@@ -105,7 +123,7 @@ void Hand::answering(const std::function<void()>& deed, const QString& text,
 // A drag has an event loop of its own, which the move that begins it does not leave before the drop; no
 // exception may leave it.
 void Hand::drag(QWidget& widget, QPoint from, QPoint to, const std::function<void()>& look) {
-    reach(widget);
+    reach(widget, from);
     QWindow* const window = windowOf(widget);
     const auto at = [&](QPoint point) { return widget.mapTo(widget.window(), point); };
     bool dropped = false;

@@ -18,8 +18,9 @@ class Hand {
   public:
     Hand();
 
-    /// Scrolls to what is to be clicked.
-    void reach(QWidget& widget);
+    /// Scrolls to a widget, or to the point of it that is to be clicked.
+    static void reach(QWidget& widget);
+    static void reach(QWidget& widget, QPoint where);
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString& text);
