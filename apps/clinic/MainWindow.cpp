@@ -29,7 +29,7 @@ MainWindow::MainWindow(std::shared_ptr<Korvane::ado::Connection> connection, con
       mBar(new ConnectionBar(mConnection, this)), mSides(new QSplitter(Qt::Horizontal, this)),
       mLists(new QSplitter(Qt::Vertical, this)), mPatients(new PatientPane(mLists)),
       mEncounters(new EncounterPane(mLists)), mDesk(new NipDesk(mSides)),
-      mPanes(new PaneCycle({mPatients, mEncounters, mDesk, mBar}, this)),
+      mPanes(new PaneCycle({mPatients, mEncounters, mDesk, mDesk->customizePane(), mBar}, this)),
       mActions(std::make_unique<Actions>(*this)) {
     const Korvane::Hourglass hourglass;
     if (textSize > 0) mTextSize->setPercent(textSize);

@@ -158,6 +158,10 @@ bool NipDesk::isModified() const {
     return isNipOpen() && mPanel->isModified();
 }
 
+QWidget* NipDesk::customizePane() const {
+    return mPanel->findChild<QWidget*>(QStringLiteral("paneCustomize"));
+}
+
 void NipDesk::takeFocus() {
     if (!isNipOpen()) return mNew->setFocus(Qt::OtherFocusReason);
     for (QWidget* w = mPanel->nextInFocusChain(); mPanel->isAncestorOf(w); w = w->nextInFocusChain()) {

@@ -51,6 +51,8 @@ class NipDesk : public QWidget {
     qint32 openEncounter() const { return mEncounter; }
 
     void takeFocus();
+    /// The part of the panel that is in view while the form is customized.
+    QWidget* customizePane() const;
 
   signals:
     void nipOpened();

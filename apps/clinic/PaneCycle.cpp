@@ -26,10 +26,11 @@ PaneCycle::PaneCycle(std::vector<QWidget*> panes, QObject* parent)
 }
 
 int PaneCycle::paneOf(const QWidget* widget) const {
+    int innermost = -1;
     for (std::size_t i = 0; i < mPanes.size(); ++i) {
-        if (mPanes[i]->isAncestorOf(widget)) return static_cast<int>(i);
+        if (mPanes[i]->isAncestorOf(widget)) innermost = static_cast<int>(i);
     }
-    return -1;
+    return innermost;
 }
 
 void PaneCycle::remember(QWidget* now) {

@@ -13,7 +13,7 @@ class PaneCycle : public QObject {
     Q_OBJECT
 
   public:
-    /// The panes in their order.
+    /// The panes in their order. One that lies inside another counts for itself, and comes after it.
     PaneCycle(std::vector<QWidget*> panes, QObject* parent);
 
     void next() { step(1); }

@@ -130,6 +130,12 @@ TEST_F(MainWindow, LetsTheKeyboardGoRoundThePanesAndComeBack) {
     EXPECT_EQ(round, (QStringList{"encounters", "txtEncounterInfo", "searchPatient"}));
     press(Qt::Key_F6, Qt::ShiftModifier);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtEncounterInfo");
+    part<QAbstractButton>("cmdNipButton(2)").click();
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "gridNipFields");
+    press(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtEncounterInfo");
+    press(Qt::Key_F6);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "gridNipFields");
 }
 
 TEST_F(MainWindow, HidesTheListsWhileANipIsOpenUntilTheyAreNeeded) {
