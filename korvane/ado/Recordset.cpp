@@ -110,7 +110,7 @@ bool Recordset::Eof() const {
 
 void Recordset::MoveNext() {
     Opened& open = current();
-    Update();
+    if (!open.pending.empty()) Update();
     open.cursor->moveNext();
 }
 

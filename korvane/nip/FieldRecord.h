@@ -21,11 +21,16 @@ struct FieldRecord {
     bool asStored = false; ///< the column is no text column and holds what `previousValue` was read from
     Variant choiceList;
 
+    // And so does what an allowed value touches.
+    std::string fieldName; ///< also the column in the group's table
+    std::int32_t groupID = 0;
+    std::int16_t valueListCount = 0;
+    Variant valueList;
+    Variant defaultValue;
+
     std::int32_t id = 0;
     std::string tableName;
     std::string groupName;
-    std::int32_t groupID = 0;
-    std::string fieldName;    ///< also the column in the group's table
     std::string newFieldName; ///< while it is being renamed
     std::string caption;
     std::int16_t maxLength = 0;    ///< characters; 0: no limit
@@ -36,9 +41,6 @@ struct FieldRecord {
     std::int16_t controlIndexLabel = 0;
     std::int16_t rowIndex = 0;
     std::int16_t colIndex = 0; ///< 1, or 2 for a comment beside its field
-    Variant defaultValue;
-    Variant valueList;
-    std::int16_t valueListCount = 0;
 };
 
 } // namespace Korvane

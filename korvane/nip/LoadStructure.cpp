@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <unordered_map>
+#include <utility>
 
 namespace Korvane {
 
@@ -58,8 +59,10 @@ void setText(std::string& text, const Variant& value) {
 /// A cell as the number that the model keeps; a failure says which cell of which field it was.
 template <typename Number>
 Number numberAt(SQLData& row, int column, Number (Variant::*convert)() const, const std::string& fieldName) {
+    Variant cell;
+    row.DataInto(column, cell);
     try {
-        return (row.DataView(column).*convert)();
+        return (cell.*convert)();
     } catch (const RuntimeError& error) {
         throw RuntimeError(error.Number(), row.Fields(column)->Name() + " of the field " + fieldName + ": " +
                                                error.Description());
@@ -84,10 +87,18 @@ void fillField(FieldRecord& field, SQLData& row) {
     field.choiceList = emptyList();
 }
 
-void addAllowedValue(FieldRecord& field, const Variant& value, bool byDefault) {
+/// Empty as `emptyList`, with room for the values that a field usually allows.
+Variant roomyList() {
     constexpr std::size_t usualCount = 8;
+    VariantArray list;
+    list.elements.reserve(1 + usualCount);
+    list.elements.emplace_back();
+    return list;
+}
+
+void addAllowedValue(FieldRecord& field, const Variant& value, bool byDefault) {
+    if (field.valueListCount == 0) field.valueList = roomyList();
     std::vector<Variant>& values = field.valueList.array().elements;
-    if (field.valueListCount == 0) values.reserve(usualCount);
     field.valueListCount = countedUp(field.valueListCount, "values of the field ", field.fieldName);
     values.push_back(value);
     if (byDefault) field.defaultValue = value;
@@ -106,8 +117,7 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
         mColumnsOfEncounter.clear();
         mFieldCountMax = 0;
         mRowCountMax = 0;
-        mGroups.clear();
-        mGroups.emplace_back();
+        std::vector<GroupRecord> former = std::exchange(mGroups, std::vector<GroupRecord>(1));
 
         Snapshot snapshot(*mConnection);
         std::vector<std::string> statements(structureStatements.begin(), structureStatements.end());
@@ -116,6 +126,7 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
         mConnection->Announce(statements);
         FieldIndex index(mGroups);
         loadGroups();
+        former.clear(); // takes its time: the server is at work on the fields meanwhile
         loadFields(index);
         loadAllowedValues(index);
         mRevision = readCell(revisionStatement);
@@ -201,13 +212,16 @@ void cNIP::beginRow(GroupRecord& group, FieldRecord& field) {
 
 void cNIP::loadAllowedValues(const FieldIndex& index) {
     std::string name;
+    Variant nameCell;
+    Variant value;
     SQLData row;
     for (run(row, mConnection, structureStatements[2]); !row.Eof(); row.NextRow()) {
-        setText(name, row.DataView(valueFieldName));
+        row.DataInto(valueFieldName, nameCell);
+        setText(name, nameCell);
         const auto fields = index.find(numberAt(row, valueGroupID, &Variant::toInt32, name), name);
         if (fields.empty()) continue;
         const bool byDefault = numberAt(row, isDefault, &Variant::toBoolean, name);
-        const Variant& value = row.DataView(allowedValue);
+        row.DataInto(allowedValue, value);
         for (const FieldPlace& place : fields)
             addAllowedValue(at(place.group, place.field), value, byDefault);
         raiseFailure(row);

@@ -28,7 +28,7 @@ std::string lowerCase(std::string_view text) {
 }
 
 bool sameName(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::ranges::equal(a, b, {}, lower, lower);
+    return a == b || (a.size() == b.size() && std::ranges::equal(a, b, {}, lower, lower));
 }
 
 std::string_view trim(std::string_view text) {

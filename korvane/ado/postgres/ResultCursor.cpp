@@ -39,9 +39,10 @@ std::int32_t ResultCursor::rowCount() const {
     return mCursorType == ado::CursorType::ForwardOnly ? -1 : mRowCount;
 }
 
-// Blanks behind a text of fixed length mean nothing to the engine. No text of it holds a zero byte.
+// Blanks behind a text of fixed length mean nothing to the engine.
 std::string_view ResultCursor::stored(int column) const {
-    const std::string_view text = PQgetvalue(mRows.get(), mRow, column);
+    const std::string_view text(PQgetvalue(mRows.get(), mRow, column),
+                                static_cast<std::size_t>(PQgetlength(mRows.get(), mRow, column)));
     const bool isText = mColumns->all()[static_cast<std::size_t>(column)].type == DataType::VarWChar;
     if (!isText || PQftype(mRows.get(), column) != types::blankPadded) return text;
     return text.substr(0, text.find_last_not_of(' ') + 1);
