@@ -1,0 +1,110 @@
+#include <korvane/controls/axdate/DatePartBox.h>
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QRegularExpressionValidator>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include <algorithm>
+
+namespace Korvane {
+
+DatePartBox::DatePartBox(int index, QWidget* parent) : QLineEdit(parent), mIndex(index) {
+    setObjectName(QStringLiteral("txtDate(%1)").arg(index));
+    // Digits run from left to right wherever the form comes from.
+    setLayoutDirection(Qt::LeftToRight);
+    setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), this));
+}
+
+QSize DatePartBox::sizeFor(int digits) const {
+    ensurePolished();
+    const QFontMetrics metrics(font());
+    const int text = std::max(metrics.horizontalAdvance(QString(digits, u'0')),
+                              metrics.horizontalAdvance(placeholderText()));
+    // Beside the text stand a margin on both sides and the cursor.
+    constexpr int besideText = 2 * 2 + 2;
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    return {style()
+                ->sizeFromContents(QStyle::CT_LineEdit, &option, {text + besideText, metrics.height()}, this)
+                .width(),
+            QLineEdit::sizeHint().height()};
+}
+
+/// A text that is selected as a whole lies at both edges.
+bool DatePartBox::isAtEdge(int key) const {
+    if (hasSelectedText()) return selectedText() == text();
+    return key == Qt::Key_Left ? cursorPosition() == 0 : cursorPosition() == text().size();
+}
+
+void DatePartBox::keyPressEvent(QKeyEvent* event) {
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const int key = event->key();
+    if (event->matches(QKeySequence::Copy)) return emit copyWanted();
+    if (event->matches(QKeySequence::Paste)) return takeClipboard();
+    if (plain && (key == Qt::Key_Up || key == Qt::Key_Down))
+        return emit stepWanted(key == Qt::Key_Up ? 1 : -1);
+    if (plain && (key == Qt::Key_Left || key == Qt::Key_Right) && isAtEdge(key))
+        return emit moveWanted(key == Qt::Key_Left ? -1 : 1);
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) emit enterPressed();
+    QLineEdit::keyPressEvent(event);
+}
+
+void DatePartBox::focusInEvent(QFocusEvent* event) {
+    mClickBroughtFocus = event->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(event);
+}
+
+void DatePartBox::mousePressEvent(QMouseEvent* event) {
+    if (!mClickBroughtFocus) QLineEdit::mousePressEvent(event);
+}
+
+void DatePartBox::mouseReleaseEvent(QMouseEvent* event) {
+    mClickBroughtFocus = false;
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void DatePartBox::take(const QString& text) {
+    const QString trimmed = text.trimmed();
+    const bool digits = std::all_of(trimmed.begin(), trimmed.end(),
+                                    [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+    if (digits)
+        insert(trimmed);
+    else
+        emit textGiven(trimmed);
+}
+
+void DatePartBox::takeClipboard() {
+    take(QGuiApplication::clipboard()->text());
+}
+
+/// The usual menu, with copying and pasting as the keys have them.
+void DatePartBox::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (auto* copy = menu->findChild<QAction*>(QStringLiteral("edit-copy"))) {
+        copy->disconnect(this);
+        copy->setEnabled(true);
+        connect(copy, &QAction::triggered, this, &DatePartBox::copyWanted);
+    }
+    if (auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
+        paste->disconnect(this);
+        connect(paste, &QAction::triggered, this, &DatePartBox::takeClipboard);
+    }
+    menu->popup(event->globalPos());
+}
+
+void DatePartBox::dropEvent(QDropEvent* event) {
+    take(event->mimeData()->text());
+    event->acceptProposedAction();
+}
+
+} // namespace Korvane

@@ -1,0 +1,148 @@
+#include <korvane/controls/container/FocusSteps.h>
+
+#include <korvane/controls/container/SendKeys.h>
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QTimer>
+#include <QVariant>
+
+namespace Korvane {
+
+namespace {
+
+/// What is about to get the focus, while the part that has it is still at its last steps. Should the focus be
+/// taken back, it is kept from hearing that it lost what it never had.
+class Successor : public QObject {
+  public:
+    explicit Successor(QWidget* widget) {
+        if (widget) widget->installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn) mArrived = true;
+        return event->type() == QEvent::FocusOut && !mArrived;
+    }
+
+  private:
+    bool mArrived = false;
+};
+
+/// The press of the mouse that asked for the focus does nothing else either, up to its release.
+class SwallowedPress : public QObject {
+  public:
+    SwallowedPress() : QObject(qApp) {
+        qApp->installEventFilter(this);
+        QTimer::singleShot(0, this, [this] {
+            if (!mPressed) delete this;
+        });
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (!watched->isWidgetType()) return false;
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            mPressed = true;
+            return true;
+        case QEvent::MouseButtonRelease:
+            deleteLater();
+            qApp->removeEventFilter(this);
+            return true;
+        default:
+            return false;
+        }
+    }
+
+  private:
+    bool mPressed = false;
+};
+
+bool isOfWindow(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
+
+} // namespace
+
+bool causesValidation(const QWidget& control) {
+    for (const QWidget* widget = &control; widget; widget = widget->parentWidget()) {
+        const QVariant says = widget->property("CausesValidation");
+        if (says.isValid()) return says.toBool();
+        if (widget->isWindow()) break;
+    }
+    return true;
+}
+
+FocusSteps::FocusSteps(QWidget& control, Handler& handler) : mControl(control), mHandler(handler) {
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* now) { focusMoved(now); });
+}
+
+void FocusSteps::add(QWidget& part) {
+    part.installEventFilter(this);
+}
+
+bool FocusSteps::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::FocusIn && event->type() != QEvent::FocusOut) return false;
+    auto& part = *static_cast<QWidget*>(watched);
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    return event->type() == QEvent::FocusIn ? focusIn(part, reason) : focusOut(part, reason);
+}
+
+/// True when the part is not to hear of it: it never lost the focus, or has passed it on, or is gone.
+bool FocusSteps::focusIn(QWidget& part, Qt::FocusReason reason) {
+    if (mStaying) return true;
+    if (mPart == &part && isOfWindow(reason)) return false;
+    const QPointer<FocusSteps> self = this;
+    if (!mInside) {
+        mInside = true;
+        mHandler.enterFocus(reason);
+        if (!self) return true;
+    }
+    if (!part.hasFocus()) return true;
+    mPart = &part;
+    mHandler.gotFocus(part);
+    return !self;
+}
+
+bool FocusSteps::focusOut(QWidget& part, Qt::FocusReason reason) {
+    if (mPart != &part || isOfWindow(reason)) return false;
+    QWidget* next = QApplication::focusWidget();
+    const Successor successor(next);
+    const bool asked = next && part.isVisible() && part.isEnabled() && causesValidation(*next);
+    const QPointer<FocusSteps> self = this;
+    if (asked && !mHandler.accepts(part)) {
+        stay(part, reason);
+        return true;
+    }
+    leave(part);
+    return !self || part.hasFocus();
+}
+
+void FocusSteps::stay(QWidget& part, Qt::FocusReason reason) {
+    mStaying = true;
+    part.setFocus(Qt::OtherFocusReason);
+    mStaying = false;
+    if (reason == Qt::MouseFocusReason) new SwallowedPress;
+    discardSentKeys();
+    mHandler.refused(part);
+}
+
+void FocusSteps::leave(QWidget& part) {
+    const QPointer<FocusSteps> self = this;
+    mPart = nullptr;
+    mHandler.lostFocus(part);
+    if (!self || !mInside) return;
+    const QWidget* now = QApplication::focusWidget();
+    if (now && mControl.isAncestorOf(now)) return;
+    mInside = false;
+    mHandler.exitFocus();
+}
+
+/// The host may move the focus while another window is in front: nothing loses it then, and the move shows
+/// when the window is back.
+void FocusSteps::focusMoved(const QWidget* now) {
+    if (!mInside || !mPart || !now || now->window() != mControl.window() || mControl.isAncestorOf(now))
+        return;
+    leave(*mPart);
+}
+
+} // namespace Korvane

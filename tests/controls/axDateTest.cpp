@@ -1,0 +1,297 @@
+#include "support/DateForm.h"
+
+#include <QClipboard>
+#include <QMimeData>
+
+namespace Korvane {
+
+using namespace Testing;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+const char* const invalid = "Invalid date format. Please re-enter.";
+const char* const needsFour = "Year requires four digits. Please re-enter.";
+const char* const exitText = "exitfocus";
+
+struct Typed {
+    const char* keys;
+    const char* boxes;
+    const char* wholeDate;
+    const char* focus;
+    Heard heard;
+};
+
+void PrintTo(const Typed& typed, std::ostream* out) {
+    *out << testing::PrintToString(typed.keys);
+}
+
+void check(DateForm& form, const Typed& expected) {
+    SCOPED_TRACE(testing::PrintToString(expected));
+    form.press(expected.keys);
+    EXPECT_EQ(form.boxes(), expected.boxes);
+    EXPECT_EQ(form.wholeDate(), expected.wholeDate);
+    EXPECT_EQ(form.focus(), expected.focus);
+    EXPECT_EQ(form.take(), expected.heard);
+}
+
+void paste(const char* text) {
+    QApplication::clipboard()->setText(text);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
+}
+
+} // namespace
+
+TEST(axDate, TakesADateKeyByKeyAndRaisesEachEventInItsPlace) {
+    DateForm form;
+    EXPECT_TRUE(form.whole().isVisible());
+    EXPECT_FALSE(form.box(0).isVisible());
+    for (const Typed& step :
+         {Typed{"\t", "||", "", "0", {"index 0"}}, Typed{"a/-. ", "||", "", "0", {}},
+          Typed{"1", "1||", "", "0", {"changed"}}, Typed{"1", "11||", "", "1", {"index 1", "changed"}},
+          Typed{"5\t", "11|5|", "", "2", {"changed", "index 2"}},
+          Typed{"200", "11|5|200", "", "2", {"changed", "changed", "changed"}},
+          Typed{"1", "11|5|2001", "11/5/2001", "2", {"changed"}},
+          Typed{"\b", "11|5|200", "", "2", {"changed"}},
+          Typed{"1", "11|5|2001", "11/5/2001", "2", {"changed"}}})
+        check(form, step);
+    EXPECT_FALSE(form.whole().isVisible());
+    check(form, {"\t", "11|5|2001", "11/5/2001", "after", {exitText}});
+    EXPECT_TRUE(form.whole().isVisible());
+    EXPECT_FALSE(form.box(0).isVisible());
+}
+
+TEST(axDate, ShowsTheWholeDateInItsBoxesAndSelectsEachOneItComesTo) {
+    DateForm form("01/02/2026");
+    check(form, {"\t", "1|2|2026", "1/2/2026", "0", {"index 0"}});
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(form.box(i).selectedText(), form.box(i).text());
+        form.press("\t");
+    }
+    EXPECT_THAT(form.take(), ElementsAre("index 1", "index 2", exitText));
+    check(form, {"<", "1|2|2026", "1/2/2026", "2", {"index 2"}});
+    check(form, {"<<<", "1|2|2026", "1/2/2026", "before", {"index 1", "index 0", exitText}});
+    QTest::mouseClick(&form.whole(), Qt::LeftButton);
+    EXPECT_EQ(form.focus(), "0");
+    QTest::mouseClick(&form.box(2), Qt::LeftButton);
+    EXPECT_EQ(form.box(2).selectedText(), "2026") << "also by a click";
+    EXPECT_THAT(form.take(), ElementsAre("index 0", "index 2"));
+}
+
+TEST(axDate, EnterLeavesForTheNextControlFromAnyBox) {
+    for (const Typed& way :
+         {Typed{"\n", "1|2|2026", "1/2/2026", "after", {"index 1", "index 2", exitText}},
+          Typed{"\t\n", "1|2|2026", "1/2/2026", "after", {"index 1", "index 2", exitText}},
+          Typed{"\t\t\n", "1|2|2026", "1/2/2026", "after", {"index 1", "index 2", exitText}}}) {
+        DateForm form("1/2/2026");
+        form.press("\t");
+        form.take();
+        check(form, way);
+    }
+}
+
+TEST(axDate, RefusesToLeaveABoxThatCannotBeRight) {
+    for (const Typed& wrong :
+         {Typed{"13\t", "13|2|2026", "", "0", {"changed", "changed", invalid}},
+          Typed{"0\t", "0|2|2026", "", "0", {"changed", invalid}},
+          Typed{"13\n", "13|2|2026", "", "0", {"changed", "changed", invalid}},
+          Typed{"13<", "13|2|2026", "", "0", {"changed", "changed", invalid}},
+          Typed{"\t32\t", "1|32|2026", "", "1", {"index 1", "changed", "changed", invalid}},
+          Typed{"\t\t26\t", "1|2|26", "", "2", {"index 1", "index 2", "changed", "changed", invalid}},
+          Typed{"\t\t26<", "1|2|26", "", "2", {"index 1", "index 2", "changed", "changed", invalid}}}) {
+        DateForm form("1/2/2026");
+        form.press("\t");
+        form.take();
+        int edited = 0;
+        for (QLineEdit* other : {form.before, form.after})
+            QObject::connect(other, &QLineEdit::editingFinished, [&] { ++edited; });
+        check(form, wrong);
+        EXPECT_EQ(edited, 0) << "what did not get the focus does not hear of it";
+        EXPECT_EQ(QApplication::focusWidget()->accessibleDescription(), invalid);
+    }
+}
+
+TEST(axDate, AsksForNoValidationOnTheWayToAControlThatWantsNone) {
+    DateForm form("1/2/2026");
+    form.press("\t13");
+    form.take();
+    QTest::mouseClick(form.help, Qt::LeftButton);
+    EXPECT_EQ(form.focus(), "help");
+    EXPECT_THAT(form.take(), ElementsAre(exitText));
+    form.date->setFocus();
+    EXPECT_EQ(form.boxes(), "13|2|2026") << "what was refused is still there";
+}
+
+TEST(axDate, TakesTheFocusBackForAYearThatIsRefused) {
+    for (const bool four : {true, false}) {
+        DateForm form("1/2/2026");
+        form.require4(four);
+        form.press("\t\t\t202");
+        form.take();
+        QTest::mouseClick(form.help, Qt::LeftButton);
+        EXPECT_EQ(form.focus(), "2");
+        EXPECT_THAT(form.take(), ElementsAre(four ? needsFour : invalid, "index 2"));
+        EXPECT_EQ(form.box(2).selectedText(), "202");
+        EXPECT_FALSE(form.whole().isVisible());
+    }
+}
+
+TEST(axDate, WidensAYearOfTwoDigitsWhereFourAreNotRequired) {
+    DateForm form("1/2/2026");
+    form.require4(false);
+    form.press("\t\t\t");
+    form.take();
+    check(form, {"29", "1|2|29", "1/2/29", "2", {"changed", "changed"}});
+    check(form, {"\t", "1|2|2029", "1/2/2029", "after", {"changed", exitText}});
+    check(form,
+          {"<30\t", "1|2|1930", "1/2/1930", "after", {"index 2", "changed", "changed", "changed", exitText}});
+}
+
+TEST(axDate, APressThatAskedForTheFocusInVainDoesNothingElse) {
+    DateForm form("1/2/2026");
+    int saved = 0;
+    form.help->setProperty("CausesValidation", true);
+    QObject::connect(form.help, &QPushButton::clicked, [&] { ++saved; });
+    form.press("\t13");
+    QTest::mouseClick(form.help, Qt::LeftButton);
+    EXPECT_EQ(saved, 0);
+    EXPECT_EQ(form.focus(), "0");
+    form.press("12");
+    QTest::mouseClick(form.help, Qt::LeftButton);
+    EXPECT_EQ(saved, 1);
+    EXPECT_EQ(form.wholeDate(), "12/2/2026");
+}
+
+TEST(axDate, KeepsTheDateBeforeWhenThereIsNoSuchDay) {
+    DateForm form("4/3/2001");
+    form.press("\t\t");
+    form.take();
+    check(form, {"31", "4|31|2001", "4/3/2001", "2", {"changed", "index 2", "changed"}});
+    check(form, {"\t", "4|31|2001", "4/3/2001", "after", {exitText}});
+    check(form, {"<", "4|3|2001", "4/3/2001", "2", {"index 2"}});
+}
+
+TEST(axDate, NeverShowsTheDateOfTheRecordBefore) {
+    DateForm form("1/2/2026");
+    form.press("\t");
+    form.date->wholeDate("");
+    EXPECT_EQ(form.boxes(), "||") << "while the boxes are shown";
+    form.press("\n");
+    EXPECT_EQ(form.wholeDate(), "");
+    form.date->wholeDate("5/6/1970");
+    form.press("<\n");
+    form.date->wholeDate("unknown");
+    form.take();
+    check(form, {"<", "||", "unknown", "2", {"index 2"}});
+    check(form, {"\t", "||", "unknown", "after", {exitText}});
+    check(form, {"<<<12",
+                 "12||",
+                 "unknown",
+                 "1",
+                 {"index 2", "index 1", "index 0", "changed", "index 1", "changed"}});
+}
+
+TEST(axDate, PlacesSpokenTexts) {
+    DateForm form;
+    form.press("\t");
+    for (const char* spoken : {"11", "5", "2026"})
+        form.date->SetText(spoken);
+    EXPECT_EQ(form.wholeDate(), "11/5/2026");
+    EXPECT_EQ(form.box(2).selectedText(), "2026");
+    EXPECT_THAT(form.take(), ElementsAre("index 0", "changed", "index 1", "changed", "index 2", "changed"));
+    form.date->SetElementFocus(0);
+    form.date->SetText("13");
+    EXPECT_EQ(form.focus(), "0");
+    form.date->SetText("12");
+    EXPECT_EQ(form.boxes(), "12|5|2026") << "what was refused is said again";
+    form.date->SetElementFocus(3);
+    EXPECT_EQ(form.focus(), "1");
+}
+
+TEST(axDate, FillsAllBoxesFromAWholeDateAndCopiesIt) {
+    DateForm form("1/2/2026");
+    form.press("\t");
+    form.take();
+    paste(" 11/15/1984\n");
+    EXPECT_EQ(form.boxes(), "11|15|1984");
+    EXPECT_EQ(form.focus(), "2");
+    EXPECT_THAT(form.take(), ElementsAre("changed", "changed", "changed", "index 2"));
+    QTest::keyClick(&form.box(2), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "11/15/1984");
+    paste("soon");
+    EXPECT_EQ(form.boxes(), "11|15|1984");
+    paste("1985");
+    EXPECT_EQ(form.wholeDate(), "11/15/1985") << "digits are for the box in hand";
+    form.press("\t");
+    form.take();
+    QMimeData dragged;
+    dragged.setText("12/31/1999");
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&form.whole(), &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&form.whole(), &drop);
+    EXPECT_EQ(form.wholeDate(), "12/31/1999");
+    EXPECT_THAT(form.take(), ElementsAre("changed", "changed", "changed"));
+}
+
+TEST(axDate, ArrowsStepThePartAndMoveBetweenTheBoxes) {
+    DateForm form("9/29/2026");
+    form.press("\t");
+    form.take();
+    check(form, {"^", "10|29|2026", "10/29/2026", "0", {"changed"}});
+    check(form, {"^^^", "12|29|2026", "12/29/2026", "0", {"changed", "changed"}});
+    check(form, {"}", "12|29|2026", "12/29/2026", "1", {"index 1"}});
+    check(form, {"^^^", "12|31|2026", "12/31/2026", "1", {"changed", "changed"}});
+    check(form, {"{{", "12|31|2026", "12/31/2026", "0", {"index 0"}});
+    check(form, {"\b{}}", "|31|2026", "12/31/2026", "2", {"changed", "index 1", "index 2"}});
+}
+
+TEST(axDate, TheUserGetsInOnlyWhileItIsEnlivened) {
+    DateForm form("1/2/2026");
+    form.date->Enlivened(false);
+    check(form, {"\t", "||", "1/2/2026", "after", {}});
+    QTest::mouseClick(&form.whole(), Qt::LeftButton);
+    EXPECT_EQ(form.focus(), "after");
+    form.date->Enlivened(true);
+    check(form, {"<", "1|2|2026", "1/2/2026", "2", {"index 2"}});
+}
+
+TEST(axDate, AnotherWindowInFrontIsNoLeaving) {
+    DateForm form("1/2/2026");
+    form.press("\t13");
+    form.take();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    form.form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form.form));
+    EXPECT_EQ(form.focus(), "0");
+    EXPECT_THAT(form.take(), IsEmpty());
+}
+
+TEST(axDate, ItsPartsStandInARowThatHoldsTheirTextsAtAnyFontSize) {
+    for (const int points : {8, 10, 20, 32}) {
+        SCOPED_TRACE(points);
+        DateForm form("12/28/2028");
+        QFont font = form.form.font();
+        font.setPointSize(points);
+        form.form.setFont(font);
+        form.form.resize(form.form.sizeHint());
+        form.press("\t");
+        EXPECT_EQ(form.whole().geometry(), form.date->rect());
+        EXPECT_EQ(form.box(0).x(), 0);
+        EXPECT_NEAR(form.box(2).width(), 2 * form.box(0).width(), 1);
+        EXPECT_LE(form.box(2).geometry().right(), form.date->rect().right());
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(form.box(i).height(), form.date->height());
+            EXPECT_GE(form.box(i).height(), form.box(i).sizeHint().height());
+            form.box(i).end(false);
+            EXPECT_EQ(form.box(i).cursorPositionAt({2, 5}), 0) << "not scrolled";
+        }
+        EXPECT_GT(form.box(1).x(), form.box(0).geometry().right() + 1);
+    }
+}
+
+} // namespace Korvane
