@@ -58,6 +58,10 @@ void splitChoices(FieldRecord& field) {
     field.choiceListCount = static_cast<std::int16_t>(list.elements.size());
 }
 
+std::string textOf(const FieldRecord& field) {
+    return holdsChoices(field.displayType) ? joinChoices(field) : field.value.textOrEmpty();
+}
+
 std::string joinChoices(const FieldRecord& field) {
     if (field.choiceListCount < 0) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
     std::string joined;

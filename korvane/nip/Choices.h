@@ -16,6 +16,9 @@ const Variant& emptyList();
 /// value of a field that holds no choices, gives none. Overflow for more than 32767 entries.
 void splitChoices(FieldRecord& field);
 
+/// What a field holds, as it is stored: its choices joined, or else its value.
+std::string textOf(const FieldRecord& field);
+
 /// The choices of a field joined with "|", as they are stored. SubscriptOutOfRange when there are fewer than
 /// its count says, or the count is negative.
 std::string joinChoices(const FieldRecord& field);

@@ -107,6 +107,10 @@ bool cNIP::EditField(std::int16_t groupIndex, std::int16_t fieldIndex, const Fie
         (field.pending ? edited.fieldName : edited.newFieldName) =
             field.pending || isRenamed ? definition.fieldName : "";
         define(edited, definition);
+        if (holdsChoices(edited.displayType) != holdsChoices(field.displayType)) {
+            edited.value = textOf(field);
+            splitChoices(edited);
+        }
         edited.changed = true;
         field = std::move(edited);
         group.hasChanges = true;

@@ -60,10 +60,6 @@ class SchemaHasChanged : public RuntimeError {
     bool mCounted;
 };
 
-std::string textOf(const FieldRecord& field) {
-    return holdsChoices(field.displayType) ? joinChoices(field) : field.value.textOrEmpty();
-}
-
 /// Who has changed the structure since it was loaded. What one has changed oneself is known: a field is the
 /// same one as long as its identifier is. Those of fields that others have deleted may have been given away
 /// again: it takes the same caption, and the same name or identifier, to be the same field.

@@ -6,6 +6,7 @@
 #include <korvane/controls/nippanel/CustomizePane.h>
 #include <korvane/controls/nippanel/FieldForm.h>
 #include <korvane/controls/nippanel/FieldName.h>
+#include <korvane/controls/nippanel/NipTabs.h>
 #include <korvane/controls/nippanel/PanelForm.h>
 #include <korvane/controls/nippanel/Routine.h>
 #include <korvane/runtime/Interaction.h>
@@ -62,6 +63,7 @@ void ucNIPPanel::Members::saveField() {
 
 bool ucNIPPanel::Members::storeField(const FieldDefinition& definition) {
     const PaintLock lock(panel);
+    form->tabs().collect(); // while the entries are still what the model takes them for
     CustomizePane& pane = form->customizePane();
     const std::int16_t group = pane.group();
     const bool isNew = pane.holdsNew();
