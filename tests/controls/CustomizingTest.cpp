@@ -2,6 +2,8 @@
 
 #include <korvane/nip/cNIP.h>
 
+#include <QAbstractItemView>
+
 #include <gmock/gmock.h>
 
 namespace Korvane {
@@ -96,6 +98,42 @@ TEST(Customizing, ChangesAFieldAndKeepsItsDataAndTheEntriesOfTheOpenNip) {
     EXPECT_EQ(desk.rows("Select HeartRate From NIP_Custom1"), "99");
 }
 
+TEST(Customizing, KeepsWhatAFieldHoldsWhenItIsDisplayedInAnotherWay) {
+    const char* types[] = {
+        "TEXT", "LIST", "LIST-MULTIPLE", "LIST-EDITCONTENT", "COMBOBOX", "COMBOBOX-RESTRICTED"};
+    for (const char* from : {"TEXT", "LIST-MULTIPLE"}) {
+        for (const char* to : types) {
+            SCOPED_TRACE(std::string(from) + " to " + to);
+            CustomizingDesk desk(false);
+            desk.db->quietly("Update DBFields Set DisplayType='" + std::string(from) +
+                             "' Where FieldName='Mood'");
+            desk.db->quietly("Update NIP_Custom1 Set Mood='Poor|gone'");
+            desk.panel.Initialize(desk.db);
+            desk.panel.CustomizeNip();
+            desk.panel.LoadNipInfo(7, "P1");
+            desk.type(desk.pulse(), "99");
+            desk.click("cmdNipButton(2)");
+            desk.chooseListed(1);
+            desk.displayType().setCurrentIndex(desk.displayType().findData(to));
+            desk.saveField();
+            desk.click("cmdBackToNip");
+            desk.save();
+            EXPECT_THAT(desk.user->boxes, IsEmpty());
+            EXPECT_EQ(desk.rows("Select Pulse,Mood From NIP_Custom1"), "99|Poor|gone");
+        }
+    }
+    CustomizingDesk desk;
+    desk.click("cmdBackToNip");
+    desk.type(desk.pulse(), "99");
+    desk.click("cmdNipButton(2)");
+    desk.chooseListed(0);
+    desk.displayType().setCurrentIndex(desk.displayType().findData("LIST-EDITCONTENT"));
+    desk.saveField();
+    desk.click("cmdBackToNip");
+    desk.save();
+    EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "99") << "also what was only just typed";
+}
+
 TEST(Customizing, ChoosesFieldsByKeysInTheListAndInTheForm) {
     CustomizingDesk desk;
     EXPECT_TRUE(desk.list().hasFocus());
@@ -177,6 +215,39 @@ TEST(Customizing, AsksBeforeAFieldIsLeft) {
             }
         }
     }
+}
+
+TEST(Customizing, AChoiceThatIsStillBeingTypedIsAChange) {
+    const auto type = [](CustomizingDesk& desk, int field, const char* text) {
+        desk.chooseListed(field);
+        auto& choices = desk.part<QAbstractItemView>("lstNipChoices");
+        choices.setFocus();
+        QTest::keyClick(&choices, Qt::Key_F2);
+        auto& box = desk.part<QLineEdit>("txtNipChoice");
+        desk.type(box, text);
+        return &box;
+    };
+    for (const WayOut& way : waysOut) {
+        for (const char* text : {"Great", "a|b"}) {
+            SCOPED_TRACE(std::string(way.name) + text);
+            CustomizingDesk desk(false);
+            desk.allowed(2, "Pulse", "Good", 1);
+            desk.panel.Initialize(desk.db);
+            type(desk, 0, text);
+            EXPECT_FALSE(way.go(desk));
+            ASSERT_EQ(desk.user->boxes.size(), 1U);
+            EXPECT_EQ(desk.lastBox().title, "Discard Customization Confirmation");
+            EXPECT_EQ(desk.heading(), "Editing field [Pulse] of group [Vitals]");
+        }
+    }
+    CustomizingDesk desk;
+    QTest::keyClick(type(desk, 1, "Great"), Qt::Key_Return);
+    desk.settle();
+    EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]") << "Enter takes the choice alone";
+    type(desk, 1, "Greatest");
+    EXPECT_TRUE(desk.offers("cmdNipCustomizeButton(3)"));
+    desk.saveField();
+    EXPECT_EQ(desk.rows("Select FieldValue From DBFieldValues Order By Ordinal"), "Greatest Poor");
 }
 
 TEST(Customizing, LeavesAFieldWithoutChangesUnasked) {

@@ -54,7 +54,7 @@ TEST(FieldDraft, SaysWhatIsWrongAndWhere) {
         {name(QString(63, u'a'))},
         {name(QString(64, u'a')), FieldDraft::Name, "63 letters"},
         {name(QString(32, u'ö')), FieldDraft::Name, "63 letters"},
-        {name(QString(300, u'a')), FieldDraft::Name, "64 characters"},
+        {name(QString(300, u'a')), FieldDraft::Name, "63 letters"},
         {[](FieldDraft& d) { d.caption = QString(20, u'ö'); }},
         {[](FieldDraft& d) { d.caption = QString(21, u'c'); }, FieldDraft::Caption, "20 characters"},
         {choices(many)},

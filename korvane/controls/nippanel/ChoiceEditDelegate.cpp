@@ -20,6 +20,10 @@ QString ChoiceEditDelegate::fault() const {
     return static_cast<const ChoiceOrderModel*>(mEdited.model())->fault(mBox->text(), mEdited.row());
 }
 
+bool ChoiceEditDelegate::isTyping() const {
+    return mBox && mEdited.isValid() && mBox->text() != mEdited.data(Qt::EditRole).toString();
+}
+
 QWidget* ChoiceEditDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                           const QModelIndex& index) const {
     auto* box = new QLineEdit(parent);
@@ -29,7 +33,10 @@ QWidget* ChoiceEditDelegate::createEditor(QWidget* parent, const QStyleOptionVie
     box->setAutoFillBackground(true);
     mBox = box;
     mEdited = index;
-    connect(box, &QLineEdit::textChanged, this, [this] { showFault(); });
+    connect(box, &QLineEdit::textChanged, this, [this] {
+        showFault();
+        emit typed();
+    });
     return box;
 }
 
@@ -37,6 +44,7 @@ void ChoiceEditDelegate::destroyEditor(QWidget* editor, const QModelIndex& index
     if (editor == mBox) {
         mBox.clear();
         mEdited = QModelIndex();
+        emit typed();
     }
     ChoiceRowDelegate::destroyEditor(editor, index);
 }

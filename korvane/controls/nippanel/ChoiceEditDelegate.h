@@ -11,6 +11,8 @@ namespace Korvane {
 /// Shows which choice is the default, and edits a choice in place in a box (`txtNipChoice`) whose text takes
 /// a warning colour while the list would refuse it.
 class ChoiceEditDelegate : public ChoiceRowDelegate {
+    Q_OBJECT
+
   public:
     using ChoiceRowDelegate::ChoiceRowDelegate;
 
@@ -19,10 +21,16 @@ class ChoiceEditDelegate : public ChoiceRowDelegate {
     QModelIndex edited() const { return mEdited; }
     /// Why the list would refuse what is in the box; empty when it would not, or there is no box.
     QString fault() const;
+    /// Whether another text than the choice's stands in the box.
+    bool isTyping() const;
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     void destroyEditor(QWidget* editor, const QModelIndex& index) const override;
+
+  signals:
+    /// `isTyping` may have changed.
+    void typed() const;
 
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

@@ -4,6 +4,7 @@
 #include <korvane/controls/nippanel/ChoiceOrderModel.h>
 #include <korvane/controls/nippanel/ListEntryText.h>
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
 
@@ -44,6 +45,12 @@ bool ChoiceEditView::edit(const QModelIndex& index, EditTrigger trigger, QEvent*
     }
     if (opensBox && !takeEdit()) return false;
     return WrappingList::edit(index, trigger, event);
+}
+
+// The box leaves the Enter that ends it to its parents, where a dialog's default button must not get it.
+void ChoiceEditView::keyPressEvent(QKeyEvent* event) {
+    const bool ends = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!ends || !mDelegate->box()) WrappingList::keyPressEvent(event);
 }
 
 void ChoiceEditView::commitData(QWidget* editor) {

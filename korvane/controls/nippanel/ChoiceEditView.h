@@ -20,8 +20,11 @@ class ChoiceEditView : public WrappingList {
     /// when the list refuses it. True when nothing is edited.
     bool takeEdit();
 
+    const ChoiceEditDelegate& delegate() const { return *mDelegate; }
+
   protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void commitData(QWidget* editor) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 

@@ -1,6 +1,7 @@
 #include <korvane/controls/nippanel/ChoiceEditor.h>
 
 #include <korvane/controls/container/Text.h>
+#include <korvane/controls/nippanel/ChoiceEditDelegate.h>
 #include <korvane/controls/nippanel/ChoiceOrderList.h>
 #include <korvane/controls/nippanel/ChoiceOrderModel.h>
 #include <korvane/controls/nippanel/ListEntryText.h>
@@ -68,6 +69,7 @@ void ChoiceEditor::arrange() {
 void ChoiceEditor::connectList() {
     connect(mChoices, &QAbstractItemModel::dataChanged, this, &ChoiceEditor::edited);
     connect(mChoices, &QAbstractItemModel::rowsMoved, this, &ChoiceEditor::edited);
+    connect(&mList->delegate(), &ChoiceEditDelegate::typed, this, &ChoiceEditor::typed);
     for (auto changed : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(mChoices, changed, this, &ChoiceEditor::offerButtons);
     connect(mChoices, &QAbstractItemModel::rowsMoved, this, &ChoiceEditor::offerButtons);
@@ -99,6 +101,10 @@ int ChoiceEditor::selected() const {
 
 bool ChoiceEditor::takeEdit() {
     return mList->takeEdit();
+}
+
+bool ChoiceEditor::isTyping() const {
+    return mList->delegate().isTyping();
 }
 
 // While the user is asked, another field may be shown, or the pane be deleted: the answer is then for nothing

@@ -44,10 +44,14 @@ class ChoiceEditor : public QWidget {
     /// Takes a text that is still being typed in place. False when the list refuses it: the user has been
     /// told, and the focus is on it.
     bool takeEdit();
+    /// Whether a text that differs from its choice is still being typed.
+    bool isTyping() const;
 
   signals:
     /// The user has changed the choices, their order or which one is the default.
     void edited();
+    /// `isTyping` may have changed.
+    void typed();
 
   private:
     QPushButton* makeButton(int index, const QString& text, const QString& tip);

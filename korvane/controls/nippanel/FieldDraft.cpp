@@ -54,7 +54,7 @@ class Check {
   private:
     Fault name() const {
         if (mDraft.name == mOriginal.name) return {};
-        if (isTooLong(mDraft.name, mLimits.fieldName))
+        if (mLimits.fieldName < longestColumnName && isTooLong(mDraft.name, mLimits.fieldName))
             return DraftFault{FieldDraft::Name, tooLong("The field name", mLimits.fieldName)};
         if (utf8(mDraft.name).size() > longestColumnName)
             return DraftFault{FieldDraft::Name,

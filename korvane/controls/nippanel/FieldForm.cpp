@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
+#include <iterator>
 #include <utility>
 
 namespace Korvane {
@@ -26,9 +27,11 @@ constexpr std::pair<const char*, const char*> displayTypes[] = {
     {"Combobox-Restricted", "COMBOBOX-RESTRICTED"},
 };
 
-/// Also what the combo does not offer.
-void choose(QComboBox& combo, const QVariant& data) {
+/// Also what the combo does not offer, behind the `offered` items, for as long as this field is shown.
+void choose(QComboBox& combo, int offered, const QVariant& data) {
     const QSignalBlocker quiet(&combo);
+    while (combo.count() > offered)
+        combo.removeItem(offered);
     if (combo.findData(data) < 0) combo.addItem(data.toString(), data);
     combo.setCurrentIndex(combo.findData(data));
 }
@@ -70,6 +73,7 @@ FieldForm::FieldForm(QWidget* parent) : QWidget(parent) {
     connect(mName, &QLineEdit::textEdited, this, [this] { mProposesName = false; });
     connect(mCaption, &QLineEdit::textEdited, this, &FieldForm::proposeName);
     connect(mChoices, &ChoiceEditor::edited, this, &FieldForm::note);
+    connect(mChoices, &ChoiceEditor::typed, this, &FieldForm::note);
     for (QLineEdit* box : {mName, mCaption, mWidth, mRow})
         connect(box, &QLineEdit::textChanged, this, &FieldForm::note);
     for (QComboBox* combo : {mType, mRule})
@@ -109,9 +113,9 @@ void FieldForm::fill(const FieldDraft& field, bool isNew) {
     mProposesName = isNew;
     setText(*mName, field.name);
     setText(*mCaption, field.caption);
-    choose(*mType, field.displayType);
+    choose(*mType, std::size(displayTypes), field.displayType);
     setText(*mWidth, field.width);
-    choose(*mRule, field.rule);
+    choose(*mRule, 2, field.rule);
     setText(*mRow, field.row);
     mRow->setPlaceholderText(isNew ? "the last" : "as it is");
     const QSignalBlocker quiet(mChoices);
@@ -141,6 +145,14 @@ FieldDraft FieldForm::draft() const {
     return draft;
 }
 
+bool FieldForm::isChanged() const {
+    return draft() != mOriginal || mChoices->isTyping();
+}
+
+bool FieldForm::isBox(const QWidget* widget) const {
+    return widget && (widget == mName || widget == mCaption || widget == mWidth || widget == mRow);
+}
+
 QWidget* FieldForm::input(FieldDraft::Input input) const {
     QWidget* const inputs[] = {mName, mCaption, mType, mWidth, mRule, mRow, mChoices};
     return inputs[input];
@@ -165,7 +177,8 @@ void FieldForm::note() {
     mark(FieldDraft::Width, now.width != mOriginal.width, mOriginal.width);
     mark(FieldDraft::Rule, now.rule != mOriginal.rule, mRule->itemText(mRule->findData(mOriginal.rule)));
     mark(FieldDraft::Row, now.row != mOriginal.row, mOriginal.row);
-    mark(FieldDraft::Choices, now.choices != mOriginal.choices || now.selected != mOriginal.selected,
+    const bool choicesChanged = now.choices != mOriginal.choices || now.selected != mOriginal.selected;
+    mark(FieldDraft::Choices, choicesChanged || mChoices->isTyping(),
          mOriginal.choices.mid(0, 10).join(", "));
 
     QPalette colours = palette();

@@ -36,7 +36,10 @@ class FieldForm : public QWidget {
     bool takeEdit();
     FieldDraft draft() const;
     const FieldDraft& original() const { return mOriginal; }
-    bool isChanged() const { return draft() != mOriginal; }
+    /// Also while a choice is still being typed.
+    bool isChanged() const;
+    /// Whether it is one of the boxes for text (`txtCustNip`).
+    bool isBox(const QWidget* widget) const;
     void focus(FieldDraft::Input input);
 
   signals:

@@ -13,7 +13,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPointer>
 
 namespace Korvane {
@@ -29,8 +28,8 @@ void ucNIPPanel::Members::listenToCustomizing() {
     connect(&pane, &CustomizePane::clicked, &panel, [this](int button) { clickCustomize(button); });
     connect(&pane, &CustomizePane::fieldChosen, &panel, [this](int field) { chooseField(field); });
     connect(&pane, &CustomizePane::turned, &panel, [this] { markField(); });
-    connect(&form->picker(), &FieldPicker::picked, &panel, [this](int, int field) {
-        if (chooseField(field)) form->customizePane().focusList();
+    connect(&form->picker(), &FieldPicker::picked, &panel, [this](int group, int field) {
+        if (group == form->customizePane().group() && chooseField(field)) form->customizePane().focusList();
     });
     // Whoever hears of it may ask something: not in the middle of the click.
     connect(
@@ -202,9 +201,8 @@ bool ucNIPPanel::Members::asksToLeave(const CustomizePane& pane) {
 /// In one of the pane's boxes Enter stores the field, and never presses what a dialog around the panel takes
 /// for its default button.
 bool ucNIPPanel::Members::isEnterInPane(const QKeyEvent& key) const {
-    const QWidget* focus = QApplication::focusWidget();
     return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) &&
-           qobject_cast<const QLineEdit*>(focus) && form->customizePane().isAncestorOf(focus);
+           form->customizePane().form().isBox(QApplication::focusWidget());
 }
 
 /// What the keys of the panel mean while it is customized: storing and leaving the field comes before storing
