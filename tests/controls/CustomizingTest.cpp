@@ -3,6 +3,7 @@
 #include <korvane/nip/cNIP.h>
 
 #include <QAbstractItemView>
+#include <QPointer>
 
 #include <gmock/gmock.h>
 
@@ -488,6 +489,30 @@ TEST(Customizing, WorksWithoutAnOpenNip) {
     EXPECT_THAT(desk.heard, IsEmpty());
     EXPECT_TRUE(desk.panel.requestClose());
     EXPECT_TRUE(desk.part<QWidget>("paneCustomize").isVisible());
+}
+
+TEST(Customizing, ThePanelMayBeDeletedWhileItAsks) {
+    const std::function<void(ucNIPPanel&)> tasks[] = {
+        [](ucNIPPanel& p) { p.findChild<QAbstractButton*>("cmdNipCustomizeButton(2)")->click(); },
+        [](ucNIPPanel& p) { p.findChild<QAction*>("ID_DeleteNipGroup")->trigger(); },
+        [](ucNIPPanel& p) { p.findChild<QTabWidget*>("atNips")->setCurrentIndex(1); },
+        [](ucNIPPanel& p) { p.LoadNipInfo(7, "P1"); },
+        [](ucNIPPanel& p) { p.CustomizeOnly(false); },
+    };
+    for (const auto& task : tasks) {
+        CustomizingDesk desk;
+        const QPointer<ucNIPPanel> panel = new ucNIPPanel;
+        panel->Initialize(desk.db);
+        panel->CustomizeOnly(true);
+        panel->CustomizeNip();
+        panel->findChild<QAbstractButton*>("cmdNipCustomizeButton(0)")->click();
+        desk.user->answers = {Answer::Yes};
+        desk.user->whenShown = [&] { delete panel.data(); };
+        task(*panel);
+        desk.settle();
+        EXPECT_EQ(desk.user->boxes.size(), 1U);
+        EXPECT_TRUE(panel.isNull());
+    }
 }
 
 TEST(Customizing, NothingElseIsDoneWhileItAsks) {

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -49,7 +50,9 @@ bool ucNIPPanel::CustomizeOnly() const {
 void ucNIPPanel::CustomizeOnly(bool on) {
     const bool leaves = m->customizeOnly && !on;
     m->customizeOnly = on;
-    if (leaves) m->leaveCustomizing();
+    const QPointer<ucNIPPanel> alive(this);
+    if (leaves) m->leaveCustomizing(); // which may ask, and let the host delete the panel meanwhile
+    if (!alive) return;
     m->arrange();
     emit PropertyChanged("CustomizeOnly");
 }
