@@ -434,6 +434,44 @@ TEST(Customizing, TakesOnWhatAnotherDeskHasChangedAndKeepsWhatIsWritten) {
     }
 }
 
+TEST(Customizing, WhatIsNotWrittenInThePaneIsAsTheOtherDeskMadeIt) {
+    CustomizingDesk desk;
+    desk.chooseListed(1);
+    desk.type(desk.width(), "60");
+    cNIP other;
+    ASSERT_TRUE(other.LoadStructure(desk.db));
+    ASSERT_TRUE(other.EditField(1, 2,
+                                {.fieldName = "Feeling",
+                                 .caption = "The Mood",
+                                 .maxLength = 50,
+                                 .displayType = "COMBOBOX",
+                                 .initialValueRule = 1,
+                                 .values = {"Good", "Fair", "Poor"},
+                                 .defaultValue = "Fair",
+                                 .rowIndex = 1}) &&
+                other.SaveStructure());
+    desk.saveField();
+    EXPECT_THAT(desk.lastBox().text, HasSubstr("Another desk has customized this form"));
+    EXPECT_EQ(desk.heading(), "Editing field [Feeling] of group [Vitals]");
+    EXPECT_EQ(utf8(desk.name().text() + desk.width().text() + desk.row().text()), "Feeling601");
+    desk.saveField();
+    EXPECT_EQ(desk.user->boxes.size(), 1U);
+    EXPECT_EQ(desk.listed(), "Feeling Pulse");
+    EXPECT_THAT(desk.fields(), HasSubstr("Feeling|The Mood|COMBOBOX|60"));
+    EXPECT_EQ(desk.rows("Select FieldValue,DefaultValue From DBFieldValues Order By Ordinal"),
+              "Good|False Fair|True Poor|False");
+}
+
+TEST(Customizing, ANameOfOnesOwnIsKeptAfterAFailure) {
+    CustomizingDesk desk;
+    desk.newField();
+    desk.type(desk.name(), "BodyWeight");
+    desk.db->failOn = "Insert Into DBFields";
+    desk.saveField();
+    desk.type(desk.caption(), "Weight");
+    EXPECT_EQ(desk.name().text(), "BodyWeight");
+}
+
 TEST(Customizing, AStructureThatCannotBeReadAgainIsReadBeforeItIsNeeded) {
     for (const bool savesField : {true, false}) {
         CustomizingDesk desk;

@@ -142,8 +142,9 @@ bool CustomizePane::resume(const cNIP& nip) {
     mNip = &nip;
     mGroup = place.group;
     mGrid->list(&nip, mGroup);
-    take(isNew, place.field, written);
-    mForm->compareWith(isNew ? begun : draftOf(nip, mGroup, place.field));
+    const FieldDraft now = isNew ? begun : draftOf(nip, mGroup, place.field);
+    take(isNew, place.field, broughtUp(written, begun, now));
+    mForm->compareWith(now);
     return true;
 }
 

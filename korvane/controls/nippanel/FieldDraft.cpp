@@ -164,6 +164,19 @@ FieldDraft draftOf(const cNIP& nip, std::int16_t group, std::int16_t field) {
     return draft;
 }
 
+FieldDraft broughtUp(const FieldDraft& written, const FieldDraft& begun, const FieldDraft& now) {
+    FieldDraft draft = now;
+    for (const auto text : {&FieldDraft::name, &FieldDraft::caption, &FieldDraft::displayType,
+                            &FieldDraft::width, &FieldDraft::row})
+        if (written.*text != begun.*text) draft.*text = written.*text;
+    if (written.rule != begun.rule) draft.rule = written.rule;
+    if (written.choices != begun.choices || written.selected != begun.selected) {
+        draft.choices = written.choices;
+        draft.selected = written.selected;
+    }
+    return draft;
+}
+
 std::variant<FieldDefinition, DraftFault> definitionOf(const FieldDraft& draft, const FieldDraft& original,
                                                        const StructureLimits& limits) {
     return Check(draft, original, limits).run();

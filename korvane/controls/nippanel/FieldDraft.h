@@ -39,6 +39,10 @@ struct DraftFault {
 /// A field of the model.
 FieldDraft draftOf(const cNIP& nip, std::int16_t group, std::int16_t field);
 
+/// A draft that was begun with `begun`, for the field as it is `now`: what was written stays, the rest is as
+/// it is now. The choices and their default are one thing.
+FieldDraft broughtUp(const FieldDraft& written, const FieldDraft& begun, const FieldDraft& now);
+
 /// The definition that a draft stands for, or the first thing that is wrong with it, beside what
 /// `isValidFieldName` says. What is as it was in `original` is never wrong: a field that other programs made
 /// keeps a width of 0 (no limit), an unknown display type, choices that do not fit. An empty row, and one

@@ -110,7 +110,7 @@ void FieldForm::addRow(FieldDraft::Input input, const QString& label, QWidget* w
 }
 
 void FieldForm::fill(const FieldDraft& field, bool isNew) {
-    mProposesName = isNew;
+    mProposesName = isNew && field.name == cleanedFieldName(field.caption);
     setText(*mName, field.name);
     setText(*mCaption, field.caption);
     choose(*mType, std::size(displayTypes), field.displayType);

@@ -2,6 +2,7 @@
 
 #include <korvane/controls/nippanel/Counted.h>
 #include <korvane/nip/cNIP.h>
+#include <korvane/runtime/Text.h>
 
 namespace Korvane {
 
@@ -11,11 +12,31 @@ std::int32_t identifierOf(const cNIP& nip, std::int16_t group) {
     return nip.FieldCount(group) > 0 ? nip.GroupID(group, 1) : 0;
 }
 
+/// The only field of a group that is like that; 0 when there is none, or there are several.
+template <typename IsLike>
+std::int16_t onlyField(const cNIP& nip, std::int16_t group, IsLike isLike) {
+    std::int16_t found = 0;
+    for (const std::int16_t field : CountedFrom1(nip.FieldCount(group))) {
+        if (!isLike(field)) continue;
+        if (found > 0) return 0;
+        found = field;
+    }
+    return found;
+}
+
+std::int16_t fieldWithCaption(const cNIP& nip, std::int16_t group, const std::string& caption) {
+    return onlyField(nip, group, [&](std::int16_t field) { return nip.Caption(group, field) == caption; });
+}
+
 } // namespace
 
 HeldField HeldField::of(const cNIP& nip, FieldPlace place) {
-    return {identifierOf(nip, place.group), nip.GroupName(place.group),
-            place.field > 0 ? nip.fieldName(place.group, place.field) : std::string()};
+    HeldField held{identifierOf(nip, place.group), nip.GroupName(place.group), {}, {}};
+    if (place.field < 1) return held;
+    held.fieldName = nip.fieldName(place.group, place.field);
+    const std::string& caption = nip.Caption(place.group, place.field);
+    if (fieldWithCaption(nip, place.group, caption) > 0) held.caption = caption;
+    return held;
 }
 
 FieldPlace HeldField::in(const cNIP& nip) const {
@@ -23,8 +44,10 @@ FieldPlace HeldField::in(const cNIP& nip) const {
         const std::int32_t id = identifierOf(nip, group);
         if (id > 0 && groupID > 0 ? id != groupID : nip.GroupName(group) != groupName) continue;
         if (fieldName.empty()) return {group, 0};
-        for (const std::int16_t field : CountedFrom1(nip.FieldCount(group)))
-            if (nip.fieldName(group, field) == fieldName) return {group, field};
+        std::int16_t field = onlyField(
+            nip, group, [&](std::int16_t other) { return sameName(nip.fieldName(group, other), fieldName); });
+        if (field < 1 && !caption.empty()) field = fieldWithCaption(nip, group, caption);
+        if (field > 0) return {group, field};
     }
     return {};
 }

@@ -21,6 +21,7 @@ struct HeldField {
     std::int32_t groupID = 0; ///< 0: of a group without fields
     std::string groupName;
     std::string fieldName; ///< empty: a new one
+    std::string caption;   ///< tells it under another name; empty: another field has the same
 };
 
 } // namespace Korvane
