@@ -21,6 +21,7 @@ DatePartBox::DatePartBox(int index, QWidget* parent) : QLineEdit(parent), mIndex
     setObjectName(QStringLiteral("txtDate(%1)").arg(index));
     // Digits run from left to right wherever the form comes from.
     setLayoutDirection(Qt::LeftToRight);
+    setInputMethodHints(Qt::ImhDigitsOnly);
     setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), this));
 }
 

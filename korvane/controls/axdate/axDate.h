@@ -37,6 +37,9 @@ struct DateParts;
 /// Beyond that: Up and Down step the part in hand, Left and Right at the edge of a box move to the next one,
 /// a whole date pasted or dropped fills all boxes, copying copies the whole date.
 ///
+/// Its slots may show boxes. They delete it with `deleteLater` only: the key that raised the event is still
+/// being handled.
+///
 /// Its own errors are shown in a message box without a title. What `requireFourDigitYear` is comes from the
 /// property bag alone; without one it is True.
 class axDate : public UserControl, private FocusSteps::Handler {

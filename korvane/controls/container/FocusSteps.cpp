@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QThread>
 #include <QTimer>
 #include <QVariant>
 
@@ -27,25 +28,28 @@ class Successor : public QObject {
     bool mArrived = false;
 };
 
-/// The press of the mouse that asked for the focus does nothing else either, up to its release.
+/// The press of the mouse that asked for the focus does nothing else either, up to its release. It comes once
+/// the boxes that the refusal has brought up are gone; what they get themselves is theirs.
 class SwallowedPress : public QObject {
   public:
-    SwallowedPress() : QObject(qApp) {
+    SwallowedPress() : QObject(qApp), mLevel(thread()->loopLevel()) {
         qApp->installEventFilter(this);
-        QTimer::singleShot(0, this, [this] {
-            if (!mPressed) delete this;
+        // There is none after a host's own call for the focus.
+        connect(&mPatience, &QTimer::timeout, this, [this] {
+            if (!mPressed && !isBelow()) delete this;
         });
+        mPatience.start(50);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (!watched->isWidgetType()) return false;
+        if (!watched->isWidgetType() || isBelow()) return false;
         switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
             mPressed = true;
+            if (QGuiApplication::mouseButtons() == Qt::NoButton) end(); // released into such a box
             return true;
         case QEvent::MouseButtonRelease:
-            deleteLater();
-            qApp->removeEventFilter(this);
+            end();
             return true;
         default:
             return false;
@@ -53,6 +57,14 @@ class SwallowedPress : public QObject {
     }
 
   private:
+    bool isBelow() const { return thread()->loopLevel() > mLevel; }
+    void end() {
+        qApp->removeEventFilter(this);
+        deleteLater();
+    }
+
+    int mLevel;
+    QTimer mPatience;
     bool mPressed = false;
 };
 

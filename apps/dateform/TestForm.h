@@ -1,0 +1,37 @@
+#pragma once
+
+#include <korvane/controls/axdate/axDate.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QWidget>
+
+namespace DateForm {
+
+/// The date control between two text boxes, its bounds and switches, and a list of the events it raises.
+///
+/// What the form adds is the host's part: a date outside the bounds is told in a box "Date Error" once the
+/// control has been left, and the focus goes back to its month; what the control refuses is shown below it.
+class TestForm : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit TestForm(QWidget* parent = nullptr);
+
+  private:
+    QWidget* makeForm();
+    QWidget* makeSettings();
+    QWidget* makeEvents();
+    void listen();
+    void hear(const QString& event);
+    void checkBounds();
+    void requireFourDigits(bool on);
+
+    QLineEdit* mName;
+    Korvane::axDate* mDate;
+    QLabel* mRefusal;
+    QListWidget* mEvents;
+};
+
+} // namespace DateForm
