@@ -175,6 +175,21 @@ TEST(Customizing, TabGoesThroughThePaneInTheOrderInWhichItIsRead) {
                                    "cmdNipCustomizeButton(2)", "cmdNipCustomizeButton(3)"));
 }
 
+TEST(Customizing, TabReachesWhatStandsAboveTheForm) {
+    CustomizingDesk desk;
+    auto& tools = desk.part<QToolBar>("ToolBars1");
+    std::vector<QWidget*> expected;
+    for (QAction* tool : tools.actions())
+        expected.push_back(tools.widgetForAction(tool));
+    for (const char* name : {"cmdBackToNip", "cmdCloseNipCustomize", "cmdCloseNip", "txtEncounterInfo"})
+        expected.push_back(&desk.part<QWidget>(name));
+    desk.part<QWidget>("cmdNipButton(1)").setFocus();
+    for (const QWidget* next : expected) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(next->hasFocus()) << utf8(next->objectName());
+    }
+}
+
 TEST(Customizing, WhatIsWrongIsInViewWithTheFocus) {
     CustomizingDesk desk;
     desk.panel.resize(700, 350);

@@ -47,6 +47,13 @@ void CustomizeBar::arrange(bool customizeOnly) {
     mClose->setVisible(!customizeOnly);
 }
 
+QList<QWidget*> CustomizeBar::tabOrder() const {
+    QList<QWidget*> order;
+    for (QAction* action : mTools->actions())
+        order << mTools->widgetForAction(action);
+    return order << mBack << mClose;
+}
+
 void CustomizeBar::showGroup(const QString& title, int fields) {
     mDeleteGroup->setEnabled(!title.isEmpty());
     mCustomizeGroup->setEnabled(!title.isEmpty());

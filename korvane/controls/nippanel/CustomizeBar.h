@@ -23,6 +23,9 @@ class CustomizeBar : public QWidget {
     /// the title is empty.
     void showGroup(const QString& title, int fields);
 
+    /// What takes the focus, in the order in which it stands.
+    QList<QWidget*> tabOrder() const;
+
   signals:
     void newGroupClicked();
     void deleteGroupClicked();

@@ -57,11 +57,10 @@ class FixedSplitter : public QSplitter {
 } // namespace
 
 PanelForm::PanelForm(QWidget* parent)
-    : QWidget(parent), mState(new QLabel(this)), mClose(makeCloseButton(this)), mBar(nullptr) {
+    : QWidget(parent), mState(new QLabel(this)), mClose(nullptr), mBar(nullptr) {
     mState->setObjectName("lblNipState");
     auto* top = new QHBoxLayout;
     top->addWidget(mState, 1);
-    top->addWidget(mClose);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(top);
@@ -69,8 +68,13 @@ PanelForm::PanelForm(QWidget* parent)
     layout->addWidget(makeSplitter(), 1);
     layout->addWidget(mButtons = new ButtonRow(this));
 
+    top->addWidget(mClose = makeCloseButton(this)); // the last in the tab order
+    QWidget* before = &mButtons->button(ButtonRow::Customize);
+    for (QWidget* next : mBar->tabOrder()) {
+        setTabOrder(before, next);
+        before = next;
+    }
     setFocusProxy(mEncounter);
-    setTabOrder(&mButtons->button(ButtonRow::Customize), mClose);
     connect(mClose, &QAbstractButton::clicked, this, &PanelForm::closeClicked);
     showCustomizing(false);
 }
