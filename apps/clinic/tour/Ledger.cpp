@@ -38,7 +38,7 @@ std::vector<StoredRow> Ledger::read(const Source& source, const std::string& con
     rows->Open("Select " + list + " From " + source.table + condition + " Order By EncounterID", mConnection);
     std::vector<StoredRow> read;
     for (; !rows->Eof(); rows->MoveNext()) {
-        StoredRow& row = read.emplace_back(source.table);
+        StoredRow& row = read.emplace_back(StoredRow{source.table, {}});
         for (std::size_t i = 0; i < source.columns.size(); ++i)
             row.columns.emplace_back(source.columns[i], rows->Value(static_cast<int>(i)).textOrEmpty());
     }
