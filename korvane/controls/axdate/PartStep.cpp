@@ -28,14 +28,15 @@ std::string steppedPart(const DateParts& parts, std::size_t index, int by, Date 
     const auto value = parseNumber(text);
     const DateParts now = splitDate(today.text()).value_or(DateParts{});
     if (!value) return now.texts[index];
+    const int typed = static_cast<int>(std::clamp(*value, -9999.0, 9999.0));
     switch (index) {
     case DateParts::month:
-        return std::to_string(std::clamp(static_cast<int>(*value) + by, 1, 12));
+        return std::to_string(std::clamp(typed + by, 1, 12));
     case DateParts::day:
-        return std::to_string(std::clamp(static_cast<int>(*value) + by, 1, lastDayWhereKnown(parts)));
+        return std::to_string(std::clamp(typed + by, 1, lastDayWhereKnown(parts)));
     default: {
         const auto first = splitDate("1/1/" + text);
-        const int year = first ? std::stoi(first->texts[DateParts::year]) : static_cast<int>(*value);
+        const int year = first ? std::stoi(first->texts[DateParts::year]) : typed;
         const std::string stepped = std::to_string(std::clamp(year + by, 100, 9999));
         return std::string(4 - stepped.size(), '0') + stepped;
     }

@@ -47,6 +47,9 @@ class PaneScroll : public QScrollArea {
         connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { reveal(now); });
     }
 
+    /// The focus moves on from what is in it while it goes, when it is no scroll area any more.
+    ~PaneScroll() override { disconnect(qApp, nullptr, this, nullptr); }
+
     QSize minimumSizeHint() const override {
         const int bar = verticalScrollBarWidth();
         return {widget() ? widget()->minimumSizeHint().width() + bar : bar,
