@@ -1,6 +1,8 @@
 #include "support/DateForm.h"
 
+#include <QAction>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QMimeData>
 
 namespace Korvane {
@@ -41,6 +43,14 @@ void paste(const char* text) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
 }
 
+void choose(QLineEdit& box, const char* action) {
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&box, &event);
+    QWidget* menu = QApplication::activePopupWidget();
+    menu->findChild<QAction*>(action)->trigger();
+    menu->close();
+}
+
 } // namespace
 
 TEST(axDate, TakesADateKeyByKeyAndRaisesEachEventInItsPlace) {
@@ -67,6 +77,7 @@ TEST(axDate, ShowsTheWholeDateInItsBoxesAndSelectsEachOneItComesTo) {
     check(form, {"\t", "1|2|2026", "1/2/2026", "0", {"index 0"}});
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(form.box(i).selectedText(), form.box(i).text());
+        EXPECT_EQ(form.box(i).accessibleName(), QStringList({"Month", "Day", "Year"}).at(i));
         form.press("\t");
     }
     EXPECT_THAT(form.take(), ElementsAre("index 1", "index 2", exitText));
@@ -223,6 +234,11 @@ TEST(axDate, FillsAllBoxesFromAWholeDateAndCopiesIt) {
     EXPECT_EQ(form.boxes(), "11|15|1984");
     paste("1985");
     EXPECT_EQ(form.wholeDate(), "11/15/1985") << "digits are for the box in hand";
+    QApplication::clipboard()->setText("2026-11-15 17:21:51");
+    choose(form.box(0), "edit-paste");
+    EXPECT_EQ(form.wholeDate(), "11/15/2026");
+    choose(form.box(0), "edit-copy");
+    EXPECT_EQ(QApplication::clipboard()->text(), "11/15/2026");
     form.press("\t");
     form.take();
     QMimeData dragged;
@@ -257,6 +273,16 @@ TEST(axDate, TheUserGetsInOnlyWhileItIsEnlivened) {
     check(form, {"<", "1|2|2026", "1/2/2026", "2", {"index 2"}});
 }
 
+TEST(axDate, StandsWhereTheHostHasPutItInTheTabOrder) {
+    DateForm form("1/2/2026");
+    QWidget::setTabOrder(form.after, form.date);
+    QWidget::setTabOrder(form.date, form.help);
+    form.after->setFocus();
+    check(form, {"\t", "1|2|2026", "1/2/2026", "0", {"index 0"}});
+    check(form, {"\n", "1|2|2026", "1/2/2026", "help", {"index 1", "index 2", "exitfocus"}});
+    check(form, {"<<<<", "1|2|2026", "1/2/2026", "after", {"index 2", "index 1", "index 0", "exitfocus"}});
+}
+
 TEST(axDate, AnotherWindowInFrontIsNoLeaving) {
     DateForm form("1/2/2026");
     form.press("\t13");
@@ -274,10 +300,12 @@ TEST(axDate, AnotherWindowInFrontIsNoLeaving) {
 TEST(axDate, ItsPartsStandInARowThatHoldsTheirTextsAtAnyFontSize) {
     for (const int points : {8, 10, 20, 32}) {
         SCOPED_TRACE(points);
+        const bool mirrored = points == 20;
         DateForm form("12/28/2028");
         QFont font = form.form.font();
         font.setPointSize(points);
         form.form.setFont(font);
+        form.form.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
         form.form.resize(form.form.sizeHint());
         form.press("\t");
         EXPECT_EQ(form.whole().geometry(), form.date->rect());

@@ -87,19 +87,19 @@ void DatePartBox::takeClipboard() {
     take(QGuiApplication::clipboard()->text());
 }
 
-/// The usual menu, with copying and pasting as the keys have them.
+/// What the base's menu copies and pastes is the part alone.
 void DatePartBox::contextMenuEvent(QContextMenuEvent* event) {
-    QMenu* menu = createStandardContextMenu();
+    auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (auto* copy = menu->findChild<QAction*>(QStringLiteral("edit-copy"))) {
-        copy->disconnect(this);
-        copy->setEnabled(true);
-        connect(copy, &QAction::triggered, this, &DatePartBox::copyWanted);
-    }
-    if (auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-        paste->disconnect(this);
-        connect(paste, &QAction::triggered, this, &DatePartBox::takeClipboard);
-    }
+    const auto offer = [&](const char* name, const QString& text, auto deed) {
+        auto* action = menu->addAction(text, this, deed);
+        action->setObjectName(QLatin1String(name));
+        return action;
+    };
+    offer("edit-cut", tr("Cu&t"), &QLineEdit::cut)->setEnabled(hasSelectedText());
+    offer("edit-copy", tr("&Copy date"), &DatePartBox::copyWanted);
+    offer("edit-paste", tr("&Paste"), &DatePartBox::takeClipboard);
+    offer("edit-select-all", tr("Select &all"), &QLineEdit::selectAll);
     menu->popup(event->globalPos());
 }
 

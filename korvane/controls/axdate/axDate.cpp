@@ -34,6 +34,8 @@ axDate::axDate(QWidget* parent) : UserControl(parent), txtWholeDate(new QLineEdi
     makeBox(0, tr("Month"), tr("MM"));
     makeBox(1, tr("Day"), tr("DD"));
     makeBox(2, tr("Year"), tr("YYYY"));
+    // Without a policy of its own it would have no place in a tab order. Its gaps take no clicks.
+    setFocusPolicy(Qt::TabFocus);
     setFocusProxy(txtWholeDate);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
+#include <QScopedValueRollback>
 #include <QString>
 #include <QWidget>
 
@@ -14,6 +16,7 @@ namespace {
 struct Key {
     int code;
     QString text;
+    QPointer<QWidget> window = QApplication::activeWindow();
 };
 
 std::deque<Key>& waiting() {
@@ -21,15 +24,24 @@ std::deque<Key>& waiting() {
     return keys;
 }
 
-void pressNext() {
-    if (waiting().empty()) return;
-    const Key key = waiting().front();
-    waiting().pop_front();
+void press(const Key& key) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QWidget* target = QApplication::focusWidget();
-        if (!target) return;
+        if (!target || target->window() != key.window) return;
         QKeyEvent event(type, key.code, Qt::NoModifier, key.text);
         QCoreApplication::sendEvent(target, &event);
+    }
+}
+
+/// A key may let events run while the focus that it moves is still on its way: the next one waits for it.
+void pressWaiting() {
+    static bool pressing = false;
+    if (pressing) return;
+    const QScopedValueRollback busy(pressing, true);
+    while (!waiting().empty()) {
+        const Key key = waiting().front();
+        waiting().pop_front();
+        press(key);
     }
 }
 
@@ -46,10 +58,9 @@ Key takeKey(const QString& keys, qsizetype& at) {
 } // namespace
 
 void sendKeys(const QString& keys) {
-    for (qsizetype at = 0; at < keys.size();) {
+    for (qsizetype at = 0; at < keys.size();)
         waiting().push_back(takeKey(keys, at));
-        QMetaObject::invokeMethod(qApp, &pressNext, Qt::QueuedConnection);
-    }
+    QMetaObject::invokeMethod(qApp, &pressWaiting, Qt::QueuedConnection);
 }
 
 void discardSentKeys() {

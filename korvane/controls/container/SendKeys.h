@@ -9,7 +9,7 @@ namespace Korvane {
 ///
 ///     sendKeys("{TAB}{TAB}");     // on to the control after the next
 ///
-/// Keys without anything that has the focus are lost.
+/// They are meant for the window that is in front now: once another one is, they are lost.
 void sendKeys(const QString& keys);
 
 /// Throws away the keys that are still to be pressed: something has refused to let the focus go.
