@@ -11,7 +11,8 @@
 namespace Korvane::Testing {
 
 /// A PostgreSQL server of the test's own, with the database "postgres" and the superuser "clinic", who needs
-/// no password. The test may stop it as it likes; it is gone, with all that it kept, at the end.
+/// no password. The test may stop it as it likes; it is gone, with all that it kept, at the end,
+/// also when the test is killed.
 ///
 ///     if (!PrivateServer::isInstalled()) GTEST_SKIP() << PrivateServer::notInstalled;
 ///     PrivateServer server;
@@ -47,8 +48,10 @@ class PrivateServer {
   private:
     /// As the user who may run a server. Raises when it fails, with what it said.
     void run(const std::string& program, const std::string& arguments) const;
+    void watch();
 
     ScratchDir mDir;
+    int mAlive = -1; ///< the pipe that closes when the test dies
     bool mRuns = false;
 };
 
