@@ -102,8 +102,11 @@ class SQLData {
     /// The latest failure of this object, also one that was not shown; nothing when none has failed.
     const std::optional<RuntimeError>& LastError() const { return mLastError; }
 
-  private:
+    /// Reports a failure as one of this object: also one of what stands around its statements, such as a
+    /// commit.
     void ReportError(RuntimeError error);
+
+  private:
     void ReportError(std::string_view description);
     bool readable(std::string_view withoutRecordset);
     void openRecordset(const std::shared_ptr<ado::Connection>& connection, std::string_view statement);

@@ -14,6 +14,7 @@ namespace Korvane {
 namespace {
 
 constexpr std::string_view kSaving = "Error in Attachment.SaveObjectToDatabase: ";
+constexpr std::string_view kDeleting = "Error in Attachment.DeleteObjectFromDatabase: ";
 constexpr std::string_view kLoading = "Error in Attachment.LoadObjectFromDatabase: ";
 
 const std::array<std::string, 7>& categories() {
@@ -177,27 +178,26 @@ bool Attachment::SaveObjectToDatabase() {
         ErrLog(std::string(kSaving) + "The stored row could not be read, aborting!");
         return false;
     }
-    if (const auto number = wholeNumber(id)) mRow.update(*this, mConnection, *number);
+    if (const auto number = wholeNumber(id)) mRow.update(*this, mConnection, *number, kSaving);
     return true;
 }
 
 bool Attachment::Delete() {
-    const bool deleted = guarded("Error in Attachment.DeleteObjectFromDatabase: ", false,
-                                 [this] { return DeleteObjectFromDatabase(mAttachmentID.textOrEmpty()); });
+    const bool deleted =
+        guarded(kDeleting, false, [this] { return DeleteObjectFromDatabase(mAttachmentID.textOrEmpty()); });
     mChanged = false;
     return deleted;
 }
 
 bool Attachment::DeleteObjectFromDatabase(std::string_view id) {
-    SQLData query;
     const auto number = wholeNumber(id);
-    if (number && !mRow.find(query, mConnection, *number)) return false;
-    if (!number || query.Eof()) {
+    const Deletion deletion =
+        number ? mRow.remove(mConnection, *number, "delete from Attachment WHERE AttachmentID=" + *number,
+                             kDeleting)
+               : Deletion::NoRow;
+    if (deletion == Deletion::NoRow)
         vLogAdd("Attachment:DeleteObjectFromDatabase", "AttachmentID doesn't exist, aborting!", 2);
-        return false;
-    }
-    query.SQL(mConnection, "delete from Attachment WHERE AttachmentID=" + *number, true, AccessMode::Read);
-    return true;
+    return deletion == Deletion::Run;
 }
 
 } // namespace Korvane

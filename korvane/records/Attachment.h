@@ -74,19 +74,20 @@ class Attachment {
 
     /// Inserts with the next free identifier (the highest plus 1, at least 1), or updates. False, with a line
     /// in the error log, when `EncounterID` is below 0, when no next identifier could be found, or when the
-    /// row it would overwrite could not be read before. The outcome of the statement itself is not told: see
+    /// row it would overwrite could not be read before. A row that is gone or another encounter's by now is
+    /// not written, with a line in the error log. The outcome of the statement itself is not told: see
     /// `Stored`. After an insert that failed `AttachmentID` is Empty still, and the next `Save` inserts
     /// again, with an identifier that is then free; where the connection was lost with it, only when the row
     /// is not there after all.
     bool Save();
 
     /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
-    /// an update of a row that is gone, and before any `Save`. It does not know of a transaction that is
-    /// rolled back later: keep a copy from before to go back to.
+    /// an update of a row that is gone or another encounter's by now, and before any `Save`. It does not know
+    /// of a transaction that is rolled back later: keep a copy from before to go back to.
     bool Stored() const { return mRow.stored(); }
 
-    /// False, with a message of level 2 in the message log, when there is no such row of its own. The file
-    /// itself stays.
+    /// False, with a message of level 2 in the message log, when there is no such row, and with a line in the
+    /// error log when it is not the one that was loaded or stored. The file itself stays.
     bool Delete();
 
   private:
@@ -105,7 +106,7 @@ class Attachment {
     bool mLocked = false;
     bool mChanged = false;
     std::shared_ptr<ado::Connection> mConnection;
-    RecordRow<Attachment> mRow{"Attachment", columns()};
+    RecordRow<Attachment> mRow{"Attachment", columns(), "EncounterID"};
 };
 
 } // namespace Korvane

@@ -3,7 +3,6 @@
 #include <korvane/data/ErrLog.h>
 #include <korvane/data/SQLData.h>
 #include <korvane/runtime/RuntimeError.h>
-#include <korvane/runtime/Text.h>
 
 #include <algorithm>
 #include <limits>
@@ -13,6 +12,7 @@ namespace Korvane {
 namespace {
 
 constexpr std::string_view kSaving = "Error in Encounter.SaveObjectToDatabase: ";
+constexpr std::string_view kDeleting = "Error in Encounter.DeleteObjectFromDatabase: ";
 constexpr std::string_view kLoading = "Error in Encounter.LoadObjectFromDatabase: ";
 constexpr std::string_view kLoadingAttachments = "Error in Encounter.LoadAttachments: ";
 
@@ -80,7 +80,7 @@ bool Encounter::SaveObjectToDatabase() {
     }
     if (!Settle()) return false;
     if (isNew()) return mRow.insert(*this, mConnection, kSaving);
-    mRow.update(*this, mConnection, std::to_string(mEncounterID));
+    mRow.update(*this, mConnection, std::to_string(mEncounterID), kSaving);
     return true;
 }
 
@@ -89,12 +89,7 @@ bool Encounter::Settle() {
 }
 
 std::optional<bool> Encounter::Claim() const {
-    SQLData query;
-    const std::string statement =
-        "Update Encounter Set [PatientID]=[PatientID] Where EncounterID=" + std::to_string(mEncounterID) +
-        " And PatientID='" + escapeQuotes(mPatientID) + "'";
-    if (!query.SQL(mConnection, statement, true, AccessMode::Read)) return std::nullopt;
-    return query.RecordsAffected() == 1;
+    return mRow.claim(mConnection, std::to_string(mEncounterID));
 }
 
 bool Encounter::Delete() {
@@ -102,13 +97,9 @@ bool Encounter::Delete() {
 }
 
 bool Encounter::DeleteObjectFromDatabase(std::string_view id) {
-    SQLData query;
-    if (!mRow.find(query, mConnection, id)) return false;
-    if (query.Eof())
-        ErrLog("Error in Encounter.DeleteObjectFromDatabase: EncounterID doesn't exist, aborting!");
-    else
-        query.SQL(mConnection, "delete From Encounter WHERE EncounterID=" + std::string(id), true,
-                  AccessMode::Read);
+    const std::string statement = "delete From Encounter WHERE EncounterID=" + std::string(id);
+    if (mRow.remove(mConnection, id, statement, kDeleting) == Deletion::NoRow)
+        ErrLog(std::string(kDeleting) + "EncounterID doesn't exist, aborting!");
     return false;
 }
 

@@ -64,15 +64,19 @@ class Encounter {
     void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
 
     /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
-    /// an update of a row that is gone, and before any `Save`. It does not know of a transaction that is
-    /// rolled back later: keep a copy from before to go back to.
+    /// an update of a row that is gone or another patient's by now, and before any `Save`. It does not know
+    /// of a transaction that is rolled back later: keep a copy from before to go back to.
     bool Stored() const { return mRow.stored(); }
     /// Whether the last `Save` failed because another desk had inserted a row with the same identifier. The
     /// next one finds a free one.
     bool KeyTaken() const { return mRow.keyTaken(); }
 
-    /// In a transaction: whether the row is there and this patient's. From then on to the end of the
-    /// transaction nobody else changes or deletes it. Nothing when that could not be found out.
+    /// Whether the last `Save` wrote nothing because the row is gone, or its number another patient's by now.
+    bool Gone() const { return mRow.gone(); }
+
+    /// In a transaction: whether the row is there, and of the patient of whom it was when this one last
+    /// loaded or stored it. From then on to the end of the transaction nobody else changes or deletes it.
+    /// Nothing when that could not be found out. `Save` and `Delete` do it by themselves.
     std::optional<bool> Claim() const;
 
     /// Says that nobody knows whether the transaction in which `attempt`, a copy of this one, was inserted
@@ -86,16 +90,16 @@ class Encounter {
     /// Whether the last load failed, which is another thing than finding no row. For use within the library.
     bool Unread() const { return mRow.unread(); }
 
-    /// Deletes the row, or writes a line to the error log when there is none of its own. Always false.
-    /// Attachments stay.
+    /// Deletes the row, or writes a line to the error log when there is none, or it is not the one that was
+    /// loaded or stored. Always false. Attachments stay.
     bool Delete();
 
     /// Inserts with the next free identifier (the highest plus 1, at least 1), or updates. False, with a line
     /// in the error log, when the method, patient, provider or location is invalid (in this order), when no
-    /// next identifier could be found, or when the row it would overwrite could not be read before. The
-    /// outcome of the statement itself is not told: see `Stored`. After an insert that failed `EncounterID`
-    /// is -1 still, and the next `Save` inserts again, with an identifier that is then free, and raises the
-    /// event again.
+    /// next identifier could be found, or when the row it would overwrite could not be read before. A row
+    /// that is gone or another patient's by now is not written, with a line in the error log. The outcome of
+    /// the statement itself is not told: see `Stored`. After an insert that failed `EncounterID` is -1 still,
+    /// and the next `Save` inserts again, with an identifier that is then free, and raises the event again.
     bool Save();
 
     /// Replaces the collection by the attachments stored for this encounter; by an empty one when they cannot
@@ -133,7 +137,7 @@ class Encounter {
     std::int32_t mTransport = 0;
     std::shared_ptr<ado::Connection> mConnection;
     std::vector<KeyedAttachment> mAttachments;
-    RecordRow<Encounter> mRow{"Encounter", columns()};
+    RecordRow<Encounter> mRow{"Encounter", columns(), "PatientID"};
 };
 
 } // namespace Korvane

@@ -43,4 +43,8 @@ void logUnsettled(std::string_view prefix) {
     ErrLog(std::string(prefix) + "Whether the row was stored before could not be read, aborting!");
 }
 
+void logGone(std::string_view prefix) {
+    ErrLog(std::string(prefix) + "The stored row is no longer there, or no longer this record's, aborting!");
+}
+
 } // namespace Korvane

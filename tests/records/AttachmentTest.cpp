@@ -40,15 +40,17 @@ TEST_F(AttachmentTest, InsertsOnceAndUpdatesFromThenOn) {
     ASSERT_TRUE(attachment.Save());
     EXPECT_THAT(
         db->statements,
-        ElementsAre("Select Max(AttachmentID) as MaxID From Attachment",
-                    "Insert into Attachment ([AttachmentID],[AttachmentType],[EncounterID],[Description],"
-                    "[Category],[Archived],[Deleted],[Origin],[Filename],[EntryDate],[OriginDate],"
-                    "[Orientation],[Locked],[InUseBy])  values (1,'scan',12,'it''s','2','','False','',"
-                    "'a.png','2 January, 1970','8:30 PM','',True,'')",
-                    "Update Attachment Set [AttachmentType]='scan',[EncounterID]=12,[Description]='it''s',"
-                    "[Category]='2',[Archived]='',[Deleted]='True',[Origin]='',[Filename]='a.png',"
-                    "[EntryDate]='2 January, 1970',[OriginDate]='8:30 PM',[Orientation]='',[Locked]='True',"
-                    "[InUseBy]='me' Where AttachmentID=1"));
+        ElementsAre(
+            "Select Max(AttachmentID) as MaxID From Attachment",
+            "Insert into Attachment ([AttachmentID],[AttachmentType],[EncounterID],[Description],"
+            "[Category],[Archived],[Deleted],[Origin],[Filename],[EntryDate],[OriginDate],"
+            "[Orientation],[Locked],[InUseBy])  values (1,'scan',12,'it''s','2','','False','',"
+            "'a.png','2 January, 1970','8:30 PM','',True,'')",
+            "Update Attachment Set [EncounterID]=[EncounterID] Where AttachmentID=1 And EncounterID='12'",
+            "Update Attachment Set [AttachmentType]='scan',[EncounterID]=12,[Description]='it''s',"
+            "[Category]='2',[Archived]='',[Deleted]='True',[Origin]='',[Filename]='a.png',"
+            "[EntryDate]='2 January, 1970',[OriginDate]='8:30 PM',[Orientation]='',[Locked]='True',"
+            "[InUseBy]='me' Where AttachmentID=1"));
 
     Attachment again;
     again.Connection(db);
@@ -81,6 +83,22 @@ TEST_F(AttachmentTest, IsStoredOnceAlsoWhenTheAnswerWasLost) {
     EXPECT_TRUE(attachment.Save());
     EXPECT_TRUE(attachment.Stored());
     EXPECT_EQ(rows("Select AttachmentID, EncounterID, Locked From Attachment"), "1|12|True");
+}
+
+TEST_F(AttachmentTest, LeavesARowAloneWhoseNumberIsAnotherEncountersByNow) {
+    ASSERT_TRUE(attachment.Save());
+    Attachment loaded;
+    loaded.Connection(db);
+    loaded.AttachmentID(1);
+    db->quietly("Update Attachment Set EncounterID=13, Description='theirs'");
+    for (Attachment* each : {&attachment, &loaded}) {
+        EXPECT_TRUE(each->Save());
+        EXPECT_FALSE(each->Stored());
+        EXPECT_FALSE(each->Delete());
+    }
+    EXPECT_EQ(rows("Select EncounterID, Description From Attachment"), "13|theirs");
+    EXPECT_THAT(dir.read("ERR.txt"), HasSubstr("Error in Attachment.SaveObjectToDatabase: The stored row is "
+                                               "no longer there, or no longer this record's, aborting!\n"));
 }
 
 TEST_F(AttachmentTest, IsLockedUnlessPlainlyNot) {
@@ -154,8 +172,12 @@ TEST_F(AttachmentTest, TellsTheMessageLogThatThereIsNothingToDelete) {
     ASSERT_TRUE(attachment.Save());
     db->statements.clear();
     EXPECT_TRUE(attachment.Delete());
-    EXPECT_THAT(db->statements, ElementsAre("select * from Attachment Where AttachmentID=1",
-                                            "delete from Attachment WHERE AttachmentID=1"));
+    EXPECT_THAT(
+        db->statements,
+        ElementsAre(
+            "select * from Attachment Where AttachmentID=1",
+            "Update Attachment Set [EncounterID]=[EncounterID] Where AttachmentID=1 And EncounterID='12'",
+            "delete from Attachment WHERE AttachmentID=1"));
     EXPECT_FALSE(attachment.Delete());
     EXPECT_THAT(user->boxes, IsEmpty());
     ASSERT_TRUE(bLogInit(dir.path(), 1));

@@ -58,13 +58,15 @@ TEST_F(EncounterTest, InsertsOnceAndUpdatesFromThenOn) {
     EXPECT_EQ(raised, 1);
     EXPECT_THAT(
         db->statements,
-        ElementsAre("Select Max(EncounterID) as MaxID From Encounter",
-                    "Insert into Encounter ([EncounterID],[EncounterMethodID],[PatientID],[ProviderID],"
-                    "[ForeignProviderID],[LocationID],[EncounterDate],[Outgoing],[Description],[Transport])  "
-                    "values (12,1,'P-0042',3,0,0,'11/15/2026 5:21:51 PM',True,'it''s',0)",
-                    "Update Encounter Set [EncounterMethodID]=2,[PatientID]='P-0042',[ProviderID]=3,"
-                    "[ForeignProviderID]=0,[LocationID]=4,[EncounterDate]='1/2/2026',[Outgoing]=False,"
-                    "[Description]='',[Transport]=5 Where EncounterID=12"));
+        ElementsAre(
+            "Select Max(EncounterID) as MaxID From Encounter",
+            "Insert into Encounter ([EncounterID],[EncounterMethodID],[PatientID],[ProviderID],"
+            "[ForeignProviderID],[LocationID],[EncounterDate],[Outgoing],[Description],[Transport])  "
+            "values (12,1,'P-0042',3,0,0,'11/15/2026 5:21:51 PM',True,'it''s',0)",
+            "Update Encounter Set [PatientID]=[PatientID] Where EncounterID=12 And PatientID='P-0042'",
+            "Update Encounter Set [EncounterMethodID]=2,[PatientID]='P-0042',[ProviderID]=3,"
+            "[ForeignProviderID]=0,[LocationID]=4,[EncounterDate]='1/2/2026',[Outgoing]=False,"
+            "[Description]='',[Transport]=5 Where EncounterID=12"));
     EXPECT_EQ(rows("Select * From Encounter Where EncounterID=12"), "12|2|P-0042|3|0|4|1/2/2026|False||5");
 }
 
@@ -203,6 +205,16 @@ TEST_F(EncounterTest, IsStoredOnceAlsoWhenNobodyCouldSayWhetherItWas) {
     }
     EXPECT_THAT(errors(), HasSubstr("Whether the row was stored before could not be read, aborting!\n"));
 
+    // One that was loaded since has not been inserted: what it was before must not be taken for it.
+    Encounter moved = encounter;
+    EXPECT_TRUE(moved.Save());
+    db->quietly("Insert Into Encounter (EncounterID, PatientID, ProviderID) Values (2, 'P', 3)");
+    moved.EncounterID(2);
+    moved.MayBeStored(Encounter(moved));
+    EXPECT_TRUE(moved.Settle());
+    EXPECT_EQ(moved.EncounterID(), 2);
+    db->quietly("Delete From Encounter");
+
     // A row that another desk has inserted under that number is left alone.
     db->loseAnswerOf = "Insert";
     EXPECT_TRUE(encounter.Save());
@@ -268,13 +280,74 @@ TEST_F(EncounterTest, DoesNotOverwriteARowThatItCouldNotRead) {
     EXPECT_EQ(rows("Select Description From Encounter"), "precious");
 }
 
+TEST_F(EncounterTest, LeavesARowAloneWhoseNumberIsAnotherPatientsByNow) {
+    ASSERT_TRUE(encounter.Save());
+    Encounter loaded, missing;
+    for (Encounter* each : {&loaded, &missing})
+        each->Connection(db);
+    loaded.EncounterID(1);
+    missing.EncounterID(2);
+    db->quietly("Delete From Encounter");
+    for (const char* row : {"(1, 'Bert')", "(2, 'Carl')"})
+        db->quietly("Insert Into Encounter (EncounterID, PatientID) Values " + std::string(row));
+    missing.PatientID("Carl");
+    missing.ProviderID(3);
+    for (Encounter* each : {&encounter, &loaded, &missing}) {
+        EXPECT_TRUE(each->Save());
+        EXPECT_FALSE(each->Stored());
+        EXPECT_TRUE(each->Gone());
+        each->Delete();
+    }
+    EXPECT_EQ(rows("Select EncounterID, PatientID, ProviderID From Encounter Order By EncounterID"),
+              "1|Bert|NULL 2|Carl|NULL");
+    const std::string why = "The stored row is no longer there, or no longer this record's, aborting!\n";
+    std::string expected;
+    for (int i = 0; i < 3; ++i)
+        expected += "Error in Encounter.SaveObjectToDatabase: " + why +
+                    "Error in Encounter.DeleteObjectFromDatabase: " + why;
+    EXPECT_EQ(errors(), expected);
+    EXPECT_EQ(db->transactionLevel(), 0);
+}
+
+TEST_F(EncounterTest, FollowsItsRowToAnotherPatient) {
+    db->quietly("Insert Into Encounter (EncounterID) Values (1)");
+    encounter.EncounterID(1);
+    encounter.ProviderID(3);
+    for (const char* patient : {"Anna", "O'Hara", "O'Hara", "Bert"}) {
+        encounter.PatientID(patient);
+        EXPECT_TRUE(encounter.Save());
+        EXPECT_TRUE(encounter.Stored()) << patient;
+    }
+    EXPECT_EQ(rows("Select PatientID From Encounter"), "Bert");
+    encounter.Delete();
+    db->quietly("Insert Into Encounter (EncounterID, PatientID) Values (1, 'Bert')");
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_FALSE(encounter.Stored()) << "it deleted its own row";
+}
+
+TEST_F(EncounterTest, ChangesNothingWhenItsTransactionFails) {
+    ASSERT_TRUE(encounter.Save());
+    encounter.PatientID("Bert");
+    db->failAfter = 2; // the check and the update, but not the commit
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_FALSE(encounter.Stored());
+    EXPECT_THAT(user->boxes, SizeIs(1));
+    EXPECT_EQ(rows("Select PatientID From Encounter"), "P-0042");
+    EXPECT_TRUE(encounter.Save());
+    EXPECT_TRUE(encounter.Stored());
+    EXPECT_EQ(rows("Select PatientID From Encounter"), "Bert");
+}
+
 TEST_F(EncounterTest, DeletesItsRowAndIsNeverTrue) {
     encounter.Save();
     db->quietly("Insert Into Encounter (EncounterID) Values (2)");
     db->statements.clear();
     EXPECT_FALSE(encounter.Delete());
-    EXPECT_THAT(db->statements, ElementsAre("select * from Encounter Where EncounterID=1",
-                                            "delete From Encounter WHERE EncounterID=1"));
+    EXPECT_THAT(
+        db->statements,
+        ElementsAre("select * from Encounter Where EncounterID=1",
+                    "Update Encounter Set [PatientID]=[PatientID] Where EncounterID=1 And PatientID='P-0042'",
+                    "delete From Encounter WHERE EncounterID=1"));
     EXPECT_EQ(rows("Select EncounterID From Encounter"), "2");
     EXPECT_EQ(errors(), "");
     EXPECT_FALSE(encounter.Delete());

@@ -155,9 +155,8 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::store(std::string_view routine
 /// inserted at the same moment, or when this one was deleted and its number given away again.
 ucNIPPanel::Members::Outcome ucNIPPanel::Members::storeEncounter() {
     nip->EncounterID(mEncounter->EncounterID());
-    const Outcome claimed = mEncounter->EncounterID() == -1 ? Outcome::Stored : claim();
-    if (claimed != Outcome::Stored) return claimed;
     if (mEncounter->Save() && mEncounter->Stored()) return Outcome::Stored;
+    if (mEncounter->Gone()) return Outcome::Gone;
     return mEncounter->KeyTaken() ? Outcome::NumberTaken : Outcome::NotStored;
 }
 
