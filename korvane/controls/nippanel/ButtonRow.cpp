@@ -1,13 +1,21 @@
 #include <korvane/controls/nippanel/ButtonRow.h>
 
+#include <korvane/controls/container/Twips.h>
+
 #include <QHBoxLayout>
 #include <QPushButton>
 
 namespace Korvane {
 
+namespace {
+
+constexpr int gapBelowPane = 100;
+
+} // namespace
+
 ButtonRow::ButtonRow(QWidget* parent) : QWidget(parent) {
     const QString captions[] = {"Save", "Cancel", "Customize"};
-    const QString tips[] = {"Save and close (Ctrl+S)", "Close without saving (Esc)",
+    const QString tips[] = {"Save the Nip and close it (Ctrl+S)", "Close the Nip without saving it (Esc)",
                             "Change the groups and fields of the Nip"};
     for (int i : {Save, Cancel, Customize}) {
         mButtons[i] = new QPushButton(captions[i], this);
@@ -27,6 +35,12 @@ ButtonRow::ButtonRow(QWidget* parent) : QWidget(parent) {
     layout->addWidget(mButtons[Save]);
     layout->addWidget(mButtons[Cancel]);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void ButtonRow::showCustomizing(bool on) {
+    mButtons[Save]->setDefault(!on);
+    mButtons[Customize]->setEnabled(!on);
+    layout()->setContentsMargins(0, on ? Twips(*this).px(gapBelowPane) : 0, 0, 0);
 }
 
 void ButtonRow::arrange(bool customizeOnly, bool allowClose) {

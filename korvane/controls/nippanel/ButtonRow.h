@@ -19,6 +19,9 @@ class ButtonRow : public QWidget {
     /// Shows the buttons that the panel's two properties call for, except Save.
     void arrange(bool customizeOnly, bool allowClose);
     void offerSave(bool shown, bool enabled);
+    /// While the Nip is customized, the field's Save is the nearer one: Enter presses neither, and Customize
+    /// is not offered.
+    void showCustomizing(bool on);
 
     QPushButton& button(int index) const { return *mButtons[index]; }
 

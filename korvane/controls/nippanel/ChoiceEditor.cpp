@@ -24,10 +24,12 @@ enum Button { Add, Remove, MoveUp, MoveDown };
 
 ChoiceEditor::ChoiceEditor(QWidget* parent)
     : QWidget(parent), mChoices(new ChoiceOrderModel(this)), mList(new ChoiceOrderList(mChoices, this)),
-      mButtons{makeButton(Add, "Add", "Add a choice behind the last"),
-               makeButton(Remove, "Remove", "Remove the highlighted choice (Delete)"),
-               makeButton(MoveUp, "Move Up", "Move the highlighted choice up (Alt+Up)"),
-               makeButton(MoveDown, "Move Down", "Move the highlighted choice down (Alt+Down)")} {
+      mTitle(new QLabel(this)), mButtons{
+                                    makeButton(Add, "Add", "Add a choice behind the last"),
+                                    makeButton(Remove, "Remove", "Remove the highlighted choice (Delete)"),
+                                    makeButton(MoveUp, "Move Up", "Move the highlighted choice up (Alt+Up)"),
+                                    makeButton(MoveDown, "Move Down",
+                                               "Move the highlighted choice down (Alt+Down)")} {
     arrange();
     connectList();
     connect(mButtons[Add], &QPushButton::clicked, this, &ChoiceEditor::add);
@@ -51,13 +53,13 @@ void ChoiceEditor::arrange() {
     mList->setAccessibleDescription("The checked choice is the default");
     mList->setToolTip("Drag a choice to put it elsewhere, with the Ctrl key to copy it. F2 or a double click "
                       "edits it. Space or a click on its box makes it the default, or no longer.");
-    auto* title = new QLabel("Choices (the checked one is the default):", this);
-    title->setObjectName("lblNipChoices");
-    title->setWordWrap(true);
-    title->setBuddy(mList);
+    mTitle->setObjectName("lblNipChoices");
+    mTitle->setWordWrap(true);
+    mTitle->setBuddy(mList);
+    explain(true);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(title, 0, 0, 1, 2);
+    layout->addWidget(mTitle, 0, 0, 1, 2);
     int row = 1;
     for (QPushButton* button : mButtons)
         layout->addWidget(button, row++, 1);
@@ -89,6 +91,11 @@ void ChoiceEditor::show(const QStringList& choices, int selected) {
     mChoices->show(std::move(rows));
     mList->setCurrentIndex(mChoices->index(std::max(selected, 0)));
     offerButtons();
+}
+
+void ChoiceEditor::explain(bool offered) {
+    mTitle->setText(offered ? "Choices (the checked one is the default):"
+                            : "Not offered with this display type (the checked one is the default):");
 }
 
 QStringList ChoiceEditor::choices() const {

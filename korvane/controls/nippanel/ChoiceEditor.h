@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class QLabel;
 class QPushButton;
 
 namespace Korvane {
@@ -36,6 +37,10 @@ class ChoiceEditor : public QWidget {
     void show(const QStringList& choices, int selected);
     using QWidget::show;
 
+    /// Says above the list what its choices are for: some fields offer them; for the others the default is
+    /// all that they give.
+    void explain(bool offered);
+
     /// In the order shown. A text that is still being typed does not count: see `takeEdit`.
     QStringList choices() const;
     /// The place of the default among them; -1 when there is none.
@@ -63,6 +68,7 @@ class ChoiceEditor : public QWidget {
 
     ChoiceOrderModel* mChoices;
     ChoiceOrderList* mList;
+    QLabel* mTitle;
     QPushButton* mButtons[4];
     /// Made anew with every `show`, so that one who waits for the user sees whether the choices are still
     /// those that he asked for.

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace Korvane {
 
@@ -29,7 +30,7 @@ CustomizeBar::CustomizeBar(QWidget* parent)
     layout->addWidget(mTools, 1);
     layout->addWidget(mBack);
     layout->addWidget(mClose);
-    showGroup(QString(), 0);
+    showGroup({}, {});
 }
 
 /// A button of a tool bar shows no mnemonic and takes no focus unless it is told to.
@@ -37,7 +38,9 @@ QAction* CustomizeBar::addTool(const char* id, const QString& caption, void (Cus
     QAction* action = mTools->addAction(caption);
     action->setObjectName(id);
     action->setIconText(caption);
-    mTools->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    auto* tool = static_cast<QToolButton*>(mTools->widgetForAction(action));
+    tool->setFocusPolicy(Qt::TabFocus);
+    tool->setAutoRaise(false);
     connect(action, &QAction::triggered, this, triggered);
     return action;
 }
@@ -54,13 +57,11 @@ QList<QWidget*> CustomizeBar::tabOrder() const {
     return order << mBack << mClose;
 }
 
-void CustomizeBar::showGroup(const QString& title, int fields) {
+void CustomizeBar::showGroup(const QString& title, const QString& content) {
     mDeleteGroup->setEnabled(!title.isEmpty());
     mCustomizeGroup->setEnabled(!title.isEmpty());
     mDeleteGroup->setToolTip(
-        QString("Remove the group %1 with its %2 fields and all that was entered in them, in every encounter")
-            .arg(title)
-            .arg(fields));
+        QString("Remove the group %1 and all that was entered in it, in every encounter").arg(content));
     mCustomizeGroup->setToolTip("Go to the fields of the group " + title);
 }
 

@@ -19,9 +19,9 @@ class CustomizeBar : public QWidget {
     /// With `customizeOnly` there is no Nip to go back to, nor a close button of this bar's own.
     void arrange(bool customizeOnly);
 
-    /// The group that the tools are for, as it is shown to the user, and the number of its fields. None when
-    /// the title is empty.
-    void showGroup(const QString& title, int fields);
+    /// The group that the tools are for, as it is shown to the user: its title, and with what is in it. None
+    /// when the title is empty.
+    void showGroup(const QString& title, const QString& content);
 
     /// What takes the focus, in the order in which it stands.
     QList<QWidget*> tabOrder() const;

@@ -8,6 +8,7 @@
 #include <korvane/nip/cNIP.h>
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -28,12 +29,12 @@ QLabel* makeLine(const char* name, QWidget* parent) {
     return label;
 }
 
-/// As high as there is room, from its least height on. A wrapped text in it would have a scroll area give it
-/// the height that it would like best.
-class Stack : public QVBoxLayout {
+/// As high as there is room, from its least height on. A scroll area would otherwise give a wrapped text and
+/// all that stands with it the height that they would like best.
+class Stack : public QGridLayout {
   public:
-    using QVBoxLayout::QVBoxLayout;
-    bool hasHeightForWidth() const override { return false; }
+    using QGridLayout::QGridLayout;
+    int heightForWidth(int width) const override { return minimumHeightForWidth(width); }
 };
 
 /// Scrolls up and down, and to whatever gets the focus.
@@ -70,39 +71,55 @@ class PaneScroll : public QScrollArea {
 } // namespace
 
 CustomizePane::CustomizePane(QWidget* parent)
-    : QFrame(parent), mHeading(makeLine("lblCustEditing", this)), mGrid(nullptr), mForm(nullptr),
-      mWarning(makeLine("lblCustDestroys", this)) {
+    : QFrame(parent), mHeading(nullptr), mGrid(nullptr), mForm(nullptr), mHint(nullptr), mWarning(nullptr) {
     setObjectName("paneCustomize");
-    setFrameShape(StyledPanel);
-    QLabel* title = makeLine("lblCustomizeTitle", this);
-    title->setText("Customizing the Structure of the NIP tables");
-    QFont bold = font();
-    bold.setBold(true);
-    mHeading->setFont(bold);
-
+    setFrameStyle(Box | Sunken);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(title);
-    layout->addWidget(mHeading);
+    layout->addWidget(makeScroll(), 1);
+    auto* line = new QFrame(this);
+    line->setFrameStyle(HLine | Sunken);
+    layout->addWidget(line);
+    layout->addWidget(makeButtons());
+    showGroup(nullptr, 0);
+}
+
+QWidget* CustomizePane::makeScroll() {
     auto* scroll = new PaneScroll(this);
     scroll->setObjectName("scrollCustomize");
     scroll->setWidget(makeContent());
     scroll->widget()->setAutoFillBackground(false);
-    layout->addWidget(scroll, 1);
-    layout->addWidget(mWarning);
-    layout->addWidget(makeButtons());
-    title->setBuddy(mGrid);
-    showGroup(nullptr, 0);
+    return scroll;
 }
 
+/// All of it scrolls: in large text there is room for a few lines only. The form keeps its room while the
+/// hint stands there, so that the list stays where it is under the mouse.
 QWidget* CustomizePane::makeContent() {
     auto* content = new QWidget(this);
+    QLabel* title = makeLine("lblCustomizeTitle", content);
+    title->setText("Customizing the Structure of the NIP tables");
+    mHeading = makeLine("lblCustEditing", content);
+    QFont bold = font();
+    bold.setBold(true);
+    mHeading->setFont(bold);
     mGrid = new FieldGrid(content);
     mGrid->setMinimumHeight(Twips(*this).px(lowestList));
+    title->setBuddy(mGrid);
     mForm = new FieldForm(content);
+    QSizePolicy keepsRoom = mForm->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    mForm->setSizePolicy(keepsRoom);
+    mHint = makeLine("lblCustHint", content);
+    mWarning = makeLine("lblCustDestroys", content);
+
     auto* layout = new Stack(content);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(mGrid, 1);
-    layout->addWidget(mForm);
+    int row = 0;
+    for (QWidget* part :
+         {static_cast<QWidget*>(title), static_cast<QWidget*>(mHeading), static_cast<QWidget*>(mGrid),
+          static_cast<QWidget*>(mForm), static_cast<QWidget*>(mWarning)})
+        layout->addWidget(part, row++, 0);
+    layout->addWidget(mHint, 3, 0, Qt::AlignTop);
+    layout->setRowStretch(2, 1);
     connect(mGrid, &FieldGrid::chosen, this, &CustomizePane::fieldChosen);
     connect(mForm, &FieldForm::edited, this, &CustomizePane::offer);
     return content;
@@ -171,6 +188,7 @@ void CustomizePane::take(bool isNew, std::int16_t field, const FieldDraft& draft
     if (isNew || field > 0) mHeld = HeldField::of(*mNip, {mGroup, field});
     mForm->fill(draft, isNew);
     mForm->setEnabled(isNew || field > 0);
+    mForm->setVisible(isNew || field > 0);
     markListed();
     describe();
     offer();
@@ -193,6 +211,13 @@ QString CustomizePane::groupTitle() const {
     return mGroup > 0 ? "[" + qt(mNip->GroupName(mGroup)) + "]" : QString();
 }
 
+QString CustomizePane::groupContent() const {
+    const int fields = mGroup > 0 ? mNip->FieldCount(mGroup) : 0;
+    if (fields < 1) return groupTitle();
+    return groupTitle() +
+           (fields == 1 ? QString(" with its 1 field") : QString(" with its %1 fields").arg(fields));
+}
+
 QString CustomizePane::heading() const {
     if (mGroup < 1) return "There is no group yet.";
     if (mHoldsNew) return "New field in group " + groupTitle();
@@ -206,13 +231,13 @@ QString CustomizePane::whatIsDestroyed() const {
         return QString("Delete Field destroys [%1] with all that any encounter has in it.")
             .arg(qt(mNip->fieldName(mGroup, mField)));
     if (mGroup < 1 || mHoldsNew) return {};
-    return QString("Delete Nip Group destroys %1 with its %2 fields and all that any encounter has in them.")
-        .arg(groupTitle())
-        .arg(mNip->FieldCount(mGroup));
+    return QString("Delete Nip Group destroys %1 and all that any encounter has in it.").arg(groupContent());
 }
 
 void CustomizePane::describe() {
     mHeading->setText(heading());
+    mHint->setText("Choose a field in the list or by a click on it in the form, or press New Field.");
+    mHint->setVisible(mGroup > 0 && !mHoldsNew && mField < 1);
     const QString destroys = whatIsDestroyed();
     mWarning->setText(destroys);
     mWarning->setVisible(!destroys.isEmpty());

@@ -51,6 +51,8 @@ class CustomizePane : public QFrame {
 
     /// The group as it is shown to the user: "[Vitals]".
     QString groupTitle() const;
+    /// The group with what would go with it: "[Vitals] with its 3 fields".
+    QString groupContent() const;
 
     /// Puts the list's current row back on the field that is being edited.
     void markListed();
@@ -63,6 +65,7 @@ class CustomizePane : public QFrame {
     void turned();
 
   private:
+    QWidget* makeScroll();
     QWidget* makeContent();
     QWidget* makeButtons();
     void take(bool isNew, std::int16_t field, const FieldDraft& draft);
@@ -79,6 +82,7 @@ class CustomizePane : public QFrame {
     QLabel* mHeading;
     FieldGrid* mGrid;
     FieldForm* mForm;
+    QLabel* mHint;
     QLabel* mWarning;
     QPushButton* mButtons[4];
 };

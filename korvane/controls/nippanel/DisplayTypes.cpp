@@ -18,21 +18,26 @@ std::unique_ptr<EntryControl> make(EntrySite site) {
     return std::make_unique<Entry>(std::move(site), arguments...);
 }
 
-constexpr DisplayType displayTypes[] = {
-    {"TEXT", "txtNip", 0, make<TextEntry>},
-    {"COMBOBOX", "cboNip", 0, make<ComboEntry, ComboEntry::AnyText>},
-    {"COMBOBOX-RESTRICTED", "cboNip", 0, make<ComboEntry, ComboEntry::ItemsOnly>},
-    {"LIST", "gridNip", 0, make<ListEntry>},
-    {"LIST-MULTIPLE", "gridNip", 0, make<MultipleListEntry>},
-    {"LIST-EDITCONTENT", "gridNip", 2, make<EditContentEntry>},
+constexpr DisplayType types[] = {
+    {"TEXT", "Text", false, "txtNip", 0, make<TextEntry>},
+    {"LIST", "List", true, "gridNip", 0, make<ListEntry>},
+    {"LIST-MULTIPLE", "List-Multiple", true, "gridNip", 0, make<MultipleListEntry>},
+    {"LIST-EDITCONTENT", "List-Editcontent", false, "gridNip", 2, make<EditContentEntry>},
+    {"COMBOBOX", "Combobox", true, "cboNip", 0, make<ComboEntry, ComboEntry::AnyText>},
+    {"COMBOBOX-RESTRICTED", "Combobox-Restricted", true, "cboNip", 0,
+     make<ComboEntry, ComboEntry::ItemsOnly>},
 };
 
 } // namespace
 
+std::span<const DisplayType> displayTypes() {
+    return types;
+}
+
 const DisplayType* findDisplayType(std::string_view keyword) {
-    const auto* found = std::find_if(std::begin(displayTypes), std::end(displayTypes),
+    const auto* found = std::find_if(std::begin(types), std::end(types),
                                      [&](const DisplayType& type) { return type.keyword == keyword; });
-    return found == std::end(displayTypes) ? nullptr : found;
+    return found == std::end(types) ? nullptr : found;
 }
 
 } // namespace Korvane

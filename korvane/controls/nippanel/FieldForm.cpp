@@ -1,6 +1,8 @@
 #include <korvane/controls/nippanel/FieldForm.h>
 
+#include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/ChoiceEditor.h>
+#include <korvane/controls/nippanel/DisplayTypes.h>
 #include <korvane/controls/nippanel/EntryControl.h>
 #include <korvane/controls/nippanel/FieldName.h>
 #include <korvane/controls/nippanel/PageCombo.h>
@@ -11,21 +13,9 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
-#include <iterator>
-#include <utility>
-
 namespace Korvane {
 
 namespace {
-
-constexpr std::pair<const char*, const char*> displayTypes[] = {
-    {"Text", "TEXT"},
-    {"List", "LIST"},
-    {"List-Multiple", "LIST-MULTIPLE"},
-    {"List-Editcontent", "LIST-EDITCONTENT"},
-    {"Combobox", "COMBOBOX"},
-    {"Combobox-Restricted", "COMBOBOX-RESTRICTED"},
-};
 
 /// Also what the combo does not offer, behind the `offered` items, for as long as this field is shown.
 void choose(QComboBox& combo, int offered, const QVariant& data) {
@@ -59,8 +49,8 @@ FieldForm::FieldForm(QWidget* parent) : QWidget(parent) {
     mWidth = makeText(FieldDraft::Width, "Width:");
     mRule = makeCombo(FieldDraft::Rule, "Initial Value Rule:");
     mRow = makeText(FieldDraft::Row, "Row Position:");
-    for (const auto& [shown, stored] : displayTypes)
-        mType->addItem(shown, stored);
+    for (const DisplayType& type : displayTypes())
+        mType->addItem(type.caption, qt(type.keyword));
     mRule->addItem("Cascade Item", 1);
     mRule->addItem("Do not Cascade", 0);
     mRule->setToolTip("Cascading means that values from one Exam will be carried over to the next exam");
@@ -113,7 +103,7 @@ void FieldForm::fill(const FieldDraft& field, bool isNew) {
     mProposesName = isNew && field.name == cleanedFieldName(field.caption);
     setText(*mName, field.name);
     setText(*mCaption, field.caption);
-    choose(*mType, std::size(displayTypes), field.displayType);
+    choose(*mType, static_cast<int>(displayTypes().size()), field.displayType);
     setText(*mWidth, field.width);
     choose(*mRule, 2, field.rule);
     setText(*mRow, field.row);
@@ -177,6 +167,8 @@ void FieldForm::note() {
     mark(FieldDraft::Width, now.width != mOriginal.width, mOriginal.width);
     mark(FieldDraft::Rule, now.rule != mOriginal.rule, mRule->itemText(mRule->findData(mOriginal.rule)));
     mark(FieldDraft::Row, now.row != mOriginal.row, mOriginal.row);
+    const DisplayType* type = findDisplayType(utf8(now.displayType));
+    mChoices->explain(!type || type->offersChoices);
     const bool choicesChanged = now.choices != mOriginal.choices || now.selected != mOriginal.selected;
     mark(FieldDraft::Choices, choicesChanged || mChoices->isTyping(),
          mOriginal.choices.mid(0, 10).join(", "));

@@ -2,6 +2,7 @@
 
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/Counted.h>
+#include <korvane/controls/nippanel/DisplayTypes.h>
 #include <korvane/nip/cNIP.h>
 
 #include <QHeaderView>
@@ -11,10 +12,19 @@ namespace Korvane {
 
 namespace {
 
+/// The first ones: they share what the numbers leave.
+constexpr int elidedColumns[] = {0, 1, 2};
+
 QTreeWidgetItem* itemOf(const cNIP& nip, std::int16_t group, std::int16_t field) {
-    return new QTreeWidgetItem(
-        {qt(nip.fieldName(group, field)), qt(nip.Caption(group, field)), qt(nip.displayType(group, field)),
-         QString::number(nip.maxLength(group, field)), QString::number(nip.RowIndex(group, field))});
+    const std::string& keyword = nip.displayType(group, field);
+    const DisplayType* type = findDisplayType(keyword);
+    auto* item = new QTreeWidgetItem({qt(nip.fieldName(group, field)), qt(nip.Caption(group, field)),
+                                      type ? QString(type->caption) : qt(keyword),
+                                      QString::number(nip.maxLength(group, field)),
+                                      QString::number(nip.RowIndex(group, field))});
+    for (const int column : elidedColumns)
+        item->setToolTip(column, item->text(column));
+    return item;
 }
 
 } // namespace
@@ -28,7 +38,11 @@ FieldGrid::FieldGrid(QWidget* parent) : QTreeWidget(parent) {
     setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
+    header()->setStretchLastSection(false);
+    header()->setMinimumSectionSize(1);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    for (const int column : elidedColumns)
+        header()->setSectionResizeMode(column, QHeaderView::Stretch);
     connect(this, &QTreeWidget::currentItemChanged, this, &FieldGrid::tell, Qt::QueuedConnection);
     connect(this, &QTreeWidget::itemClicked, this, &FieldGrid::tell, Qt::QueuedConnection);
     connect(this, &QTreeWidget::itemActivated, this, &FieldGrid::tell, Qt::QueuedConnection);

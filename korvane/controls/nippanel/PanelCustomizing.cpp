@@ -116,7 +116,7 @@ void ucNIPPanel::Members::showGroup() {
 
 void ucNIPPanel::Members::showTools() {
     const CustomizePane& pane = form->customizePane();
-    form->customizeBar().showGroup(pane.groupTitle(), pane.group() > 0 ? nip->FieldCount(pane.group()) : 0);
+    form->customizeBar().showGroup(pane.groupTitle(), pane.groupContent());
 }
 
 void ucNIPPanel::Members::markField() {

@@ -121,7 +121,7 @@ void PanelForm::showCustomizing(bool on) {
     mCustomize->setVisible(on);
     if (turns) mSplit->setSizes({mSplit->width() / 2, mSplit->width() / 2});
     mPicker->setActive(on);
-    mButtons->button(ButtonRow::Customize).setEnabled(!on);
+    mButtons->showCustomizing(on);
     enableContent();
 }
 
