@@ -4,10 +4,10 @@
 #include <korvane/controls/nippanel/ChoiceEditDelegate.h>
 #include <korvane/controls/nippanel/ChoiceOrderList.h>
 #include <korvane/controls/nippanel/ChoiceOrderModel.h>
+#include <korvane/controls/nippanel/LeastGrid.h>
 #include <korvane/controls/nippanel/ListEntryText.h>
 #include <korvane/runtime/Interaction.h>
 
-#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -57,7 +57,7 @@ void ChoiceEditor::arrange() {
     mTitle->setWordWrap(true);
     mTitle->setBuddy(mList);
     explain(true);
-    auto* layout = new QGridLayout(this);
+    auto* layout = new LeastGrid(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(mTitle, 0, 0, 1, 2);
     int row = 1;

@@ -5,15 +5,17 @@
 #include <korvane/controls/nippanel/EntryControl.h>
 #include <korvane/controls/nippanel/FieldForm.h>
 #include <korvane/controls/nippanel/FieldGrid.h>
+#include <korvane/controls/nippanel/LeastGrid.h>
 #include <korvane/nip/cNIP.h>
 
 #include <QApplication>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Korvane {
 
@@ -28,14 +30,6 @@ QLabel* makeLine(const char* name, QWidget* parent) {
     label->setWordWrap(true);
     return label;
 }
-
-/// As high as there is room, from its least height on. A scroll area would otherwise give a wrapped text and
-/// all that stands with it the height that they would like best.
-class Stack : public QGridLayout {
-  public:
-    using QGridLayout::QGridLayout;
-    int heightForWidth(int width) const override { return minimumHeightForWidth(width); }
-};
 
 /// Scrolls up and down, and to whatever gets the focus.
 class PaneScroll : public QScrollArea {
@@ -58,11 +52,14 @@ class PaneScroll : public QScrollArea {
     }
 
   private:
-    /// What is under the mouse must not move away between press and release.
+    /// With the line above it where there is room: it tells what this is. What is under the mouse must not
+    /// move away between press and release.
     void reveal(QWidget* focus) {
-        if (focus && widget() && widget()->isAncestorOf(focus) &&
-            QGuiApplication::mouseButtons() == Qt::NoButton)
-            ensureWidgetVisible(focus, 0);
+        if (!focus || !widget() || !widget()->isAncestorOf(focus) ||
+            QGuiApplication::mouseButtons() != Qt::NoButton)
+            return;
+        const int room = (viewport()->height() - focus->height()) / 2;
+        ensureWidgetVisible(focus, 0, std::clamp(room, 0, 2 * fontMetrics().height()));
     }
 
     int verticalScrollBarWidth() const { return style()->pixelMetric(QStyle::PM_ScrollBarExtent); }
@@ -111,7 +108,7 @@ QWidget* CustomizePane::makeContent() {
     mHint = makeLine("lblCustHint", content);
     mWarning = makeLine("lblCustDestroys", content);
 
-    auto* layout = new Stack(content);
+    auto* layout = new LeastGrid(content);
     layout->setContentsMargins(0, 0, 0, 0);
     int row = 0;
     for (QWidget* part :
@@ -120,6 +117,7 @@ QWidget* CustomizePane::makeContent() {
         layout->addWidget(part, row++, 0);
     layout->addWidget(mHint, 3, 0, Qt::AlignTop);
     layout->setRowStretch(2, 1);
+    layout->setRowStretch(3, 1);
     connect(mGrid, &FieldGrid::chosen, this, &CustomizePane::fieldChosen);
     connect(mForm, &FieldForm::edited, this, &CustomizePane::offer);
     return content;

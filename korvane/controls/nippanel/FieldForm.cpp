@@ -5,10 +5,10 @@
 #include <korvane/controls/nippanel/DisplayTypes.h>
 #include <korvane/controls/nippanel/EntryControl.h>
 #include <korvane/controls/nippanel/FieldName.h>
+#include <korvane/controls/nippanel/LeastGrid.h>
 #include <korvane/controls/nippanel/PageCombo.h>
 
 #include <QAbstractItemView>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -40,7 +40,7 @@ bool isDark(const QColor& colour) {
 } // namespace
 
 FieldForm::FieldForm(QWidget* parent) : QWidget(parent) {
-    auto* grid = new QGridLayout(this);
+    auto* grid = new LeastGrid(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnStretch(1, 1);
     mName = makeText(FieldDraft::Name, "Field Name:");

@@ -11,6 +11,7 @@
 #include <korvane/controls/nippanel/NipTabs.h>
 
 #include <QApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -40,6 +41,13 @@ class FixedSplitter : public QSplitter {
 
   protected:
     QSplitterHandle* createHandle() override { return new Gap(orientation(), this); }
+
+    /// A splitter keeps the room of a pane that has become lower.
+    bool event(QEvent* event) override {
+        const bool done = QSplitter::event(event);
+        if (event->type() == QEvent::LayoutRequest) setSizes({1, height()});
+        return done;
+    }
 
   private:
     class Gap : public QSplitterHandle {
