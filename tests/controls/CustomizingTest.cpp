@@ -3,6 +3,7 @@
 #include <korvane/nip/cNIP.h>
 
 #include <QAbstractItemView>
+#include <QHeaderView>
 #include <QPointer>
 
 #include <gmock/gmock.h>
@@ -330,6 +331,43 @@ TEST(Customizing, RefusesWhatIsNoFieldAndKeepsWhatWasTyped) {
         EXPECT_THAT(desk.user->boxes, IsEmpty()) << "put right, it is taken";
         EXPECT_THAT(desk.fields(), HasSubstr("Fine|"));
     }
+}
+
+TEST(Customizing, SaysWhatIsDestroyedAndWhatTheChoicesAreFor) {
+    CustomizingDesk desk;
+    const auto says = [&](const char* label) { return utf8(desk.part<QLabel>(label).text()); };
+    EXPECT_THAT(says("lblCustDestroys"), HasSubstr("[Vitals] with its 2 fields and all"));
+    desk.chooseTab(1);
+    EXPECT_THAT(says("lblCustDestroys"), HasSubstr("[History] with its 1 field and all"));
+    desk.chooseTab(0);
+    EXPECT_TRUE(desk.part<QLabel>("lblCustHint").isVisible());
+    EXPECT_FALSE(desk.name().isVisible()) << "there is nothing to write it for";
+
+    const int top = desk.list().mapTo(&desk.panel, QPoint()).y();
+    desk.chooseListed(1);
+    EXPECT_EQ(desk.list().mapTo(&desk.panel, QPoint()).y(), top) << "it moved away under the mouse";
+    EXPECT_FALSE(desk.part<QLabel>("lblCustHint").isVisible());
+    EXPECT_EQ(utf8(desk.list().topLevelItem(1)->text(2)), "List");
+    EXPECT_THAT(says("lblNipChoices"), StartsWith("Choices"));
+    desk.displayType().setCurrentText("Text");
+    EXPECT_THAT(says("lblNipChoices"), StartsWith("Not offered"));
+    desk.saveField();
+    EXPECT_EQ(desk.rows("Select FieldValue,DefaultValue From DBFieldValues Order By Ordinal"),
+              "Good|True Poor|False");
+}
+
+TEST(Customizing, ShowsEveryColumnOfTheListAndALineOfItInLargeText) {
+    CustomizingDesk desk;
+    QFont large = desk.panel.font();
+    large.setPointSizeF(large.pointSizeF() * 3);
+    desk.panel.setFont(large);
+    desk.settle();
+    EXPECT_LE(desk.list().header()->length(), desk.list().viewport()->width());
+    EXPECT_GE(desk.list().viewport()->height(),
+              2 * desk.list().visualItemRect(desk.list().topLevelItem(0)).height());
+    EXPECT_FALSE(desk.part<QPushButton>("cmdNipButton(0)").isDefault()) << "the field's Save is the nearer";
+    desk.click("cmdBackToNip");
+    EXPECT_TRUE(desk.part<QPushButton>("cmdNipButton(0)").isDefault());
 }
 
 TEST(Customizing, DeletesAFieldOnlyWhenTheUserIsSure) {

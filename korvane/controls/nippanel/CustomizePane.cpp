@@ -1,7 +1,6 @@
 #include <korvane/controls/nippanel/CustomizePane.h>
 
 #include <korvane/controls/container/Text.h>
-#include <korvane/controls/container/Twips.h>
 #include <korvane/controls/nippanel/EntryControl.h>
 #include <korvane/controls/nippanel/FieldForm.h>
 #include <korvane/controls/nippanel/FieldGrid.h>
@@ -20,8 +19,6 @@
 namespace Korvane {
 
 namespace {
-
-constexpr int lowestList = 1500;
 
 QLabel* makeLine(const char* name, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -99,7 +96,6 @@ QWidget* CustomizePane::makeContent() {
     bold.setBold(true);
     mHeading->setFont(bold);
     mGrid = new FieldGrid(content);
-    mGrid->setMinimumHeight(Twips(*this).px(lowestList));
     title->setBuddy(mGrid);
     mForm = new FieldForm(content);
     QSizePolicy keepsRoom = mForm->sizePolicy();
@@ -110,14 +106,15 @@ QWidget* CustomizePane::makeContent() {
 
     auto* layout = new LeastGrid(content);
     layout->setContentsMargins(0, 0, 0, 0);
-    int row = 0;
-    for (QWidget* part :
-         {static_cast<QWidget*>(title), static_cast<QWidget*>(mHeading), static_cast<QWidget*>(mGrid),
-          static_cast<QWidget*>(mForm), static_cast<QWidget*>(mWarning)})
-        layout->addWidget(part, row++, 0);
-    layout->addWidget(mHint, 3, 0, Qt::AlignTop);
-    layout->setRowStretch(2, 1);
-    layout->setRowStretch(3, 1);
+    enum Row { Title, Heading, Grid, Warning, Form };
+    layout->addWidget(title, Title, 0);
+    layout->addWidget(mHeading, Heading, 0);
+    layout->addWidget(mGrid, Grid, 0);
+    layout->addWidget(mWarning, Warning, 0);
+    layout->addWidget(mForm, Form, 0);
+    layout->addWidget(mHint, Form, 0, Qt::AlignTop);
+    layout->setRowStretch(Grid, 1);
+    layout->setRowStretch(Form, 1);
     connect(mGrid, &FieldGrid::chosen, this, &CustomizePane::fieldChosen);
     connect(mForm, &FieldForm::edited, this, &CustomizePane::offer);
     return content;

@@ -15,6 +15,9 @@ namespace {
 /// The first ones: they share what the numbers leave.
 constexpr int elidedColumns[] = {0, 1, 2};
 
+/// Rows that the list has room for at least.
+constexpr int lowest = 5;
+
 QTreeWidgetItem* itemOf(const cNIP& nip, std::int16_t group, std::int16_t field) {
     const std::string& keyword = nip.displayType(group, field);
     const DisplayType* type = findDisplayType(keyword);
@@ -70,6 +73,11 @@ void FieldGrid::mark(std::int16_t field) {
         item->setSelected(i + 1 == field);
     }
     setCurrentItem(topLevelItem(field - 1));
+}
+
+QSize FieldGrid::minimumSizeHint() const {
+    const int rows = lowest * (fontMetrics().height() + 1);
+    return {QTreeWidget::minimumSizeHint().width(), header()->sizeHint().height() + rows + 2 * frameWidth()};
 }
 
 /// A view without a current row takes its first one then, which nobody has chosen.

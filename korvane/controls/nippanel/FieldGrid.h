@@ -21,6 +21,9 @@ class FieldGrid : public QTreeWidget {
     /// Makes a field the current one; 0: none.
     void mark(std::int16_t field);
 
+    /// A few rows, whatever the font.
+    QSize minimumSizeHint() const override;
+
   signals:
     /// The user went to another field. Raised from the event loop: whoever hears of it may ask something.
     void chosen(int field);
