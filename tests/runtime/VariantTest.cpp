@@ -70,7 +70,8 @@ TEST(Variant, RaisesWhatDoesNotFitAndWhatIsNoNumber) {
         {array, RuntimeError::TypeMismatch},
         {Variant::null(), RuntimeError::InvalidUseOfNull}};
     for (const auto& [value, error] : cases)
-        EXPECT_EQ(errorOf([&, &value = value] { (void)value.toInt16(); }), error) << static_cast<int>(value.type());
+        EXPECT_EQ(errorOf([&, &value = value] { (void)value.toInt16(); }), error)
+            << static_cast<int>(value.type());
     EXPECT_EQ(errorOf([] { (void)Variant(2147483648.0).toInt32(); }), RuntimeError::Overflow);
     EXPECT_EQ(errorOf([] { (void)Variant(1e39).toSingle(); }), RuntimeError::Overflow);
     EXPECT_EQ(Variant(Decimal{0, 15, 1, true}).toDouble(), -1.5);
