@@ -467,24 +467,100 @@ TEST(Customizing, WhatFailsChangesNothingAndCanBeTriedAgain) {
 }
 
 TEST(Customizing, TakesOnWhatAnotherDeskHasChangedAndKeepsWhatIsWritten) {
-    for (const bool removesField : {false, true}) {
+    CustomizingDesk desk;
+    desk.chooseListed(1);
+    desk.type(desk.caption(), "How they feel");
+    cNIP other;
+    ASSERT_TRUE(other.LoadStructure(desk.db));
+    ASSERT_TRUE(other.DeleteField(1, 1));
+    desk.saveField();
+    EXPECT_THAT(desk.user->boxes.at(0).text, HasSubstr("Another desk has customized this form"));
+    EXPECT_EQ(desk.listed(), "Mood");
+    EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]");
+    desk.saveField();
+    EXPECT_THAT(desk.fields(), HasSubstr("Mood|How they feel"));
+}
+
+TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
+    struct Case {
+        const char* gone;
+        bool isNew;
+        std::function<bool(cNIP&)> act;
+        const char* group;
+        const char* groupID;
+        const char* listed;
+    };
+    const auto deleteMood = [](cNIP& other) { return other.DeleteField(1, 2); };
+    const auto deleteVitals = [](cNIP& other) { return other.DeleteGroup(1); };
+    const Case cases[] = {
+        {"The field [Mood] is no longer there.", false, deleteMood, "[Vitals]", "2", "Pulse Mood"},
+        {"The field [Mood] is no longer there.", false, deleteVitals, "[History]", "3", "Smoker Mood"},
+        {"The group of the new field is no longer there.", true, deleteVitals, "[History]", "3",
+         "Smoker Mood2"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string(c.gone) + c.group);
         CustomizingDesk desk;
-        desk.chooseListed(1);
+        if (c.isNew) {
+            desk.newField();
+            desk.type(desk.name(), "Mood2");
+        } else {
+            desk.chooseListed(1);
+        }
         desk.type(desk.caption(), "How they feel");
         cNIP other;
-        ASSERT_TRUE(other.LoadStructure(desk.db));
-        ASSERT_TRUE(other.DeleteField(1, removesField ? std::int16_t{2} : std::int16_t{1}));
+        ASSERT_TRUE(other.LoadStructure(desk.db) && c.act(other));
         desk.saveField();
-        EXPECT_THAT(desk.user->boxes.at(0).text, HasSubstr("Another desk has customized this form"));
-        EXPECT_EQ(desk.listed(), removesField ? "Pulse" : "Mood");
-        if (removesField) {
-            EXPECT_THAT(desk.lastBox().text, HasSubstr("no longer there"));
-            continue;
-        }
-        EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]");
+        ASSERT_EQ(desk.user->boxes.size(), 1U);
+        EXPECT_THAT(desk.lastBox().text,
+                    AllOf(HasSubstr("Another desk has customized this form"), HasSubstr(c.gone),
+                          HasSubstr(std::string("a new field of the group ") + c.group)));
+        EXPECT_EQ(desk.heading(), std::string("New field in group ") + c.group);
+        EXPECT_EQ(desk.tabs().tabText(desk.tabs().currentIndex()), QString(c.group).mid(1).chopped(1));
+        EXPECT_EQ(desk.caption().text(), "How they feel");
         desk.saveField();
-        EXPECT_THAT(desk.fields(), HasSubstr("Mood|How they feel"));
+        EXPECT_EQ(desk.user->boxes.size(), 1U);
+        EXPECT_EQ(desk.listed(), c.listed);
+        EXPECT_EQ(desk.rows("Select FieldValue,DefaultValue From DBFieldValues Where FieldName='Mood' And "
+                            "DBFieldGroupID=" +
+                            std::string(c.groupID) + " Order By Ordinal"),
+                  c.isNew ? "" : "Good|True Poor|False");
     }
+}
+
+TEST(Customizing, WhatIsWrittenForAFieldThatIsGoneIsNotStoredElsewhereUnasked) {
+    for (const bool opensNip : {true, false}) {
+        CustomizingDesk desk(opensNip);
+        desk.chooseListed(1);
+        desk.type(desk.caption(), "How they feel");
+        desk.db->failOn = "DBFields";
+        desk.saveField();
+        desk.db->failOn.clear();
+        cNIP other;
+        ASSERT_TRUE(other.LoadStructure(desk.db) && other.DeleteGroup(1));
+        desk.user->clear();
+        desk.saveField();
+        EXPECT_EQ(desk.user->boxes.size(), 1U);
+        EXPECT_EQ(desk.heading(), "New field in group [History]");
+        EXPECT_EQ(desk.listed(), "Smoker");
+        ASSERT_TRUE(other.LoadStructure(desk.db) && other.DeleteGroup(1));
+        desk.saveField();
+        EXPECT_THAT(desk.lastBox().text, HasSubstr("There is no group left"));
+        EXPECT_THAT(desk.errorLog(), HasSubstr("[Mood] How they feel, LIST 50: Good|Poor"));
+    }
+}
+
+TEST(Customizing, MakesTheGroupThatIsAskedForOnAFormThatChanged) {
+    CustomizingDesk desk;
+    cNIP other;
+    ASSERT_TRUE(other.LoadStructure(desk.db) && other.DeleteField(1, 1));
+    desk.user->texts = {"Labs"};
+    desk.tool("ID_NewNipGroup");
+    EXPECT_THAT(desk.user->boxes, IsEmpty());
+    EXPECT_EQ(desk.heading(), "Fields of group [Labs]");
+    EXPECT_EQ(desk.tabs().count(), 3);
+    desk.chooseTab(0);
+    EXPECT_EQ(desk.listed(), "Mood");
 }
 
 TEST(Customizing, WhatIsNotWrittenInThePaneIsAsTheOtherDeskMadeIt) {

@@ -151,7 +151,7 @@ void CustomizePane::showGroup(const cNIP* nip, std::int16_t group) {
 bool CustomizePane::resume(const cNIP& nip) {
     const bool isNew = mHoldsNew;
     const FieldPlace place = isNew || mField > 0 ? mHeld.in(nip) : FieldPlace{};
-    if (place.group < 1) return false;
+    if (place.group < 1 || (!isNew && place.field < 1)) return false;
     const FieldDraft written = mForm->draft();
     const FieldDraft begun = mForm->original();
     mNip = &nip;
@@ -160,6 +160,17 @@ bool CustomizePane::resume(const cNIP& nip) {
     const FieldDraft now = isNew ? begun : draftOf(nip, mGroup, place.field);
     take(isNew, place.field, broughtUp(written, begun, now));
     mForm->compareWith(now);
+    return true;
+}
+
+bool CustomizePane::resumeAsNew(const cNIP& nip, std::int16_t otherwise) {
+    FieldDraft written = mForm->draft();
+    if (written.row == mForm->original().row) written.row.clear();
+    const std::int16_t group = mHeld.in(nip).group;
+    showGroup(&nip, group > 0 ? group : otherwise);
+    if (mGroup < 1) return false;
+    take(true, 0, written);
+    mForm->compareWith({});
     return true;
 }
 

@@ -37,6 +37,10 @@ class CustomizePane : public QFrame {
     /// After the structure was loaded anew: shows the group and the field as they are now, and what was
     /// written stays. False, with nothing done, when nothing is edited or it is there no more.
     bool resume(const cNIP& nip);
+    /// After `resume` found no field or group to go on with: what was written stays, as a new field of its
+    /// group, or of the group `otherwise` when that is gone. False, with nothing to edit, when neither is
+    /// there.
+    bool resumeAsNew(const cNIP& nip, std::int16_t otherwise);
     void beginNew();
     void edit(std::int16_t field);
     /// Nothing is edited any more.

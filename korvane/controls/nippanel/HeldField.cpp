@@ -40,16 +40,18 @@ HeldField HeldField::of(const cNIP& nip, FieldPlace place) {
 }
 
 FieldPlace HeldField::in(const cNIP& nip) const {
+    FieldPlace place;
     for (const std::int16_t group : CountedFrom1(nip.GroupCount())) {
         const std::int32_t id = identifierOf(nip, group);
         if (id > 0 && groupID > 0 ? id != groupID : nip.GroupName(group) != groupName) continue;
-        if (fieldName.empty()) return {group, 0};
+        if (place.group < 1) place.group = group;
+        if (fieldName.empty()) return place;
         std::int16_t field = onlyField(
             nip, group, [&](std::int16_t other) { return sameName(nip.fieldName(group, other), fieldName); });
         if (field < 1 && !caption.empty()) field = fieldWithCaption(nip, group, caption);
         if (field > 0) return {group, field};
     }
-    return {};
+    return place;
 }
 
 } // namespace Korvane

@@ -15,7 +15,7 @@ struct HeldField {
     /// Field 0: a new one.
     static HeldField of(const cNIP& nip, FieldPlace place);
 
-    /// Where it stands now; group 0 when it is there no more.
+    /// Where it stands now; field 0 when it is a new one or there no more, group 0 when its group is gone.
     FieldPlace in(const cNIP& nip) const;
 
     std::int32_t groupID = 0; ///< 0: of a group without fields

@@ -85,13 +85,12 @@ bool ucNIPPanel::Members::storeField(const FieldDefinition& definition) {
                       nameTitle);
     }
     if (isNew && !defined)
-        tell("An error occured while creating this field.  Please try again.  "
-             "(ucNipPanel.SaveFieldCustomization-mnip.CreateField Failed. mcG=" +
-                 std::to_string(group) + ", mcF=" + next + reason,
-             MsgBoxStyle::OkOnly);
+        renewStructure("An error occured while creating this field.  Please try again.  "
+                       "(ucNipPanel.SaveFieldCustomization-mnip.CreateField Failed. mcG=" +
+                           std::to_string(group) + ", mcF=" + next + reason,
+                       MsgBoxStyle::OkOnly);
     else
-        tell("System error: Unable to save this field." + reason, MsgBoxStyle::Exclamation);
-    renewStructure();
+        renewStructure("System error: Unable to save this field." + reason);
     return false;
 }
 
@@ -115,8 +114,7 @@ void ucNIPPanel::Members::deleteField() {
                 pane.focusList();
                 return true;
             }
-            tell("System error: Unable to delete this field." + whyFailed(), MsgBoxStyle::Exclamation);
-            renewStructure();
+            renewStructure("System error: Unable to delete this field." + whyFailed());
             return false;
         });
     });

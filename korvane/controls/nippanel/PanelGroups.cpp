@@ -49,10 +49,12 @@ void ucNIPPanel::Members::newGroup() {
 bool ucNIPPanel::Members::createGroup(const std::string& name) {
     const Hourglass hourglass;
     const PaintLock lock(panel);
-    const bool created = nip->CreateGroup(name);
-    if (!created)
-        tell("System error: Unable to create this Nip group" + whyFailed(), MsgBoxStyle::Exclamation);
-    if (!renewStructure() || !created) return false;
+    bool created = nip->CreateGroup(name);
+    if (!created && nip->StructureChanged() && renewStructure()) created = nip->CreateGroup(name);
+    const std::string failure = created ? ""
+                                        : "System error: Unable to create this Nip group" + whyFailed() +
+                                              "\n\nThe group [" + name + "] was not created.";
+    if (!renewStructure(failure) || !created) return false;
     for (const std::int16_t group : CountedFrom1(nip->GroupCount()))
         if (nip->GroupName(group) == name) form->tabs().setCurrentIndex(group - 1);
     showGroup();
@@ -75,10 +77,9 @@ void ucNIPPanel::Members::deleteGroup() {
             const Hourglass hourglass;
             const PaintLock lock(panel);
             const bool deleted = nip->DeleteGroup(selectedGroup());
-            if (!deleted)
-                tell("System error: Unable to remove this nip group." + whyFailed(),
-                     MsgBoxStyle::Exclamation);
-            return renewStructure() && deleted;
+            return renewStructure(deleted ? ""
+                                          : "System error: Unable to remove this nip group." + whyFailed()) &&
+                   deleted;
         });
     });
 }

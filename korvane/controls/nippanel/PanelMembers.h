@@ -5,6 +5,7 @@
 #include <korvane/controls/nippanel/ucNIPPanel.h>
 #include <korvane/nip/cNIP.h>
 #include <korvane/records/Encounter.h>
+#include <korvane/runtime/Interaction.h>
 
 #include <QString>
 
@@ -76,6 +77,9 @@ struct ucNIPPanel::Members {
     bool customizeOnly = false;
     bool allowClosePanel = true;
     bool numbersGroups = false;
+    /// Where what is written in the customize pane went when its place was gone, as a text to append; empty
+    /// while it has its place.
+    std::string displaced;
 
   private:
     /// Runs one of the panel's tasks, which no other may interrupt: those that the host calls for meanwhile,
@@ -117,9 +121,10 @@ struct ucNIPPanel::Members {
 
     std::string whyFailed() const;
     bool reloadStructure(std::string& lost);
-    bool renewStructure();
+    bool renewStructure(std::string_view failure = {}, int style = MsgBoxStyle::Exclamation);
     bool freshStructure();
     void followStructure();
+    void displaceField();
     bool refuse(FieldDraft::Input input, std::string_view message, std::string_view title);
     void saveField();
     bool storeField(const FieldDefinition& definition);

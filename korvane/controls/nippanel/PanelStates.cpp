@@ -45,6 +45,7 @@ void ucNIPPanel::Members::initialize(const std::shared_ptr<ado::Connection>& hos
 }
 
 void ucNIPPanel::Members::buildControls() {
+    displaced.clear();
     form->tabs().CreateNipControls(*nip);
     if (mode == customizing) followStructure();
 }
@@ -53,8 +54,10 @@ void ucNIPPanel::Members::buildControls() {
 bool ucNIPPanel::Members::ensureStructure() {
     if (structureLoaded) return true;
     structureLoaded = nip->LoadStructure(connection);
-    if (structureLoaded) buildControls();
-    return structureLoaded;
+    if (!structureLoaded) return false;
+    buildControls();
+    if (!displaced.empty()) tell("The form is shown as it is now." + displaced, MsgBoxStyle::Exclamation);
+    return true;
 }
 
 bool ucNIPPanel::Members::mayLose(std::string_view question) const {

@@ -27,6 +27,12 @@ std::string listOf(const std::vector<LostEntry>& lost) {
     return list;
 }
 
+/// In full, for the error log.
+std::string textOf(const FieldDraft& draft) {
+    return utf8("[" + draft.name + "] " + draft.caption + ", " + draft.displayType + " " + draft.width +
+                (draft.choices.isEmpty() ? QString() : ": " + draft.choices.join(u'|')));
+}
+
 } // namespace
 
 /// The reason of the operation that just failed, as a text to append.
@@ -38,44 +44,65 @@ std::string ucNIPPanel::Members::whyFailed() const {
 }
 
 /// Loads the structure as it is stored and builds the controls anew. What was entered into the Nip stays, and
-/// what is written in the customize pane; `lost` tells what has no field any more. False when it could not be
-/// read: it is tried again before it is needed.
+/// what is written in the customize pane; `lost` tells, as a text to append, what has no field any more.
+/// False when it could not be read: it is tried again before it is needed.
 bool ucNIPPanel::Members::reloadStructure(std::string& lost) {
     form->tabs().collect();
     std::vector<LostEntry> entries;
     structureLoaded = nip->ReloadStructure(entries);
     if (!mEncounter) forgetValues(*nip);
     buildControls();
-    lost = listOf(entries);
+    lost = listOf(entries) + displaced;
     return structureLoaded;
 }
 
-bool ucNIPPanel::Members::renewStructure() {
+/// Tells with it, in one box, that something failed.
+bool ucNIPPanel::Members::renewStructure(std::string_view failure, int style) {
     std::string lost;
-    if (!reloadStructure(lost))
-        tell("The form could not be read from the database again." + whyFailed(), MsgBoxStyle::Exclamation);
-    else if (!lost.empty())
-        tell("The form is shown as it is now." + lost, MsgBoxStyle::Exclamation);
-    return structureLoaded;
+    const bool read = reloadStructure(lost);
+    const std::string unread =
+        read ? "" : "The form could not be read from the database again." + whyFailed();
+    if (!failure.empty() || !lost.empty())
+        tell(std::string(failure.empty() ? "The form is shown as it is now." : failure) + lost, style);
+    if (!read) tell(unread, MsgBoxStyle::Exclamation);
+    return read;
 }
 
-/// Whether the structure is as it is stored, after one more try if it is not.
+/// Whether the structure is as it is stored, after one more try if it is not, and what is written in the
+/// customize pane still has its place there.
 bool ucNIPPanel::Members::freshStructure() {
-    return mEncounter && !structureLoaded ? renewStructure() : ensureStructure();
+    displaced.clear();
+    return (mEncounter && !structureLoaded ? renewStructure() : ensureStructure()) && displaced.empty();
 }
 
-/// Shows the structure in the customize pane, with what is being written there.
+/// Shows the structure in the customize pane, with what is being written there. A model that could not be
+/// read again may have what failed to be stored in it, which then would not look like a change.
 void ucNIPPanel::Members::followStructure() {
     CustomizePane& pane = form->customizePane();
-    const QString held = pane.holdsChanges() ? pane.form().draft().name : QString();
-    if (!pane.resume(*nip)) {
-        showGroup();
-        if (!held.isEmpty())
-            tell("The field [" + utf8(held) + "] is no longer there.", MsgBoxStyle::Exclamation);
-        return;
+    if (!structureLoaded && pane.holdsChanges()) {
+        markField();
+    } else if (!pane.resume(*nip)) {
+        if (!pane.holdsChanges()) return showGroup();
+        displaceField();
     }
     form->tabs().setCurrentIndex(pane.group() - 1);
     showTools();
+}
+
+/// Offers what is written for a field that is gone, or in a group that is, as a new field.
+void ucNIPPanel::Members::displaceField() {
+    CustomizePane& pane = form->customizePane();
+    const FieldDraft written = pane.form().draft();
+    displaced = pane.holdsNew()
+                    ? "\r\n\r\nThe group of the new field is no longer there."
+                    : "\r\n\r\nThe field [" + utf8(pane.form().original().name) + "] is no longer there.";
+    if (pane.resumeAsNew(*nip, selectedGroup())) {
+        displaced += "  What you wrote is kept as a new field of the group " + utf8(pane.groupTitle()) +
+                     ": save it to create the field there, or cancel it.";
+        return;
+    }
+    displaced += "  There is no group left for what you wrote; it is kept in the error log.";
+    ErrLog("ucNipPanel: there is no group any more for the field " + textOf(written));
 }
 
 } // namespace Korvane
