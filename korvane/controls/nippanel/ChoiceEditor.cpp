@@ -94,8 +94,9 @@ void ChoiceEditor::show(const QStringList& choices, int selected) {
 }
 
 void ChoiceEditor::explain(bool offered) {
-    mTitle->setText(offered ? "Choices (the checked one is the default):"
-                            : "Not offered with this display type (the checked one is the default):");
+    mTitle->setText(offered
+                        ? "Choices (the checked one is the default):"
+                        : "Choices, not offered with this display type (the checked one is the default):");
 }
 
 QStringList ChoiceEditor::choices() const {

@@ -32,6 +32,15 @@ void setText(QLineEdit& box, const QString& text) {
     box.setCursorPosition(0);
 }
 
+/// It keeps its room while it is not shown.
+QLabel* makeMark(QWidget* parent) {
+    auto* mark = new QLabel(QString(u'\u25cf'), parent);
+    QSizePolicy keepsRoom = mark->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    mark->setSizePolicy(keepsRoom);
+    return mark;
+}
+
 bool isDark(const QColor& colour) {
     constexpr int middle = 128;
     return colour.lightness() < middle;
@@ -56,7 +65,7 @@ FieldForm::FieldForm(QWidget* parent) : QWidget(parent) {
     mRule->setToolTip("Cascading means that values from one Exam will be carried over to the next exam");
     mChoices = new ChoiceEditor(this);
     grid->addWidget(mChoices, FieldDraft::Choices, 0, 1, 2);
-    mMarks[FieldDraft::Choices] = new QLabel(this);
+    mMarks[FieldDraft::Choices] = makeMark(this);
     grid->addWidget(mMarks[FieldDraft::Choices], FieldDraft::Choices, 2, Qt::AlignTop);
     grid->setRowStretch(FieldDraft::Choices, 1);
 
@@ -92,8 +101,7 @@ void FieldForm::addRow(FieldDraft::Input input, const QString& label, QWidget* w
     caption->setObjectName(EntrySite::elementName("lblCustNip", input));
     caption->setBuddy(widget);
     widget->setAccessibleName(QString(label).remove(u':'));
-    mMarks[input] = new QLabel(this);
-    mMarks[input]->setFixedWidth(fontMetrics().horizontalAdvance(u'\u25cf'));
+    mMarks[input] = makeMark(this);
     grid->addWidget(caption, input, 0);
     grid->addWidget(widget, input, 1);
     grid->addWidget(mMarks[input], input, 2);
@@ -184,8 +192,8 @@ void FieldForm::note() {
 void FieldForm::mark(FieldDraft::Input which, bool changed, const QString& before) {
     QLabel& label = *mMarks[which];
     const QString was = before.isEmpty() ? QString("Changed") : "Changed; it was " + before;
-    label.setText(changed ? QString(u'\u25cf') : QString());
-    label.setToolTip(changed ? was : QString());
+    label.setVisible(changed);
+    label.setToolTip(was);
     input(which)->setAccessibleDescription(changed ? was : QString());
 }
 
