@@ -3,8 +3,10 @@
 #include <korvane/nip/cNIP.h>
 
 #include <QAbstractItemView>
+#include <QDialog>
 #include <QHeaderView>
 #include <QPointer>
+#include <QVBoxLayout>
 
 #include <gmock/gmock.h>
 
@@ -526,6 +528,35 @@ TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
                             std::string(c.groupID) + " Order By Ordinal"),
                   c.isNew ? "" : "Good|True Poor|False");
     }
+}
+
+TEST(Customizing, EnterOnAComboBoxStoresTheFieldOnceItsListIsClosed) {
+    CustomizingDesk desk;
+    QDialog around;
+    auto* layout = new QVBoxLayout(&around);
+    auto* standard = new QPushButton(&around);
+    standard->setDefault(true);
+    layout->addWidget(standard);
+    layout->addWidget(&desk.panel);
+    around.show();
+    around.activateWindow();
+    desk.chooseListed(0);
+    QComboBox& type = desk.displayType();
+    type.setFocus();
+    type.showPopup();
+    QTest::keyClick(type.view(), Qt::Key_End);
+    QTest::keyClick(type.view(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !type.view()->isVisible(); }));
+    EXPECT_EQ(type.currentText(), "Combobox-Restricted");
+    EXPECT_THAT(desk.fields(), StartsWith("Pulse|The Pulse|TEXT|"));
+    int pressed = 0;
+    QObject::connect(standard, &QPushButton::clicked, [&] { ++pressed; });
+    QTest::keyClick(&type, Qt::Key_Return);
+    desk.settle();
+    EXPECT_EQ(pressed, 0);
+    EXPECT_THAT(desk.fields(), StartsWith("Pulse|The Pulse|COMBOBOX-RESTRICTED|"));
+    layout->removeWidget(&desk.panel);
+    desk.panel.setParent(nullptr);
 }
 
 TEST(Customizing, WhatIsWrittenForAFieldThatIsGoneIsNotStoredElsewhereUnasked) {

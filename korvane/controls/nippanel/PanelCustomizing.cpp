@@ -11,7 +11,9 @@
 #include <korvane/controls/nippanel/Routine.h>
 #include <korvane/runtime/Interaction.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QPointer>
 
@@ -198,11 +200,15 @@ bool ucNIPPanel::Members::asksToLeave(const CustomizePane& pane) {
                                          "Discard Customization Confirmation") == Answer::Ok;
 }
 
-/// In one of the pane's boxes Enter stores the field, and never presses what a dialog around the panel takes
-/// for its default button.
+/// In one of the pane's boxes and closed combo boxes Enter stores the field, and never presses what a dialog
+/// around the panel takes for its default button.
 bool ucNIPPanel::Members::isEnterInPane(const QKeyEvent& key) const {
-    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) &&
-           form->customizePane().form().isBox(QApplication::focusWidget());
+    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) return false;
+    const FieldForm& inputs = form->customizePane().form();
+    const QWidget* const focus = QApplication::focusWidget();
+    const auto* combo = qobject_cast<const QComboBox*>(focus);
+    if (!combo) return inputs.isBox(focus);
+    return inputs.isAncestorOf(combo) && !combo->view()->isVisible();
 }
 
 /// What the keys of the panel mean while it is customized: storing and leaving the field comes before storing
