@@ -90,6 +90,9 @@ class Translator : public sql::Translator {
     // What a subquery or a With hands out is spelled as the table's column in it, unless it was given another
     // name there.
     std::string nameWithin(const std::string& name, int scope) const {
+        // Each name looks through all of them: what nobody writes must not take for ever either.
+        constexpr std::size_t mostScopes = 64;
+        if (statement().scopes.size() > mostScopes) return {};
         if (!seesComputedTable(scope) || isAlias(name)) return {};
         for (int within = 0; within < static_cast<int>(statement().scopes.size()); ++within) {
             if (const ColumnInfo* column =

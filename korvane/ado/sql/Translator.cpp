@@ -161,6 +161,10 @@ std::optional<Literal> Translator::read(std::size_t at, bool negative) const {
 }
 
 void Translator::replace(std::size_t first, std::size_t last, std::string text) {
+    // A text that is put before another one must not become one with it.
+    if (text.ends_with('\'') && last + 1 < mStatement.tokens.size() &&
+        mStatement.tokens[last + 1].text.starts_with('\''))
+        text += ' ';
     // Spelled the same: nothing to do.
     if (textOf(first, last) == text) return;
     mEdits.push_back({beginOf(first), endOf(last), std::move(text)});
