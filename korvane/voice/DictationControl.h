@@ -1,0 +1,44 @@
+#pragma once
+
+#include <korvane/runtime/Event.h>
+
+#include <cstdint>
+#include <string>
+
+namespace Korvane::voice {
+
+/// What is dictated into one control, made by `SpeechEngine::MakeDictation`.
+///
+///     auto dictation = engine.MakeDictation();
+///     EventHandle h = dictation->Dictated.connect([](const std::string& words) { ... });
+///     dictation->Activate(true);    // the control has got the focus
+///
+/// Used on the user-interface thread only.
+class DictationControl {
+  public:
+    virtual ~DictationControl() = default;
+
+    /// Announces the control to the engine. Activating one that is not registered registers it.
+    virtual void Register() = 0;
+
+    /// The language of the words, a number as in `VoiceCommandControl::MenuCreate`. Default 1033. Setting one
+    /// that the engine does not speak raises `RuntimeError` 5 and leaves it as it was.
+    virtual std::int32_t Language() const = 0;
+    virtual void Language(std::int32_t language) = 0;
+
+    /// Whether the words are parts of dates: month names and numbers. Default true. False means free text,
+    /// for which an engine may have no words: then nothing is delivered.
+    virtual bool DateWords() const = 0;
+    virtual void DateWords(bool on) = 0;
+
+    /// Listening starts and ends. While several are active, the one activated last is delivered to. A word
+    /// that was said before the end and not yet delivered is dropped.
+    virtual void Activate(bool on) = 0;
+
+    /// Words were said: one value each time, as it was said and in lower case: "november", "fifteen", "twenty
+    /// twenty six". A date said in one go is delivered as its values, in their order. See `spokenNumber` for
+    /// the digits. Raised on the user-interface thread.
+    Event<const std::string&> Dictated;
+};
+
+} // namespace Korvane::voice
