@@ -3,8 +3,9 @@
 #include "clinic/Database.h"
 #include "clinic/MainWindow.h"
 #include "clinic/Options.h"
-#include "clinic/tour/NoScreen.h"
 #include "clinic/tour/Tour.h"
+#include "shared/CommandLine.h"
+#include "shared/Screen.h"
 
 #include <korvane/controls/container/Busy.h>
 #include <korvane/controls/container/QtInteraction.h>
@@ -16,32 +17,9 @@
 
 #include <sys/stat.h>
 
-#include <algorithm>
-#include <array>
 #include <cstdio>
-#include <string_view>
 
 namespace {
-
-/// --help and --version work where no window can be opened.
-bool needsNoScreen(int argc, char** argv) {
-    constexpr std::array<std::string_view, 5> words{"--help", "-h", "--help-all", "--version", "-v"};
-    return std::any_of(argv + 1, argv + argc, [&](std::string_view argument) {
-        return std::find(words.begin(), words.end(), argument) != words.end();
-    });
-}
-
-bool hasScreen(int argc, char** argv) {
-    const bool platformNamed =
-        qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
-        std::any_of(argv + 1, argv + argc, [](std::string_view a) { return a == "-platform"; });
-    return platformNamed || !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-}
-
-bool wantsTour(int argc, char** argv) {
-    return std::any_of(argv + 1, argv + argc, [](std::string_view a) { return a.starts_with("--tour"); });
-}
 
 /// Says why the program cannot start: on standard error, and in a box where somebody can press its buttons.
 /// True when that somebody wants to try once more.
@@ -88,20 +66,11 @@ int main(int argc, char** argv) {
     QCoreApplication::setOrganizationName(QStringLiteral("Korvane"));
     QCoreApplication::setApplicationName(QStringLiteral("korvane-clinic"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
-    if (needsNoScreen(argc, argv)) {
+    if (Apps::needsNoScreen(argc, argv)) {
         const QCoreApplication application(argc, argv);
         Clinic::readOptions(QCoreApplication::arguments());
     }
-    if (!hasScreen(argc, argv)) {
-        if (!wantsTour(argc, argv)) {
-            std::fputs(
-                "korvane-clinic: there is no display. Set DISPLAY, or see the guided tour with --tour DIR.\n",
-                stderr);
-            return 1;
-        }
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    if (wantsTour(argc, argv)) Clinic::prepareNoScreen();
+    if (!Apps::readyScreen("korvane-clinic", argc, argv)) return 1;
     const QApplication application(argc, argv);
     const Clinic::Options options = Clinic::readOptions(QCoreApplication::arguments());
     Korvane::QtInteraction::installOnce();

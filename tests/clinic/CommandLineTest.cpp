@@ -1,4 +1,4 @@
-#include "ClinicProcess.h"
+#include "support/Program.h"
 
 #include <QDir>
 

@@ -7,6 +7,8 @@
 
 namespace Clinic {
 
+using Apps::require;
+
 namespace {
 
 const FieldName heartRate{"Vital Signs", "HeartRate"};

@@ -11,6 +11,7 @@
 
 namespace Clinic {
 
+using Apps::require;
 using Korvane::qt;
 
 void clickTool(Journey& j, const char* id) {

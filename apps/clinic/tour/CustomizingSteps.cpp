@@ -10,6 +10,7 @@
 
 namespace Clinic {
 
+using Apps::require;
 using Korvane::qt;
 
 namespace {
@@ -89,7 +90,7 @@ void putChoicesInOrder(Journey& j) {
     list.scrollToBottom();
     j.hand.click(*list.viewport(), middle(3));
     j.hand.press(Qt::Key_Up, Qt::AltModifier);
-    if (Hand::canDrag())
+    if (Apps::Hand::canDrag())
         j.hand.drag(*list.viewport(), middle(2), middle(1),
                     [&] { j.album.add(QStringLiteral("Drag a choice to its place")); });
     else

@@ -8,6 +8,8 @@
 
 namespace Clinic {
 
+using Apps::require;
+
 namespace {
 
 void requireType(const Journey& j, const FieldName& name, std::string_view displayType) {

@@ -1,6 +1,6 @@
 #include "clinic/tour/Form.h"
 
-#include "clinic/tour/Failure.h"
+#include "shared/Failure.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -11,6 +11,9 @@
 #include <algorithm>
 
 namespace Clinic {
+
+using Apps::Failure;
+using Apps::require;
 
 namespace {
 
@@ -35,7 +38,8 @@ QString chosenRows(const QAbstractItemView& view) {
 
 } // namespace
 
-Form::Form(QWidget& panel, Hand& hand, const Ledger& ledger) : mPanel(panel), mHand(hand), mLedger(ledger) {}
+Form::Form(QWidget& panel, Apps::Hand& hand, const Ledger& ledger)
+    : mPanel(panel), mHand(hand), mLedger(ledger) {}
 
 QWidget& Form::tagged(const QString& tag) {
     for (QWidget* widget : mPanel.findChildren<QWidget*>()) {

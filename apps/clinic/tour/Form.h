@@ -1,7 +1,7 @@
 #pragma once
 
-#include "clinic/tour/Hand.h"
 #include "clinic/tour/Ledger.h"
+#include "shared/Hand.h"
 
 #include <QStringList>
 
@@ -20,7 +20,7 @@ struct FieldName {
 /// clicks do the rest.
 class Form {
   public:
-    Form(QWidget& panel, Hand& hand, const Ledger& ledger);
+    Form(QWidget& panel, Apps::Hand& hand, const Ledger& ledger);
 
     /// The control of a field, in view. Fails when there is none.
     QWidget& control(const FieldName& name);
@@ -46,7 +46,7 @@ class Form {
     void showTab(int index);
 
     QWidget& mPanel;
-    Hand& mHand;
+    Apps::Hand& mHand;
     const Ledger& mLedger;
 };
 

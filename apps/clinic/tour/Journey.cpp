@@ -10,6 +10,8 @@
 
 namespace Clinic {
 
+using Apps::Failure;
+using Apps::require;
 using Korvane::qt;
 
 namespace {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "clinic/tour/Album.h"
-#include "clinic/tour/Failure.h"
 #include "clinic/tour/Form.h"
-#include "clinic/tour/Hand.h"
 #include "clinic/tour/Ledger.h"
+#include "shared/Album.h"
+#include "shared/Failure.h"
+#include "shared/Hand.h"
 
 #include <QString>
 
@@ -33,8 +33,8 @@ class Journey {
     template <typename Widget = QWidget>
     Widget& part(const char* name) {
         auto* widget = window.findChild<Widget*>(QLatin1String(name));
-        require(widget && widget->isVisible(),
-                QStringLiteral("There is no %1 in view.").arg(QLatin1String(name)));
+        Apps::require(widget && widget->isVisible(),
+                      QStringLiteral("There is no %1 in view.").arg(QLatin1String(name)));
         return *widget;
     }
 
@@ -64,8 +64,8 @@ class Journey {
     void requireStored() { requireStored(visit); }
 
     QWidget& window;
-    Hand hand;
-    Album album;
+    Apps::Hand hand;
+    Apps::Album album;
     Ledger ledger;
     Form form;
 

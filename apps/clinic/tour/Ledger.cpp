@@ -1,6 +1,6 @@
 #include "clinic/tour/Ledger.h"
 
-#include "clinic/tour/Failure.h"
+#include "shared/Failure.h"
 
 #include <korvane/ado/Recordset.h>
 #include <korvane/controls/container/Text.h>
@@ -11,6 +11,8 @@
 
 namespace Clinic {
 
+using Apps::Failure;
+using Apps::require;
 using Korvane::qt;
 using Korvane::ado::Recordset;
 

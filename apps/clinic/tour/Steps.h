@@ -1,16 +1,13 @@
 #pragma once
 
 #include "clinic/tour/Journey.h"
+#include "shared/Tour.h"
 
 #include <vector>
 
 namespace Clinic {
 
-/// One step of the tour: what it is called where it fails, and what it does.
-struct Step {
-    const char* title;
-    void (*run)(Journey&);
-};
+using Step = Apps::Step<Journey>;
 
 /// Choosing a patient and entering a Nip with every kind of control, up to its rows in the database.
 const std::vector<Step>& enteringSteps();

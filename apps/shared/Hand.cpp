@@ -1,6 +1,6 @@
-#include "clinic/tour/Hand.h"
+#include "shared/Hand.h"
 
-#include "clinic/tour/Failure.h"
+#include "shared/Failure.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -13,7 +13,7 @@
 
 #include <vector>
 
-namespace Clinic {
+namespace Apps {
 
 namespace {
 
@@ -167,4 +167,4 @@ void Hand::lookForBox() {
     }
 }
 
-} // namespace Clinic
+} // namespace Apps

@@ -8,7 +8,7 @@
 #include <exception>
 #include <functional>
 
-namespace Clinic {
+namespace Apps {
 
 /// The hand of a user: its keys and clicks take the way of real ones, through the window to whatever has the
 /// focus or lies under the pointer.
@@ -53,4 +53,4 @@ class Hand {
     std::exception_ptr mTrouble;
 };
 
-} // namespace Clinic
+} // namespace Apps

@@ -15,19 +15,19 @@ struct Outcome {
     std::string output, errors;
 };
 
-/// Runs the program without a screen, with a home of its own, to its end.
+/// Runs the program of this test executable without a screen, with a home of its own, to its end.
 inline Outcome run(const ScratchDir& home, const QStringList& arguments) {
-    QProcess clinic;
+    QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     for (const char* place : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         environment.insert(place, QString::fromStdString(home.path().string()));
-    clinic.setProcessEnvironment(environment);
-    clinic.start(QStringLiteral(KORVANE_CLINIC), arguments);
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(KORVANE_PROGRAM), arguments);
     constexpr int limit = 100000;
-    if (!clinic.waitForFinished(limit)) return {};
-    return {clinic.exitCode(), clinic.readAllStandardOutput().toStdString(),
-            clinic.readAllStandardError().toStdString()};
+    if (!program.waitForFinished(limit)) return {};
+    return {program.exitCode(), program.readAllStandardOutput().toStdString(),
+            program.readAllStandardError().toStdString()};
 }
 
 } // namespace Korvane::Testing

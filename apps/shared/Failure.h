@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-namespace Clinic {
+namespace Apps {
 
 /// Something on the tour is not as it should be.
 class Failure : public std::runtime_error {
@@ -16,4 +16,4 @@ inline void require(bool condition, const QString& otherwise) {
     if (!condition) throw Failure(otherwise);
 }
 
-} // namespace Clinic
+} // namespace Apps

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QWidget>
 
-namespace Clinic {
+namespace Apps {
 
 /// The pictures of a tour: of the window with the boxes and lists that are open above it.
 class Album {
@@ -26,4 +26,4 @@ class Album {
     int mCount = 0;
 };
 
-} // namespace Clinic
+} // namespace Apps

@@ -1,5 +1,5 @@
-#include "clinic/tour/Hand.h"
-#include "clinic/tour/Failure.h"
+#include "shared/Hand.h"
+#include "shared/Failure.h"
 
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-namespace Clinic {
+namespace Apps {
 
 namespace {
 
@@ -77,4 +77,4 @@ TEST_F(Hands, FailWhereABoxIsMissingUnexpectedOrNotAsItShouldBe) {
     }
 }
 
-} // namespace Clinic
+} // namespace Apps

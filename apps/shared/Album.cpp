@@ -1,6 +1,6 @@
-#include "clinic/tour/Album.h"
+#include "shared/Album.h"
 
-#include "clinic/tour/Failure.h"
+#include "shared/Failure.h"
 
 #include <QApplication>
 #include <QImage>
@@ -10,7 +10,7 @@
 
 #include <utility>
 
-namespace Clinic {
+namespace Apps {
 
 namespace {
 
@@ -75,4 +75,4 @@ QImage Album::picture() const {
     return picture.toImage();
 }
 
-} // namespace Clinic
+} // namespace Apps

@@ -1,0 +1,61 @@
+#include "shared/CommandLine.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+namespace Apps {
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("Apps::CommandLine", text);
+}
+
+} // namespace
+
+bool needsNoScreen(int argc, char** argv) {
+    constexpr std::array<std::string_view, 5> words{"--help", "-h", "--help-all", "--version", "-v"};
+    return std::any_of(argv + 1, argv + argc, [&](std::string_view argument) {
+        return std::find(words.begin(), words.end(), argument) != words.end();
+    });
+}
+
+void refuse(const QString& why) {
+    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(QCoreApplication::applicationName()),
+                 qUtf8Printable(why));
+    std::exit(1);
+}
+
+void readOptions(QCommandLineParser& parser, const QStringList& arguments) {
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(arguments);
+    if (!parser.positionalArguments().isEmpty())
+        refuse(
+            tr("\"%1\" is not understood; --help tells what is.").arg(parser.positionalArguments().first()));
+}
+
+QCommandLineOption fontScaleOption(const QString& more) {
+    return {QStringLiteral("font-scale"), tr("Text size in percent, 70 to 300%1.").arg(more),
+            QStringLiteral("percent")};
+}
+
+int fontScale(const QCommandLineParser& parser, int otherwise) {
+    const QString name = QStringLiteral("font-scale");
+    if (!parser.isSet(name)) return otherwise;
+    bool isNumber = false;
+    const int scale = parser.value(name).toInt(&isNumber);
+    if (!isNumber || scale < 70 || scale > 300) refuse(tr("--font-scale takes a number from 70 to 300."));
+    return scale;
+}
+
+QString tourDirectory(const QCommandLineParser& parser) {
+    const QString name = QStringLiteral("tour");
+    if (parser.isSet(name) && parser.value(name).isEmpty()) refuse(tr("--tour needs a directory."));
+    return parser.value(name);
+}
+
+} // namespace Apps

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace Apps {
+
+/// Readies the screen before the application object is made. A tour ("--tour" on the command line) needs no
+/// display: it gets one that shows nothing (platform "offscreen"), large enough for the window and its lists,
+/// and what such a screen cannot do is not told.
+///
+/// False, with a line on standard error, when there is no display and no tour is wanted.
+bool readyScreen(const char* program, int argc, char** argv);
+
+} // namespace Apps
