@@ -1,5 +1,7 @@
 #include "clinic/TextSize.h"
 
+#include "shared/ScaledFont.h"
+
 #include <QApplication>
 #include <QSettings>
 
@@ -45,11 +47,7 @@ void TextSize::usual() {
 }
 
 void TextSize::apply() {
-    QFont font = mUsual;
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * mPercent / 100);
-    else
-        font.setPixelSize(font.pixelSize() * mPercent / 100);
+    const QFont font = Apps::scaled(mUsual, mPercent);
     if (font != QApplication::font()) QApplication::setFont(font);
 }
 

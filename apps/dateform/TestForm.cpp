@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QPushButton>
 
 namespace DateForm {
@@ -34,7 +35,7 @@ QCheckBox* switchBox(const char* name, const QString& text) {
 
 TestForm::TestForm(QWidget* parent)
     : QWidget(parent), mName(new QLineEdit), mDate(new axDate), mRefusal(new QLabel),
-      mEvents(new QListWidget) {
+      mEvents(new QTreeWidget) {
     setWindowTitle(tr("Date control"));
     auto* columns = new QHBoxLayout(this);
     auto* left = new QVBoxLayout;
@@ -89,37 +90,40 @@ QWidget* TestForm::makeEvents() {
     auto* rows = new QVBoxLayout(group);
     auto* clear = new QPushButton(tr("&Clear"));
     mEvents->setObjectName(QStringLiteral("lstEvents"));
+    mEvents->setAccessibleName(tr("Events"));
     mEvents->setLayoutDirection(Qt::LeftToRight);
-    mEvents->setWordWrap(true);
+    mEvents->setHeaderLabels({tr("Event"), tr("What it says")});
+    mEvents->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    mEvents->setRootIsDecorated(false);
+    mEvents->setAlternatingRowColors(true);
     mEvents->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
     clear->setObjectName(QStringLiteral("cmdClear"));
     clear->setProperty("CausesValidation", false);
     rows->addWidget(mEvents);
-    rows->addWidget(clear);
-    connect(clear, &QPushButton::clicked, mEvents, &QListWidget::clear);
+    rows->addWidget(clear, 0, Qt::AlignRight);
+    connect(clear, &QPushButton::clicked, mEvents, &QTreeWidget::clear);
     return group;
 }
 
 void TestForm::listen() {
     connect(mDate, &axDate::OnIndexChange, this,
-            [this](qint16 index) { hear(QStringLiteral("OnIndexChange %1").arg(index)); });
+            [this](qint16 index) { hear(QStringLiteral("OnIndexChange"), QString::number(index)); });
     connect(mDate, &axDate::OnChange, this, [this] {
-        hear(QStringLiteral("OnChange   axDate = \"%1\"").arg(mDate->wholeDate()));
+        hear(QStringLiteral("OnChange"), QStringLiteral("axDate = \"%1\"").arg(mDate->wholeDate()));
         mRefusal->clear();
     });
     connect(mDate, &axDate::Exception, this, [this](const QString& message) {
-        hear(QStringLiteral("Exception   %1").arg(message));
+        hear(QStringLiteral("Exception"), message);
         mRefusal->setText(message);
     });
     connect(mDate, &axDate::SystemMessage, this,
-            [this](const QString& message) { hear(QStringLiteral("SystemMessage   %1").arg(message)); });
+            [this](const QString& message) { hear(QStringLiteral("SystemMessage"), message); });
     // The focus is still on its way then: a box has to wait until it has arrived.
     connect(mDate, &axDate::SystemMessage, this, &TestForm::checkBounds, Qt::QueuedConnection);
 }
 
-void TestForm::hear(const QString& event) {
-    mEvents->addItem(event);
-    mEvents->scrollToBottom();
+void TestForm::hear(const QString& event, const QString& text) {
+    mEvents->scrollToItem(new QTreeWidgetItem(mEvents, {event, text}));
 }
 
 void TestForm::checkBounds() {
@@ -127,7 +131,7 @@ void TestForm::checkBounds() {
     if (outside == 0) return;
     const QString message = outside > 0 ? tr("The date must not be after %1.").arg(mDate->MaximumDate())
                                         : tr("The date must not be before %1.").arg(mDate->MinimumDate());
-    hear(QStringLiteral("Date Error   %1").arg(message));
+    hear(QStringLiteral("Date Error"), message);
     Korvane::Interaction::current().MsgBox(Korvane::utf8(message), Korvane::MsgBoxStyle::Information,
                                            "Date Error");
     mDate->SetElementFocus(0);

@@ -4,7 +4,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QTreeWidget>
 #include <QWidget>
 
 namespace DateForm {
@@ -24,14 +24,14 @@ class TestForm : public QWidget {
     QWidget* makeSettings();
     QWidget* makeEvents();
     void listen();
-    void hear(const QString& event);
+    void hear(const QString& event, const QString& text);
     void checkBounds();
     void requireFourDigits(bool on);
 
     QLineEdit* mName;
     Korvane::axDate* mDate;
     QLabel* mRefusal;
-    QListWidget* mEvents;
+    QTreeWidget* mEvents;
 };
 
 } // namespace DateForm

@@ -1,49 +1,52 @@
 // korvane-dateform: a form to try the date control on.
 
 #include "dateform/TestForm.h"
+#include "dateform/Tour.h"
+#include "shared/CommandLine.h"
+#include "shared/ScaledFont.h"
+#include "shared/Screen.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
-#include <QFont>
-
-#include <cstdio>
-#include <optional>
 
 namespace {
 
-/// Nothing when it is not a number from 70 to 300.
-std::optional<int> percent(const QString& text) {
-    bool isNumber = false;
-    const int value = text.toInt(&isNumber);
-    if (!isNumber || value < 70 || value > 300) return std::nullopt;
-    return value;
+struct Options {
+    QString tourDirectory;
+    int fontScale = 100;
+};
+
+Options readOptions() {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("The date control on a form, with every event it raises."));
+    parser.addOptions({{QStringLiteral("tour"),
+                        QStringLiteral("Drive the form by itself, and leave a picture of each step in this "
+                                       "directory."),
+                        QStringLiteral("dir")},
+                       Apps::fontScaleOption()});
+    Apps::readOptions(parser, QCoreApplication::arguments());
+    return {Apps::tourDirectory(parser), Apps::fontScale(parser, 100)};
+}
+
+int openForm(const Options& options) {
+    QApplication::setFont(Apps::scaled(QApplication::font(), options.fontScale));
+    DateForm::TestForm form;
+    form.show();
+    return QApplication::exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("korvane-dateform"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("The date control on a form, with every event it raises."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption scale(QStringLiteral("font-scale"),
-                                   QStringLiteral("Text size in percent, 70 to 300."),
-                                   QStringLiteral("percent"), QStringLiteral("100"));
-    parser.addOption(scale);
-    parser.process(application);
-    const auto size = percent(parser.value(scale));
-    if (!size) {
-        std::fputs("korvane-dateform: --font-scale takes a number from 70 to 300.\n", stderr);
-        return 1;
+    if (Apps::needsNoScreen(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        readOptions();
     }
-    QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() * *size / 100);
-    QApplication::setFont(font);
-    DateForm::TestForm form;
-    form.show();
-    return QApplication::exec();
+    if (!Apps::readyScreen("korvane-dateform", argc, argv)) return 1;
+    const QApplication application(argc, argv);
+    const Options options = readOptions();
+    if (!options.tourDirectory.isEmpty()) return DateForm::runTour(options.tourDirectory, options.fontScale);
+    return openForm(options);
 }

@@ -37,9 +37,10 @@ struct OpenForm : TestForm {
     }
     std::vector<std::string> events() {
         std::vector<std::string> texts;
-        const auto& list = part<QListWidget>("lstEvents");
-        for (int i = 0; i < list.count(); ++i)
-            texts.push_back(list.item(i)->text().toStdString());
+        const auto& list = part<QTreeWidget>("lstEvents");
+        for (int i = 0; i < list.topLevelItemCount(); ++i)
+            texts.push_back(
+                (list.topLevelItem(i)->text(0) + ' ' + list.topLevelItem(i)->text(1)).toStdString());
         return texts;
     }
 };
@@ -79,9 +80,9 @@ TEST(TestForm, ListsEventsAndShowsWhatWasRefusedUntilItIsMended) {
     form.press("8");
     EXPECT_EQ(refusal.text(), "");
     EXPECT_THAT(form.events(),
-                ElementsAre("OnIndexChange 0", "OnChange   axDate = \"\"", "OnIndexChange 1",
-                            "OnChange   axDate = \"\"", "Exception   Invalid date format. Please re-enter.",
-                            "OnChange   axDate = \"\""));
+                ElementsAre("OnIndexChange 0", "OnChange axDate = \"\"", "OnIndexChange 1",
+                            "OnChange axDate = \"\"", "Exception Invalid date format. Please re-enter.",
+                            "OnChange axDate = \"\""));
     QTest::mouseClick(form.findChild<QWidget*>("cmdClear"), Qt::LeftButton);
     EXPECT_THAT(form.events(), IsEmpty());
 }
