@@ -1,28 +1,28 @@
 #include "support/CustomizingDesk.h"
 
-#include <korvane/nip/cNIP.h>
-
 #include <QAbstractItemView>
 #include <QDialog>
 #include <QHeaderView>
-#include <QPointer>
+#include <QPushButton>
 #include <QVBoxLayout>
-
-#include <gmock/gmock.h>
 
 namespace Korvane {
 
 using namespace Testing;
 using testing::AllOf;
 using testing::ElementsAre;
+using testing::Field;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::StartsWith;
 
 namespace {
 
 constexpr int asksYesNo = MsgBoxStyle::YesNo | MsgBoxStyle::Question;
 constexpr int asksOkCancel = MsgBoxStyle::OkCancel | MsgBoxStyle::Question;
+const char* const choicesOfMood = "2|Mood|Good|True 2|Mood|Poor|False";
+constexpr int asksWarily = asksOkCancel | MsgBoxStyle::DefaultButton2;
 
 /// One way to leave a field that is being written, and whether it got anywhere.
 struct WayOut {
@@ -30,195 +30,162 @@ struct WayOut {
     std::function<bool(CustomizingDesk&)> go;
 };
 
+WayOut by(const char* step, std::function<bool(CustomizingDesk&)> gotThere) {
+    return {step, [=](CustomizingDesk& d) { return d.does(step), gotThere(d); }};
+}
+bool isEmpty(CustomizingDesk& desk) {
+    return desk.name().text().isEmpty();
+}
+bool isMood(CustomizingDesk& desk) {
+    return desk.name().text() == "Mood";
+}
+
 const WayOut waysOut[] = {
-    {"Cancel", [](CustomizingDesk& d) { return d.cancelField(), d.heading() == "Fields of group [Vitals]"; }},
-    {"New Field", [](CustomizingDesk& d) { return d.newField(), d.name().text().isEmpty(); }},
-    {"another field in the list",
-     [](CustomizingDesk& d) { return d.chooseListed(1), d.name().text() == "Mood"; }},
-    {"another field in the form",
-     [](CustomizingDesk& d) { return d.clickInForm("lblNip(1)"), d.name().text() == "Mood"; }},
-    {"another tab", [](CustomizingDesk& d) { return d.chooseTab(1), d.tabs().currentIndex() == 1; }},
-    {"the tool of the group",
-     [](CustomizingDesk& d) { return d.tool("ID_CustomizeNipGroup"), d.name().text().isEmpty(); }},
-    {"back to the Nip",
-     [](CustomizingDesk& d) {
-         return d.click("cmdBackToNip"), !d.part<QWidget>("paneCustomize").isVisible();
-     }},
-    {"the pane's close button",
-     [](CustomizingDesk& d) { return d.click("cmdCloseNipCustomize"), !d.heard.empty(); }},
-    {"customizing again",
-     [](CustomizingDesk& d) { return d.panel.CustomizeNip(), d.name().text().isEmpty(); }},
-    {"the host's load", [](CustomizingDesk& d) { return d.panel.LoadNipInfo(7, "P1"); }},
-    {"the host's new Nip", [](CustomizingDesk& d) { return d.panel.CreateNip("P2"); }},
+    by("Cancel field", [](auto& d) { return d.heading() == "Fields of group [Vitals]"; }),
+    by("New field", isEmpty),
+    by("field 1", isMood),
+    by("lblNip(1)", isMood),
+    by("tab 1", [](auto& d) { return d.tabs().currentIndex() == 1; }),
+    by("ID_CustomizeNipGroup", isEmpty),
+    by("Back", [](auto& d) { return !d.template part<QWidget>("paneCustomize").isVisible(); }),
+    by("Close pane", [](auto& d) { return !d.heard.empty(); }),
+    {"customizing again", [](auto& d) { return d.panel.CustomizeNip(), isEmpty(d); }},
+    {"the host's load", [](auto& d) { return d.load(); }},
+    {"the host's new Nip", [](auto& d) { return d.panel.CreateNip("P2"); }},
 };
+
+/// What a host's timer or a hand does while a question is open.
+void doEverything(CustomizingDesk& desk) {
+    EXPECT_FALSE(desk.load());
+    EXPECT_FALSE(desk.panel.requestClose());
+    desk.panel.CustomizeNip();
+    for (const char* button : {"cmdNipCustomizeButton(0)", "cmdNipCustomizeButton(3)"})
+        desk.part<QAbstractButton>(button).click();
+    desk.part<QAction>("ID_DeleteNipGroup").trigger();
+}
 
 } // namespace
 
 TEST(Customizing, MakesAFieldFromWhatIsTyped) {
     CustomizingDesk desk;
-    desk.type(desk.pulse(), "99"); // means nothing while the form is customized
+    desk.does("pulse=99"); // means nothing while the form is customized
     EXPECT_EQ(desk.pulse().text(), "72");
-    desk.newField();
+    desk.does("New field");
     EXPECT_EQ(desk.heading(), "New field in group [Vitals]");
     EXPECT_FALSE(desk.offers("cmdNipCustomizeButton(3)")) << "nothing to save yet";
-    desk.type(desk.caption(), "2nd pulse (rest)");
+    desk.does("caption=2nd pulse (rest)");
     EXPECT_EQ(desk.name().text(), "ndpulserest") << "a name is proposed";
-    desk.type(desk.name(), "RestPulse");
-    desk.type(desk.caption(), "Resting pulse");
-    EXPECT_EQ(desk.name().text(), "RestPulse") << "but not over one's own";
+    desk.does("name=RestPulse; caption=Resting pulse; row=1");
     QTest::keyClicks(&desk.displayType(), "List-M");
-    desk.type(desk.row(), "1");
-    QTest::keyClick(&desk.row(), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_THAT(desk.user->boxes, IsEmpty());
-    EXPECT_THAT(desk.fields(), HasSubstr("RestPulse|Resting pulse|LIST-MULTIPLE|50"));
-    EXPECT_EQ(desk.listed(), "RestPulse Pulse Mood");
+    for (const char* tried : {"refused", "stored"}) {
+        EXPECT_EQ(desk.name().text(), "RestPulse") << "nothing is proposed over one's own";
+        desk.db->failOn = std::string_view(tried) == "refused" ? "Insert Into DBFields" : "";
+        QTest::keyClick(&desk.row(), Qt::Key_S, Qt::ControlModifier);
+        desk.does("caption=Pulse at rest");
+    }
+    EXPECT_EQ(desk.told().size(), 2U) << "of the one that was refused";
+    EXPECT_THAT(desk.fields(), HasSubstr("RestPulse|Pulse at rest|LIST-MULTIPLE|50"));
     EXPECT_EQ(desk.rows("Select RestPulse From NIP_Custom1"), "NULL");
     EXPECT_TRUE(desk.description().hasFocus());
-    EXPECT_EQ(desk.heading(), "Fields of group [Vitals]");
+    EXPECT_EQ(desk.pane(), "Fields of group [Vitals]: RestPulse Pulse Mood");
     EXPECT_TRUE(desk.part<QWidget>("gridNip(0)").isVisible());
 }
 
 TEST(Customizing, ChangesAFieldAndKeepsItsDataAndTheEntriesOfTheOpenNip) {
     CustomizingDesk desk;
-    desk.click("cmdBackToNip");
-    desk.type(desk.pulse(), "99");
-    desk.click("cmdNipButton(2)");
-    desk.clickInForm("txtNip(0)");
+    desk.does("Back; pulse=99; Customize; txtNip(0)");
     EXPECT_EQ(desk.heading(), "Editing field [Pulse] of group [Vitals]");
     EXPECT_TRUE(desk.part<QWidget>("markNipField").geometry().contains(desk.pulse().geometry()));
     EXPECT_EQ(desk.list().currentItem()->text(0), "Pulse");
     EXPECT_FALSE(desk.offers("cmdNipCustomizeButton(3)"));
-    desk.type(desk.name(), "HeartRate");
-    desk.type(desk.width(), "80");
+    desk.does("name=HeartRate; width=80");
     EXPECT_EQ(desk.name().accessibleDescription(), "Changed; it was Pulse");
-    desk.saveField();
-    EXPECT_THAT(desk.user->boxes, IsEmpty());
+    desk.does("Save field");
+    EXPECT_THAT(desk.told(), IsEmpty());
     EXPECT_THAT(desk.fields(), StartsWith("HeartRate|The Pulse|TEXT|80"));
     EXPECT_EQ(desk.rows("Select HeartRate From NIP_Custom1"), "72");
     EXPECT_EQ(desk.pulse().text(), "99") << "not saved yet, not lost";
     EXPECT_TRUE(desk.panel.isModified());
-    desk.click("cmdBackToNip");
-    desk.save();
+    desk.does("Back; Save");
     EXPECT_EQ(desk.rows("Select HeartRate From NIP_Custom1"), "99");
 }
 
 TEST(Customizing, KeepsWhatAFieldHoldsWhenItIsDisplayedInAnotherWay) {
-    const char* types[] = {
-        "TEXT", "LIST", "LIST-MULTIPLE", "LIST-EDITCONTENT", "COMBOBOX", "COMBOBOX-RESTRICTED"};
+    const char* types[] = {"LIST-EDITCONTENT", "TEXT",     "LIST",
+                           "LIST-MULTIPLE",    "COMBOBOX", "COMBOBOX-RESTRICTED"};
     for (const char* from : {"TEXT", "LIST-MULTIPLE"}) {
         for (const char* to : types) {
             SCOPED_TRACE(std::string(from) + " to " + to);
             CustomizingDesk desk(false);
-            desk.db->quietly("Update DBFields Set DisplayType='" + std::string(from) +
+            desk.db->quietly(std::string("Update DBFields Set DisplayType='") + from +
                              "' Where FieldName='Mood'");
             desk.db->quietly("Update NIP_Custom1 Set Mood='Poor|gone'");
             desk.panel.Initialize(desk.db);
             desk.panel.CustomizeNip();
-            desk.panel.LoadNipInfo(7, "P1");
-            desk.type(desk.pulse(), "99");
-            desk.click("cmdNipButton(2)");
-            desk.chooseListed(1);
-            desk.displayType().setCurrentIndex(desk.displayType().findData(to));
-            desk.saveField();
-            desk.click("cmdBackToNip");
-            desk.save();
-            EXPECT_THAT(desk.user->boxes, IsEmpty());
+            desk.does("Load; pulse=99; Customize; field 1; display=" + QString(to) + "; Save field");
+            if (to == types[0])
+                desk.does("field 0; display=LIST; Save field"); // also what was only just typed
+            desk.does("Back; Save");
+            EXPECT_THAT(desk.told(), IsEmpty());
             EXPECT_EQ(desk.rows("Select Pulse,Mood From NIP_Custom1"), "99|Poor|gone");
         }
     }
-    CustomizingDesk desk;
-    desk.click("cmdBackToNip");
-    desk.type(desk.pulse(), "99");
-    desk.click("cmdNipButton(2)");
-    desk.chooseListed(0);
-    desk.displayType().setCurrentIndex(desk.displayType().findData("LIST-EDITCONTENT"));
-    desk.saveField();
-    desk.click("cmdBackToNip");
-    desk.save();
-    EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "99") << "also what was only just typed";
 }
 
 TEST(Customizing, ChoosesFieldsByKeysInTheListAndInTheForm) {
     CustomizingDesk desk;
-    EXPECT_TRUE(desk.list().hasFocus());
+    const auto press = [&](const char* part, Qt::Key key) {
+        EXPECT_TRUE(desk.part<QWidget>(part).hasFocus()) << part;
+        QTest::keyClick(QApplication::focusWidget(), key);
+        desk.settle();
+    };
     EXPECT_EQ(desk.heading(), "Fields of group [Vitals]") << "the focus alone chooses nothing";
     for (const char* name : {"Pulse", "Mood"}) {
-        QTest::keyClick(&desk.list(), Qt::Key_Down);
-        desk.settle();
-        EXPECT_EQ(utf8(desk.name().text()), name);
+        press("gridNipFields", Qt::Key_Down);
+        EXPECT_EQ(desk.heading(), std::string("Editing field [") + name + "] of group [Vitals]");
     }
-    EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]");
-    QTest::keyClick(&desk.list(), Qt::Key_F6);
-    EXPECT_TRUE(desk.part<QWidget>("gridNip(0)").hasFocus());
-    QTest::keyClick(&desk.part<QWidget>("gridNip(0)"), Qt::Key_Backtab);
-    EXPECT_TRUE(desk.pulse().hasFocus());
-    QTest::keyClick(&desk.pulse(), Qt::Key_Return);
-    desk.settle();
+    press("gridNipFields", Qt::Key_F6);
+    press("gridNip(0)", Qt::Key_Backtab);
+    press("txtNip(0)", Qt::Key_Return);
     EXPECT_EQ(desk.heading(), "Editing field [Pulse] of group [Vitals]");
-    EXPECT_TRUE(desk.list().hasFocus());
-    QTest::keyClick(&desk.list(), Qt::Key_Escape);
+    press("gridNipFields", Qt::Key_Escape);
     EXPECT_EQ(desk.heading(), "Fields of group [Vitals]");
-    QTest::keyClick(&desk.list(), Qt::Key_Escape);
+    press("gridNipFields", Qt::Key_Escape);
     EXPECT_FALSE(desk.part<QWidget>("paneCustomize").isVisible());
     EXPECT_THAT(desk.heard, IsEmpty()) << "back to the Nip, which stays open";
 }
 
-TEST(Customizing, TabGoesThroughThePaneInTheOrderInWhichItIsRead) {
-    CustomizingDesk desk;
-    desk.chooseListed(0);
-    desk.type(desk.caption(), "Rate");
-    std::vector<std::string> order;
-    for (QWidget* w = &desk.list(); w != &desk.part<QWidget>("cmdNipButton(0)"); w = w->nextInFocusChain())
-        if (w->focusPolicy() & Qt::TabFocus && w->isVisible() && w->isEnabled() &&
-            !w->objectName().startsWith("qt_"))
-            order.push_back(utf8(w->objectName()));
-    EXPECT_THAT(order, ElementsAre("gridNipFields", "txtCustNip(0)", "txtCustNip(1)", "cboCustNip(0)",
-                                   "txtCustNip(2)", "cboCustNip(1)", "txtCustNip(3)", "lstNipChoices",
-                                   "cmdNipChoices(0)", "cmdNipCustomizeButton(0)", "cmdNipCustomizeButton(1)",
-                                   "cmdNipCustomizeButton(2)", "cmdNipCustomizeButton(3)"));
-}
-
-TEST(Customizing, TabReachesWhatStandsAboveTheForm) {
+TEST(Customizing, TabGoesThroughThePaneAndReachesWhatStandsAboveTheForm) {
     CustomizingDesk desk;
     auto& tools = desk.part<QToolBar>("ToolBars1");
-    std::vector<QWidget*> expected;
+    std::vector<QWidget*> above;
     for (QAction* tool : tools.actions())
-        expected.push_back(tools.widgetForAction(tool));
+        above.push_back(tools.widgetForAction(tool));
     for (const char* name : {"cmdBackToNip", "cmdCloseNipCustomize", "cmdCloseNip", "txtEncounterInfo"})
-        expected.push_back(&desk.part<QWidget>(name));
+        above.push_back(&desk.part<QWidget>(name));
     desk.part<QWidget>("cmdNipButton(1)").setFocus();
-    for (const QWidget* next : expected) {
+    for (const QWidget* next : above) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_TRUE(next->hasFocus()) << utf8(next->objectName());
     }
+    desk.does("field 0; caption=Rate");
+    EXPECT_THAT(desk.tabOrder(desk.list(), desk.part<QWidget>("cmdNipButton(0)")),
+                ElementsAre("txtCustNip(0)", "txtCustNip(1)", "cboCustNip(0)", "txtCustNip(2)",
+                            "cboCustNip(1)", "txtCustNip(3)", "lstNipChoices", "cmdNipChoices(0)",
+                            "cmdNipCustomizeButton(0)", "cmdNipCustomizeButton(1)",
+                            "cmdNipCustomizeButton(2)", "cmdNipCustomizeButton(3)"));
 }
 
-TEST(Customizing, WhatIsWrongIsInViewWithTheFocus) {
-    CustomizingDesk desk;
-    desk.panel.resize(700, 350);
-    desk.newField();
-    desk.type(desk.name(), "Temp");
-    desk.type(desk.row(), "0");
-    desk.name().setFocus();
-    QTest::keyClick(&desk.name(), Qt::Key_Return);
-    EXPECT_THAT(desk.lastBox().text, StartsWith("The row position must be"));
-    EXPECT_TRUE(desk.row().hasFocus());
-    EXPECT_EQ(desk.row().visibleRegion().boundingRect(), desk.row().rect());
-}
-
-TEST(Customizing, AsksBeforeAFieldIsLeft) {
+TEST(Customizing, AsksBeforeAFieldIsLeftAndDoesNothingElseMeanwhile) {
     for (const WayOut& way : waysOut) {
         for (const bool isNew : {true, false}) {
             for (const bool agrees : {false, true}) {
                 SCOPED_TRACE(testing::Message() << way.name << isNew << agrees);
                 CustomizingDesk desk;
-                if (isNew)
-                    desk.newField();
-                else
-                    desk.chooseListed(0);
-                desk.type(desk.caption(), "Rate");
+                desk.does(isNew ? "New field; caption=Rate" : "field 0; caption=Rate");
                 desk.user->answers = {agrees ? (isNew ? Answer::Yes : Answer::Ok)
                                              : (isNew ? Answer::No : Answer::Cancel)};
+                desk.user->whenShown = [&] { doEverything(desk); };
                 EXPECT_EQ(way.go(desk), agrees);
                 const ShownBox expected =
                     isNew ? ShownBox{"Are you sure you want to cancel creating this field?", asksYesNo,
@@ -226,19 +193,25 @@ TEST(Customizing, AsksBeforeAFieldIsLeft) {
                           : ShownBox{"Changes have been made to the field [Pulse] in the group [Vitals]. "
                                      "\nAre you certain you want to discard those changes?",
                                      asksOkCancel, "Discard Customization Confirmation"};
-                EXPECT_THAT(desk.user->boxes, ElementsAre(expected));
+                EXPECT_THAT(desk.told(), ElementsAre(expected));
                 if (agrees) continue;
-                EXPECT_EQ(desk.caption().text(), "Rate");
+                EXPECT_EQ(desk.caption(), "Rate");
+                EXPECT_EQ(desk.heading(),
+                          isNew ? "New field in group [Vitals]" : "Editing field [Pulse] of group [Vitals]");
                 EXPECT_EQ(desk.tabs().currentIndex(), 0);
                 EXPECT_TRUE(desk.part<QWidget>("cmdCloseNip").hasFocus());
             }
         }
+        CustomizingDesk unchanged;
+        unchanged.does("field 0");
+        EXPECT_TRUE(way.go(unchanged)) << way.name;
+        EXPECT_THAT(unchanged.told(), IsEmpty()) << way.name;
     }
 }
 
 TEST(Customizing, AChoiceThatIsStillBeingTypedIsAChange) {
     const auto type = [](CustomizingDesk& desk, int field, const char* text) {
-        desk.chooseListed(field);
+        desk.does(QString("field %1").arg(field));
         auto& choices = desk.part<QAbstractItemView>("lstNipChoices");
         choices.setFocus();
         QTest::keyClick(&choices, Qt::Key_F2);
@@ -254,8 +227,8 @@ TEST(Customizing, AChoiceThatIsStillBeingTypedIsAChange) {
             desk.panel.Initialize(desk.db);
             type(desk, 0, text);
             EXPECT_FALSE(way.go(desk));
-            ASSERT_EQ(desk.user->boxes.size(), 1U);
-            EXPECT_EQ(desk.lastBox().title, "Discard Customization Confirmation");
+            EXPECT_THAT(desk.told(),
+                        ElementsAre(Field(&ShownBox::title, "Discard Customization Confirmation")));
             EXPECT_EQ(desk.heading(), "Editing field [Pulse] of group [Vitals]");
         }
     }
@@ -265,97 +238,82 @@ TEST(Customizing, AChoiceThatIsStillBeingTypedIsAChange) {
     EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]") << "Enter takes the choice alone";
     type(desk, 1, "Greatest");
     EXPECT_TRUE(desk.offers("cmdNipCustomizeButton(3)"));
-    desk.saveField();
-    EXPECT_EQ(desk.rows("Select FieldValue From DBFieldValues Order By Ordinal"), "Greatest Poor");
-}
-
-TEST(Customizing, LeavesAFieldWithoutChangesUnasked) {
-    for (const WayOut& way : waysOut) {
-        CustomizingDesk desk;
-        desk.chooseListed(0);
-        EXPECT_TRUE(way.go(desk)) << way.name;
-        EXPECT_THAT(desk.user->boxes, IsEmpty()) << way.name;
-    }
+    desk.does("Save field");
+    EXPECT_EQ(desk.choices(), "2|Mood|Greatest|True 2|Mood|Poor|False");
 }
 
 TEST(Customizing, RefusesWhatIsNoFieldAndKeepsWhatWasTyped) {
-    struct Case {
-        int field; ///< -1: a new one
+    const auto* name = "Field Name Validation";
+    const auto* duplicate = "The field name already exists in this Nip group.  Field names cannot be "
+                            "duplicated.";
+    const auto* badWidth = "The width must be a whole number from 1 to 32767.";
+    const struct {
+        const char* opening;
         const char* name;
         const char* width;
         const char* message;
         const char* title;
-    };
-    const std::string duplicate =
-        "The field name already exists in this Nip group.  Field names cannot be duplicated.";
-    const Case cases[] = {
-        {-1, "My Field", "50",
+    } cases[] = {
+        {"New field", "My Field", "50",
          "The field name (My Field) is not a valid field name.  \n\nField names cannot contain spaces, "
-         "quotation "
-         "marks, or special characters and must begin with a letter.",
-         "Field Name Validation"},
-        {0, "1Temp", "50", "The field name (1Temp) is not a valid field name.  ", "Field Name Validation"},
-        {-1, "PULSE", "50", duplicate.c_str(), "Field Name Validation"},
-        {0, "mood", "50", duplicate.c_str(), "Field Name Validation"},
-        {-1, "encounterid", "50", "The name encounterid is that of the group's key.",
-         "Field Name Validation"},
-        {0, "EncounterID", "50", "The name EncounterID is that of the group's key.", "Field Name Validation"},
-        {-1, "", "51",
+         "quotation marks, or special characters and must begin with a letter.",
+         name},
+        {"field 0", "1Temp", "50", "The field name (1Temp) is not a valid field name.  ", name},
+        {"New field", "PULSE", "50", duplicate, name},
+        {"field 0", "mood", "50", duplicate, name},
+        {"New field", "encounterid", "50", "The name encounterid is that of the group's key.", name},
+        {"field 0", "EncounterID", "50", "The name EncounterID is that of the group's key.", name},
+        {"New field", "", "51",
          "An error occured while creating this field.  Please try again.  "
          "(ucNipPanel.SaveFieldCustomization-mnip.CreateField Failed. mcG=1, mcF=3\n\nA field needs a name",
          ""},
-        {-1, "Temp", "0", "The width must be a whole number from 1 to 32767.", "Field Validation"},
-        {0, "Temp", "40000", "The width must be a whole number from 1 to 32767.", "Field Validation"},
-        {1, "Mood", "3", "The longest choice does not fit.  It needs a width of 4.", "Field Validation"},
+        {"New field", "Temp", "0", badWidth, "Field Validation"},
+        {"field 0", "Temp", "40000", badWidth, "Field Validation"},
+        {"field 1", "Mood", "3", "The longest choice does not fit.  It needs a width of 4.",
+         "Field Validation"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name + std::string(c.width));
         CustomizingDesk desk;
         const std::string before = desk.fields();
-        if (c.field < 0)
-            desk.newField();
-        else
-            desk.chooseListed(c.field);
-        desk.name().clear();
-        desk.type(desk.name(), c.name);
-        desk.type(desk.width(), c.width);
-        desk.saveField();
-        ASSERT_EQ(desk.user->boxes.size(), 1U);
-        EXPECT_THAT(desk.lastBox().text, StartsWith(c.message));
-        EXPECT_EQ(desk.lastBox().title, c.title);
+        desk.does(QString("%1; name=%2; width=%3; Save field").arg(c.opening, c.name, c.width));
+        EXPECT_THAT(desk.told(), ElementsAre(AllOf(Field(&ShownBox::text, StartsWith(c.message)),
+                                                   Field(&ShownBox::title, c.title))));
         EXPECT_EQ(desk.fields(), before);
-        EXPECT_EQ(utf8(desk.name().text() + desk.width().text()), std::string(c.name) + c.width);
-
-        desk.user->clear();
-        desk.type(desk.name(), "Fine");
-        desk.type(desk.width(), "60");
-        desk.saveField();
-        EXPECT_THAT(desk.user->boxes, IsEmpty()) << "put right, it is taken";
+        EXPECT_EQ(desk.text("txtCustNip(0)") + desk.text("txtCustNip(2)"), std::string(c.name) + c.width);
+        desk.does("name=Fine; width=60; Save field");
+        EXPECT_THAT(desk.told(), IsEmpty()) << "put right, it is taken";
         EXPECT_THAT(desk.fields(), HasSubstr("Fine|"));
     }
+    CustomizingDesk desk;
+    desk.panel.resize(700, 350);
+    desk.does("New field; name=Temp; row=0");
+    desk.name().setFocus();
+    QTest::keyClick(&desk.name(), Qt::Key_Return);
+    EXPECT_THAT(desk.told(), ElementsAre(says("The row position must be")));
+    EXPECT_TRUE(desk.row().hasFocus());
+    EXPECT_EQ(desk.row().visibleRegion().boundingRect(), desk.row().rect()) << "scrolled into view";
 }
 
 TEST(Customizing, SaysWhatIsDestroyedAndWhatTheChoicesAreFor) {
     CustomizingDesk desk;
-    const auto says = [&](const char* label) { return utf8(desk.part<QLabel>(label).text()); };
-    EXPECT_THAT(says("lblCustDestroys"), HasSubstr("[Vitals] with its 2 fields and all"));
-    desk.chooseTab(1);
-    EXPECT_THAT(says("lblCustDestroys"), HasSubstr("[History] with its 1 field and all"));
-    desk.chooseTab(0);
+    EXPECT_THAT(desk.says("lblCustDestroys"), HasSubstr("[Vitals] with its 2 fields and all"));
+    desk.does("tab 1");
+    EXPECT_THAT(desk.says("lblCustDestroys"), HasSubstr("[History] with its 1 field and all"));
+    desk.does("tab 0");
     EXPECT_TRUE(desk.part<QLabel>("lblCustHint").isVisible());
     EXPECT_FALSE(desk.name().isVisible()) << "there is nothing to write it for";
 
     const int top = desk.list().mapTo(&desk.panel, QPoint()).y();
-    desk.chooseListed(1);
+    desk.does("field 1");
     EXPECT_EQ(desk.list().mapTo(&desk.panel, QPoint()).y(), top) << "it moved away under the mouse";
     EXPECT_FALSE(desk.part<QLabel>("lblCustHint").isVisible());
-    EXPECT_EQ(utf8(desk.list().topLevelItem(1)->text(2)), "List");
-    EXPECT_THAT(says("lblNipChoices"), StartsWith("Choices (the checked"));
-    desk.displayType().setCurrentText("Text");
-    EXPECT_THAT(says("lblNipChoices"), HasSubstr("not offered"));
-    desk.saveField();
-    EXPECT_EQ(desk.rows("Select FieldValue,DefaultValue From DBFieldValues Order By Ordinal"),
-              "Good|True Poor|False");
+    EXPECT_EQ(desk.list().topLevelItem(1)->text(2), "List");
+    EXPECT_THAT(desk.says("lblNipChoices"), StartsWith("Choices (the checked"));
+    desk.does("display=TEXT");
+    EXPECT_THAT(desk.says("lblNipChoices"), HasSubstr("not offered"));
+    desk.does("Save field");
+    EXPECT_EQ(desk.choices(), choicesOfMood);
 }
 
 TEST(Customizing, ShowsEveryColumnOfTheListAndALineOfItInLargeText) {
@@ -367,38 +325,31 @@ TEST(Customizing, ShowsEveryColumnOfTheListAndALineOfItInLargeText) {
     EXPECT_LE(desk.list().header()->length(), desk.list().viewport()->width());
     EXPECT_GE(desk.list().viewport()->height(),
               2 * desk.list().visualItemRect(desk.list().topLevelItem(0)).height());
-    EXPECT_FALSE(desk.part<QPushButton>("cmdNipButton(0)").isDefault()) << "the field's Save is the nearer";
-    desk.click("cmdBackToNip");
-    EXPECT_TRUE(desk.part<QPushButton>("cmdNipButton(0)").isDefault());
 }
 
-TEST(Customizing, DeletesAFieldOnlyWhenTheUserIsSure) {
+TEST(Customizing, DeletesFieldsAndMakesAndDeletesGroupsOnlyWhenTheUserIsSure) {
     CustomizingDesk desk;
     EXPECT_FALSE(desk.offers("cmdNipCustomizeButton(1)"));
-    desk.chooseListed(0);
-    EXPECT_THAT(utf8(desk.part<QLabel>("lblCustDestroys").text()), HasSubstr("destroys [Pulse]"));
+    desk.does("field 0");
+    EXPECT_THAT(desk.says("lblCustDestroys"), HasSubstr("destroys [Pulse]"));
+    const ShownBox field{"Are you certain you wish to delete this field?  All data in the field will be "
+                         "permenantly lost.",
+                         asksWarily, "Delete Confirmation"};
+    const ShownBox group{"Deleting a Nip Group will also delete all fields in the group.\nThis is a "
+                         "destructive action that cannot be reversed.  Do you wish to continue?",
+                         asksWarily, "Delete Group Confirmation"};
     desk.user->answers = {Answer::Cancel, Answer::Ok};
-    desk.deleteField();
-    EXPECT_EQ(desk.listed(), "Pulse Mood");
-    EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "72");
-    desk.deleteField();
+    desk.does("Delete field");
+    EXPECT_EQ(desk.listed() + desk.rows("Select Pulse From NIP_Custom1"), "Pulse Mood72");
+    desk.does("Delete field");
     EXPECT_EQ(desk.listed(), "Mood");
-    EXPECT_THAT(desk.fields(), testing::Not(HasSubstr("Pulse")));
-    EXPECT_EQ(desk.user->boxes.size(), 2U);
-    EXPECT_EQ(
-        desk.lastBox(),
-        (ShownBox{"Are you certain you wish to delete this field?  All data in the field will be permenantly "
-                  "lost.",
-                  asksOkCancel | MsgBoxStyle::DefaultButton2, "Delete Confirmation"}));
-}
+    EXPECT_THAT(desk.fields(), Not(HasSubstr("Pulse")));
+    EXPECT_THAT(desk.told(), ElementsAre(field, field));
 
-TEST(Customizing, MakesAndDeletesGroupsByTheirTools) {
-    CustomizingDesk desk;
     desk.user->texts = {std::nullopt, "", "  ", std::string(300, 'g'), "R&D"};
-    for (int i = 0; i < 4; ++i)
-        desk.tool("ID_NewNipGroup");
+    desk.does("ID_NewNipGroup; ID_NewNipGroup; ID_NewNipGroup; ID_NewNipGroup");
     EXPECT_EQ(desk.tabs().count(), 2);
-    EXPECT_EQ(desk.user->boxes.size(), 3U) << "no name, twice, and one that is too long";
+    EXPECT_EQ(desk.told().size(), 3U) << "no name, twice, and one that is too long";
     EXPECT_EQ(desk.user->inputs.at(0),
               (ShownInput{"What is the name of the group you would like to create", "New group name"}));
     QTest::keyClick(&desk.list(), Qt::Key_N, Qt::AltModifier);
@@ -406,141 +357,155 @@ TEST(Customizing, MakesAndDeletesGroupsByTheirTools) {
     EXPECT_EQ(desk.tabs().currentIndex(), 2);
     EXPECT_EQ(desk.heading(), "Fields of group [R&D]");
     EXPECT_EQ(desk.rows("Select TableName From DBFieldGroups Where GroupName='R&D'"), "NIP_Custom3");
-
-    desk.user->clear();
     desk.user->answers = {Answer::Cancel, Answer::Ok};
-    desk.tool("ID_DeleteNipGroup");
-    EXPECT_EQ(desk.tabs().count(), 3);
-    desk.tool("ID_DeleteNipGroup");
-    EXPECT_EQ(desk.tabs().count(), 2);
-    EXPECT_EQ(
-        desk.lastBox(),
-        (ShownBox{
-            "Deleting a Nip Group will also delete all fields in the group.\nThis is a destructive action "
-            "that cannot be reversed.  Do you wish to continue?",
-            asksOkCancel | MsgBoxStyle::DefaultButton2, "Delete Group Confirmation"}));
+    for (const int left : {3, 2}) {
+        desk.does("ID_DeleteNipGroup");
+        EXPECT_EQ(desk.tabs().count(), left);
+    }
+    EXPECT_THAT(desk.told(), ElementsAre(group, group));
 }
 
 TEST(Customizing, WhatFailsChangesNothingAndCanBeTriedAgain) {
-    struct Case {
+    const struct {
         const char* failsOn;
-        std::function<void(CustomizingDesk&)> act;
+        const char* opening;
+        const char* act;
         const char* report;
-    };
-    const Case cases[] = {
-        {"Insert Into DBFields", [](CustomizingDesk& d) { d.saveField(); },
+    } cases[] = {
+        {"Insert Into DBFields", "New field; caption=Weight", "Save field",
          "System error: Unable to save this field."},
-        {"Insert Into DBFieldGroups", [](CustomizingDesk& d) { d.tool("ID_NewNipGroup"); },
+        {"Insert Into DBFieldGroups", "tab 0", "ID_NewNipGroup",
          "System error: Unable to create this Nip group"},
-        {"Delete From DBFieldGroups", [](CustomizingDesk& d) { d.tool("ID_DeleteNipGroup"); },
+        {"Delete From DBFieldGroups", "tab 0", "ID_DeleteNipGroup",
          "System error: Unable to remove this nip group."},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.report);
         CustomizingDesk desk;
         const std::string before = desk.fields();
-        const bool saves = &c == &cases[0];
-        if (saves) {
-            desk.newField();
-            desk.type(desk.caption(), "Weight");
-        }
+        desk.does(c.opening);
         desk.user->texts = {"Labs", "Labs"};
         desk.user->answers = {Answer::Ok, Answer::Ok};
         desk.db->failOn = c.failsOn;
-        c.act(desk);
-        const auto isReport = [&](const ShownBox& box) {
-            return box.text.starts_with(c.report) && box.style == 48;
-        };
-        EXPECT_TRUE(std::any_of(desk.user->boxes.begin(), desk.user->boxes.end(), isReport));
+        const std::string written = desk.caption();
+        desk.does(c.act);
+        const auto report = testing::Contains(
+            AllOf(Field(&ShownBox::text, StartsWith(c.report)), Field(&ShownBox::style, 48)));
+        EXPECT_THAT(desk.told(), report);
         EXPECT_EQ(desk.fields(), before);
         EXPECT_EQ(desk.tabs().count(), 2);
         EXPECT_EQ(desk.listed(), "Pulse Mood");
-        if (saves) {
-            EXPECT_EQ(desk.caption().text(), "Weight");
-        }
+        EXPECT_EQ(desk.caption(), written);
 
         desk.db->failOn.clear();
-        desk.user->clear();
         desk.user->answers = {Answer::Ok};
-        c.act(desk);
-        EXPECT_TRUE(std::none_of(desk.user->boxes.begin(), desk.user->boxes.end(), isReport));
+        desk.does(c.act);
+        EXPECT_THAT(desk.told(), Not(report));
         EXPECT_TRUE(desk.fields() != before || desk.tabs().count() != 2);
     }
 }
 
 TEST(Customizing, TakesOnWhatAnotherDeskHasChangedAndKeepsWhatIsWritten) {
+    const std::function<void(CustomizingDesk&)> saves[] = {[](auto& d) { d.does("Save field"); },
+                                                           [](auto& d) { d.panel.SaveNipInfo(); }};
+    for (const auto& save : saves) {
+        CustomizingDesk desk;
+        desk.does("field 1; width=60");
+        desk.elsewhere([](cNIP& other) {
+            return other.EditField(1, 2,
+                                   {.fieldName = "Feeling",
+                                    .caption = "The Mood",
+                                    .maxLength = 50,
+                                    .displayType = "COMBOBOX",
+                                    .initialValueRule = 1,
+                                    .values = {"Good", "Fair", "Poor"},
+                                    .defaultValue = "Fair"}) &&
+                   other.SaveStructure() && other.DeleteField(1, 1);
+        });
+        save(desk);
+        EXPECT_THAT(desk.told(), ElementsAre(says("nother desk has customized th")));
+        EXPECT_EQ(desk.pane(), "Editing field [Feeling] of group [Vitals]: Feeling");
+        EXPECT_EQ(desk.text("txtCustNip(0)") + desk.text("txtCustNip(2)") + desk.text("txtCustNip(3)"),
+                  "Feeling601");
+        desk.does("Save field");
+        EXPECT_THAT(desk.told(), IsEmpty());
+        EXPECT_THAT(desk.fields(), HasSubstr("Feeling|The Mood|COMBOBOX|60"));
+        EXPECT_EQ(desk.choices(), "2|Feeling|Good|False 2|Feeling|Fair|True 2|Feeling|Poor|False");
+    }
     CustomizingDesk desk;
-    desk.chooseListed(1);
-    desk.type(desk.caption(), "How they feel");
-    cNIP other;
-    ASSERT_TRUE(other.LoadStructure(desk.db));
-    ASSERT_TRUE(other.DeleteField(1, 1));
-    desk.saveField();
-    EXPECT_THAT(desk.user->boxes.at(0).text, HasSubstr("Another desk has customized this form"));
+    desk.elsewhere([](cNIP& other) { return other.DeleteField(1, 1); });
+    desk.user->texts = {"Labs"};
+    desk.does("ID_NewNipGroup");
+    EXPECT_THAT(desk.told(), IsEmpty());
+    EXPECT_EQ(desk.heading(), "Fields of group [Labs]") << "made as it was asked for";
+    EXPECT_EQ(desk.tabs().count(), 3);
+    desk.does("tab 0");
     EXPECT_EQ(desk.listed(), "Mood");
-    EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]");
-    desk.saveField();
-    EXPECT_THAT(desk.fields(), HasSubstr("Mood|How they feel"));
 }
 
 TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
-    struct Case {
-        const char* gone;
-        bool isNew;
-        std::function<bool(cNIP&)> act;
-        const char* group;
-        const char* groupID;
-        const char* listed;
-    };
-    const auto deleteMood = [](cNIP& other) { return other.DeleteField(1, 2); };
     const auto deleteVitals = [](cNIP& other) { return other.DeleteGroup(1); };
-    const Case cases[] = {
-        {"The field [Mood] is no longer there.", false, deleteMood, "[Vitals]", "2", "Pulse Mood"},
-        {"The field [Mood] is no longer there.", false, deleteVitals, "[History]", "3", "Smoker Mood"},
-        {"The group of the new field is no longer there.", true, deleteVitals, "[History]", "3",
-         "Smoker Mood2"},
+    const struct {
+        const char* opening;
+        std::function<bool(cNIP&)> act;
+        const char* gone;
+        const char* group;
+        const char* listed;
+        const char* moreChoices;
+    } cases[] = {
+        {"field 1", [](cNIP& other) { return other.DeleteField(1, 2); },
+         "The field [Mood] is no longer there.", "Vitals", "Pulse Mood", ""},
+        {"field 1", deleteVitals, "The field [Mood] is no longer there.", "History", "Smoker Mood",
+         " 3|Mood|Good|True 3|Mood|Poor|False"},
+        {"New field; name=Mood2", deleteVitals, "The group of the new field is no longer there.", "History",
+         "Smoker Mood2", ""},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.gone) + c.group);
         CustomizingDesk desk;
-        if (c.isNew) {
-            desk.newField();
-            desk.type(desk.name(), "Mood2");
-        } else {
-            desk.chooseListed(1);
-        }
-        desk.type(desk.caption(), "How they feel");
-        cNIP other;
-        ASSERT_TRUE(other.LoadStructure(desk.db) && c.act(other));
-        desk.saveField();
-        ASSERT_EQ(desk.user->boxes.size(), 1U);
-        EXPECT_THAT(desk.lastBox().text,
-                    AllOf(HasSubstr("Another desk has customized this form"), HasSubstr(c.gone),
-                          HasSubstr(std::string("a new field of the group ") + c.group)));
-        EXPECT_EQ(desk.heading(), std::string("New field in group ") + c.group);
-        EXPECT_EQ(desk.tabs().tabText(desk.tabs().currentIndex()), QString(c.group).mid(1).chopped(1));
-        EXPECT_EQ(desk.caption().text(), "How they feel");
-        desk.saveField();
-        EXPECT_EQ(desk.user->boxes.size(), 1U);
+        desk.does(QString(c.opening) + "; caption=How they feel");
+        desk.elsewhere(c.act);
+        desk.does("Save field");
+        EXPECT_THAT(desk.told(),
+                    ElementsAre(AllOf(says("Another desk has customized this form"), says(c.gone),
+                                      says(std::string("a new field of the group [") + c.group))));
+        EXPECT_EQ(desk.heading(), std::string("New field in group [") + c.group + "]");
+        EXPECT_EQ(desk.tabs().tabText(desk.tabs().currentIndex()), c.group);
+        EXPECT_EQ(desk.caption(), "How they feel");
+        desk.does("Save field");
+        EXPECT_THAT(desk.told(), IsEmpty());
         EXPECT_EQ(desk.listed(), c.listed);
-        EXPECT_EQ(desk.rows("Select FieldValue,DefaultValue From DBFieldValues Where FieldName='Mood' And "
-                            "DBFieldGroupID=" +
-                            std::string(c.groupID) + " Order By Ordinal"),
-                  c.isNew ? "" : "Good|True Poor|False");
+        EXPECT_EQ(desk.choices(), choicesOfMood + std::string(c.moreChoices));
+    }
+    for (const bool opensNip : {true, false}) {
+        CustomizingDesk desk(opensNip);
+        desk.does("field 1; caption=How they feel");
+        desk.db->failOn = "DBFields"; // what is shown could not be read again either
+        desk.does("Save field");
+        desk.db->failOn.clear();
+        desk.elsewhere(deleteVitals);
+        desk.told();
+        desk.does("Save field");
+        EXPECT_EQ(desk.told().size(), 1U);
+        EXPECT_EQ(desk.pane(), "New field in group [History]: Smoker") << "not stored elsewhere unasked";
+        desk.elsewhere(deleteVitals);
+        desk.does("Save field");
+        EXPECT_THAT(desk.told(), testing::Contains(says("There is no group left")));
+        EXPECT_THAT(desk.errorLog(), HasSubstr("[Mood] How they feel, LIST 50: Good|Poor"));
     }
 }
 
 TEST(Customizing, EnterOnAComboBoxStoresTheFieldOnceItsListIsClosed) {
     CustomizingDesk desk;
     QDialog around;
-    auto* layout = new QVBoxLayout(&around);
-    auto* standard = new QPushButton(&around);
-    standard->setDefault(true);
-    layout->addWidget(standard);
-    layout->addWidget(&desk.panel);
+    QVBoxLayout layout(&around);
+    QPushButton standard(&around);
+    standard.setDefault(true);
+    layout.addWidget(&desk.panel);
     around.show();
     around.activateWindow();
-    desk.chooseListed(0);
+    EXPECT_FALSE(desk.part<QPushButton>("cmdNipButton(0)").isDefault()) << "the field's Save is the nearer";
+    desk.does("field 0");
     QComboBox& type = desk.displayType();
     type.setFocus();
     type.showPopup();
@@ -549,184 +514,49 @@ TEST(Customizing, EnterOnAComboBoxStoresTheFieldOnceItsListIsClosed) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return !type.view()->isVisible(); }));
     EXPECT_EQ(type.currentText(), "Combobox-Restricted");
     EXPECT_THAT(desk.fields(), StartsWith("Pulse|The Pulse|TEXT|"));
-    int pressed = 0;
-    QObject::connect(standard, &QPushButton::clicked, [&] { ++pressed; });
+    QObject::connect(&standard, &QPushButton::clicked, [] { ADD_FAILURE() << "pressed"; });
     QTest::keyClick(&type, Qt::Key_Return);
     desk.settle();
-    EXPECT_EQ(pressed, 0);
     EXPECT_THAT(desk.fields(), StartsWith("Pulse|The Pulse|COMBOBOX-RESTRICTED|"));
-    layout->removeWidget(&desk.panel);
+    desk.does("Back");
+    EXPECT_TRUE(desk.part<QPushButton>("cmdNipButton(0)").isDefault());
     desk.panel.setParent(nullptr);
-}
-
-TEST(Customizing, WhatIsWrittenForAFieldThatIsGoneIsNotStoredElsewhereUnasked) {
-    for (const bool opensNip : {true, false}) {
-        CustomizingDesk desk(opensNip);
-        desk.chooseListed(1);
-        desk.type(desk.caption(), "How they feel");
-        desk.db->failOn = "DBFields";
-        desk.saveField();
-        desk.db->failOn.clear();
-        cNIP other;
-        ASSERT_TRUE(other.LoadStructure(desk.db) && other.DeleteGroup(1));
-        desk.user->clear();
-        desk.saveField();
-        EXPECT_EQ(desk.user->boxes.size(), 1U);
-        EXPECT_EQ(desk.heading(), "New field in group [History]");
-        EXPECT_EQ(desk.listed(), "Smoker");
-        ASSERT_TRUE(other.LoadStructure(desk.db) && other.DeleteGroup(1));
-        desk.saveField();
-        EXPECT_THAT(desk.lastBox().text, HasSubstr("There is no group left"));
-        EXPECT_THAT(desk.errorLog(), HasSubstr("[Mood] How they feel, LIST 50: Good|Poor"));
-    }
-}
-
-TEST(Customizing, MakesTheGroupThatIsAskedForOnAFormThatChanged) {
-    CustomizingDesk desk;
-    cNIP other;
-    ASSERT_TRUE(other.LoadStructure(desk.db) && other.DeleteField(1, 1));
-    desk.user->texts = {"Labs"};
-    desk.tool("ID_NewNipGroup");
-    EXPECT_THAT(desk.user->boxes, IsEmpty());
-    EXPECT_EQ(desk.heading(), "Fields of group [Labs]");
-    EXPECT_EQ(desk.tabs().count(), 3);
-    desk.chooseTab(0);
-    EXPECT_EQ(desk.listed(), "Mood");
-}
-
-TEST(Customizing, WhatIsNotWrittenInThePaneIsAsTheOtherDeskMadeIt) {
-    CustomizingDesk desk;
-    desk.chooseListed(1);
-    desk.type(desk.width(), "60");
-    cNIP other;
-    ASSERT_TRUE(other.LoadStructure(desk.db));
-    ASSERT_TRUE(other.EditField(1, 2,
-                                {.fieldName = "Feeling",
-                                 .caption = "The Mood",
-                                 .maxLength = 50,
-                                 .displayType = "COMBOBOX",
-                                 .initialValueRule = 1,
-                                 .values = {"Good", "Fair", "Poor"},
-                                 .defaultValue = "Fair",
-                                 .rowIndex = 1}) &&
-                other.SaveStructure());
-    desk.saveField();
-    EXPECT_THAT(desk.lastBox().text, HasSubstr("Another desk has customized this form"));
-    EXPECT_EQ(desk.heading(), "Editing field [Feeling] of group [Vitals]");
-    EXPECT_EQ(utf8(desk.name().text() + desk.width().text() + desk.row().text()), "Feeling601");
-    desk.saveField();
-    EXPECT_EQ(desk.user->boxes.size(), 1U);
-    EXPECT_EQ(desk.listed(), "Feeling Pulse");
-    EXPECT_THAT(desk.fields(), HasSubstr("Feeling|The Mood|COMBOBOX|60"));
-    EXPECT_EQ(desk.rows("Select FieldValue,DefaultValue From DBFieldValues Order By Ordinal"),
-              "Good|False Fair|True Poor|False");
-}
-
-TEST(Customizing, ANameOfOnesOwnIsKeptAfterAFailure) {
-    CustomizingDesk desk;
-    desk.newField();
-    desk.type(desk.name(), "BodyWeight");
-    desk.db->failOn = "Insert Into DBFields";
-    desk.saveField();
-    desk.type(desk.caption(), "Weight");
-    EXPECT_EQ(desk.name().text(), "BodyWeight");
 }
 
 TEST(Customizing, AStructureThatCannotBeReadAgainIsReadBeforeItIsNeeded) {
     for (const bool savesField : {true, false}) {
         CustomizingDesk desk;
-        desk.click("cmdBackToNip");
-        desk.type(desk.pulse(), "99");
-        desk.click("cmdNipButton(2)");
-        desk.newField();
-        desk.type(desk.caption(), "Weight");
+        desk.does("Back; pulse=99; Customize; New field; caption=Weight");
         desk.db->failOn = "DBFields";
-        desk.saveField();
-        EXPECT_THAT(desk.lastBox().text, HasSubstr("could not be read from the database again"));
-        EXPECT_EQ(utf8(desk.pulse().text() + desk.caption().text()), "99Weight");
+        desk.does("Save field");
+        EXPECT_THAT(desk.told().back(), says("could not be read from the database again"));
+        EXPECT_EQ(utf8(desk.pulse().text()) + desk.caption(), "99Weight");
         desk.db->failOn.clear();
-        desk.user->clear();
-        if (savesField) desk.saveField();
+        if (savesField) desk.does("Save field");
         desk.panel.SaveNipInfo();
-        EXPECT_THAT(desk.user->boxes, IsEmpty());
+        EXPECT_THAT(desk.told(), IsEmpty());
         EXPECT_EQ(desk.rows("Select Pulse From NIP_Custom1"), "99");
-        EXPECT_EQ(desk.caption().text(), savesField ? "" : "Weight");
+        EXPECT_EQ(desk.caption(), savesField ? "" : "Weight");
         EXPECT_EQ(desk.listed(), savesField ? "Pulse Mood Weight" : "Pulse Mood");
     }
-}
-
-TEST(Customizing, SavingTheNipOnAFormThatChangedKeepsWhatIsWrittenInThePane) {
-    CustomizingDesk desk;
-    desk.chooseListed(1);
-    desk.type(desk.caption(), "How they feel");
-    cNIP other;
-    ASSERT_TRUE(other.LoadStructure(desk.db));
-    ASSERT_TRUE(other.DeleteField(1, 1));
-    desk.panel.SaveNipInfo();
-    EXPECT_THAT(desk.lastBox().text, HasSubstr("another desk has customized the form"));
-    EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]");
-    EXPECT_EQ(desk.caption().text(), "How they feel");
-    EXPECT_EQ(desk.listed(), "Mood");
 }
 
 TEST(Customizing, WorksWithoutAnOpenNip) {
     CustomizingDesk desk(false);
     desk.panel.CustomizeOnly(true);
-    desk.chooseTab(1);
-    desk.clickInForm("txtNip(1)");
+    desk.does("tab 1; txtNip(1)");
     EXPECT_EQ(desk.heading(), "Editing field [Smoker] of group [History]");
-    desk.type(desk.caption(), "Smokes?");
-    desk.saveField();
+    desk.does("caption=Smokes?; Save field");
     EXPECT_THAT(desk.fields(), HasSubstr("Smoker|Smokes?"));
     EXPECT_TRUE(desk.list().hasFocus());
     EXPECT_EQ(desk.tabs().currentIndex(), 1);
     EXPECT_FALSE(desk.description().isVisible());
-    desk.newField();
+    desk.does("New field");
     desk.user->answers = {Answer::No, Answer::Yes};
     EXPECT_FALSE(desk.panel.requestClose());
     EXPECT_THAT(desk.heard, IsEmpty());
     EXPECT_TRUE(desk.panel.requestClose());
     EXPECT_TRUE(desk.part<QWidget>("paneCustomize").isVisible());
-}
-
-TEST(Customizing, ThePanelMayBeDeletedWhileItAsks) {
-    const std::function<void(ucNIPPanel&)> tasks[] = {
-        [](ucNIPPanel& p) { p.findChild<QAbstractButton*>("cmdNipCustomizeButton(2)")->click(); },
-        [](ucNIPPanel& p) { p.findChild<QAction*>("ID_DeleteNipGroup")->trigger(); },
-        [](ucNIPPanel& p) { p.findChild<QTabWidget*>("atNips")->setCurrentIndex(1); },
-        [](ucNIPPanel& p) { p.LoadNipInfo(7, "P1"); },
-        [](ucNIPPanel& p) { p.CustomizeOnly(false); },
-    };
-    for (const auto& task : tasks) {
-        CustomizingDesk desk;
-        const QPointer<ucNIPPanel> panel = new ucNIPPanel;
-        panel->Initialize(desk.db);
-        panel->CustomizeOnly(true);
-        panel->CustomizeNip();
-        panel->findChild<QAbstractButton*>("cmdNipCustomizeButton(0)")->click();
-        desk.user->answers = {Answer::Yes};
-        desk.user->whenShown = [&] { delete panel.data(); };
-        task(*panel);
-        desk.settle();
-        EXPECT_EQ(desk.user->boxes.size(), 1U);
-        EXPECT_TRUE(panel.isNull());
-    }
-}
-
-TEST(Customizing, NothingElseIsDoneWhileItAsks) {
-    CustomizingDesk desk;
-    desk.newField();
-    desk.user->whenShown = [&] {
-        EXPECT_FALSE(desk.panel.LoadNipInfo(7, "P1"));
-        EXPECT_FALSE(desk.panel.requestClose());
-        desk.panel.CustomizeNip();
-        desk.newField();
-        desk.saveField();
-        desk.tool("ID_DeleteNipGroup");
-    };
-    desk.cancelField();
-    EXPECT_EQ(desk.user->boxes.size(), 1U);
-    EXPECT_EQ(desk.heading(), "New field in group [Vitals]");
 }
 
 } // namespace Korvane

@@ -4,14 +4,13 @@
 
 #include <QAction>
 #include <QToolBar>
-#include <QToolButton>
 #include <QTreeWidget>
-
-#include <QPushButton>
 
 namespace Korvane::Testing {
 
 /// A desk with a second field, a list, and a second group, whose Nip is being customized by clicks and keys.
+/// Beside what a panel knows, "field 1" clicks the second field in the list, "tab 1" a tab, "ID_..." a tool,
+/// another word a widget of that name, and "display=LIST" chooses a display type.
 class CustomizingDesk : public PanelDesk {
   public:
     explicit CustomizingDesk(bool opensNip = true) {
@@ -22,56 +21,25 @@ class CustomizingDesk : public PanelDesk {
         field(3, "NIP_Custom2", "Smoker");
         panel.NumbersGroups(true);
         panel.Initialize(db);
-        if (opensNip) panel.LoadNipInfo(7, "P1");
+        if (opensNip) load();
         panel.activateWindow();
-        click("cmdNipButton(2)");
-        settle();
+        does("Customize");
     }
 
-    static void settle() { QCoreApplication::processEvents(); }
-
     QLineEdit& name() { return part<QLineEdit>("txtCustNip(0)"); }
-    QLineEdit& caption() { return part<QLineEdit>("txtCustNip(1)"); }
-    QLineEdit& width() { return part<QLineEdit>("txtCustNip(2)"); }
     QLineEdit& row() { return part<QLineEdit>("txtCustNip(3)"); }
     QComboBox& displayType() { return part<QComboBox>("cboCustNip(0)"); }
     QTreeWidget& list() { return part<QTreeWidget>("gridNipFields"); }
     QTabWidget& tabs() { return part<QTabWidget>("atNips"); }
-    std::string heading() { return utf8(part<QLabel>("lblCustEditing").text()); }
     bool offers(const char* button) { return part<QWidget>(button).isEnabled(); }
+    /// "Editing field [Pulse] of group [Vitals]".
+    std::string heading() { return says("lblCustEditing"); }
+    std::string says(const char* label) { return utf8(part<QLabel>(label).text()); }
+    std::string text(const char* box) { return utf8(part<QLineEdit>(box).text()); }
+    std::string caption() { return text("txtCustNip(1)"); }
 
-    void newField() { click("cmdNipCustomizeButton(0)"); }
-    void deleteField() { click("cmdNipCustomizeButton(1)"); }
-    void cancelField() { click("cmdNipCustomizeButton(2)"); }
-    void saveField() {
-        click("cmdNipCustomizeButton(3)");
-        settle();
-    }
-
-    void tool(const char* id) {
-        settle();
-        auto& bar = part<QToolBar>("ToolBars1");
-        QTest::mouseClick(bar.widgetForAction(&part<QAction>(id)), Qt::LeftButton);
-        settle();
-    }
-    void chooseListed(int listed) {
-        settle();
-        QTreeWidgetItem* item = list().topLevelItem(listed);
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualItemRect(item).center());
-        settle();
-    }
-    void clickInForm(const char* widget) {
-        settle();
-        QTest::mouseClick(&part<QWidget>(widget), Qt::LeftButton);
-        settle();
-    }
-    void chooseTab(int index) {
-        settle();
-        QTest::mouseClick(tabs().tabBar(), Qt::LeftButton, {}, tabs().tabBar()->tabRect(index).center());
-        settle();
-    }
-
-    /// The names of the fields listed.
+    /// The heading and the names in the list: "Fields of group [Vitals]: Pulse Mood".
+    std::string pane() { return heading() + ": " + listed(); }
     std::string listed() {
         QStringList names;
         for (int i = 0; i < list().topLevelItemCount(); ++i)
@@ -81,7 +49,31 @@ class CustomizingDesk : public PanelDesk {
     std::string fields() {
         return rows("Select FieldName,FieldCaption,DisplayType,MaxLength From DBFields Order By ID");
     }
-    ShownBox lastBox() { return user->boxes.empty() ? ShownBox{} : user->boxes.back(); }
+    std::string choices() {
+        return rows("Select DBFieldGroupID,FieldName,FieldValue,DefaultValue From DBFieldValues "
+                    "Order By DBFieldGroupID,Ordinal");
+    }
+
+  protected:
+    void doesStep(const QString& step) override {
+        const auto press = [](QWidget* on, QPoint at) { QTest::mouseClick(on, Qt::LeftButton, {}, at); };
+        QCoreApplication::processEvents();
+        if (step.startsWith("field "))
+            press(list().viewport(),
+                  list().visualItemRect(list().topLevelItem(step.mid(6).toInt())).center());
+        else if (step.startsWith("tab "))
+            press(tabs().tabBar(), tabs().tabBar()->tabRect(step.mid(4).toInt()).center());
+        else if (step.startsWith("ID_"))
+            press(part<QToolBar>("ToolBars1").widgetForAction(&part<QAction>(step.toUtf8())), {});
+        else if (step.contains('('))
+            press(&part<QWidget>(step.toUtf8()), {});
+        else
+            PanelDesk::doesStep(step);
+    }
+    void enters(const QString& box, const QString& text) override {
+        if (box != "display") return PanelDesk::enters(box, text);
+        displayType().setCurrentIndex(displayType().findData(text));
+    }
 };
 
 } // namespace Korvane::Testing

@@ -4,6 +4,7 @@
 
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/ucNIPPanel.h>
+#include <korvane/nip/cNIP.h>
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -11,12 +12,23 @@
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTest>
 
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Korvane::Testing {
+
+/// A box with this in its text.
+inline auto says(const std::string& text) {
+    return testing::Field("text", &ShownBox::text, testing::HasSubstr(text));
+}
 
 /// A clinic with one group "Vitals" (the text field Pulse), two providers and the encounter 7 of the patient
 /// P1, and the Nip panel on it, worked by clicks and keys. `heard` holds the events it raised.
@@ -34,6 +46,9 @@ class PanelDesk : public NipDatabase {
         panel.resize(900, 500);
         panel.show();
     }
+    virtual ~PanelDesk() { delete owned; }
+    PanelDesk(const PanelDesk&) = delete;
+    PanelDesk& operator=(const PanelDesk&) = delete;
 
     void provider(std::int32_t id, std::string_view type, std::string_view first, std::string_view last,
                   std::string_view suffix) {
@@ -55,18 +70,34 @@ class PanelDesk : public NipDatabase {
     QComboBox& providers() { return part<QComboBox>("pvcEncounterInfo"); }
     QLineEdit& pulse() { return part<QLineEdit>("txtNip(0)"); }
     std::string state() { return utf8(part<QLabel>("lblNipState").text()); }
+    /// "Saved Nip: Visit|72": the state, the description and the pulse.
+    std::string shown() { return state() + ": " + utf8(description().text() + "|" + pulse().text()); }
 
     void click(const char* button) {
         QCoreApplication::processEvents(); // what was just shown has its place then
         QTest::mouseClick(&part<QAbstractButton>(button), Qt::LeftButton);
     }
+    static void settle() { QCoreApplication::processEvents(); }
     void save() { click("cmdNipButton(0)"); }
     void cancel() { click("cmdNipButton(1)"); }
+    bool load() { return panel.LoadNipInfo(7, "P1"); }
 
     /// Replaces what stands in a box, key by key.
     static void type(QLineEdit& box, const QString& text) {
         box.selectAll();
-        QTest::keyClicks(&box, text);
+        text.isEmpty() ? QTest::keyClick(&box, Qt::Key_Delete) : QTest::keyClicks(&box, text);
+    }
+
+    /// What a user does, step by step: "Load; pulse=80; Save" shows the Nip 7, types over a box and clicks.
+    void does(const QString& steps) {
+        for (const QString& step : steps.split("; ")) {
+            const qsizetype behind = step.indexOf('=');
+            if (behind < 0)
+                doesStep(step);
+            else
+                enters(step.left(behind), step.mid(behind + 1));
+            QCoreApplication::processEvents();
+        }
     }
 
     /// A new Nip of P2 with everything filled in that it needs.
@@ -77,8 +108,59 @@ class PanelDesk : public NipDatabase {
         QTest::keyClick(&providers(), Qt::Key_Down);
     }
 
-    ucNIPPanel panel;
+    /// The boxes since this was last asked.
+    std::vector<ShownBox> told() { return std::exchange(user->boxes, {}); }
+
+    /// Everything that is stored: "7|P1|Visit" of each encounter, then "7|72" of each row of values.
+    std::string stored() const {
+        return rows("Select EncounterID,PatientID,Description From Encounter Order By EncounterID") + ", " +
+               rows("Select EncounterID,Pulse From NIP_Custom1 Order By EncounterID");
+    }
+
+    /// Another desk customizes the form.
+    void elsewhere(const std::function<bool(cNIP&)>& change) const {
+        cNIP other;
+        ASSERT_TRUE(other.LoadStructure(ado::open(address())));
+        ASSERT_TRUE(change(other) && other.SaveStructure()) << errorLog();
+    }
+
+    /// The names of the parts that Tab goes through, from behind one up to another.
+    std::vector<std::string> tabOrder(const QWidget& from, const QWidget& to) const {
+        std::vector<std::string> order;
+        for (const QWidget* w = from.nextInFocusChain(); w != &to; w = w->nextInFocusChain())
+            if (w->focusPolicy() & Qt::TabFocus && w->isVisible() && w->isEnabled() &&
+                !w->objectName().startsWith("qt_"))
+                order.push_back(utf8(w->objectName()));
+        return order;
+    }
+
+    const QPointer<ucNIPPanel> owned = new ucNIPPanel; ///< a test may delete it
+    ucNIPPanel& panel = *owned;
     std::vector<std::string> heard;
+
+  protected:
+    virtual void doesStep(const QString& step) {
+        static const std::map<QString, const char*> buttons{{"Save", "cmdNipButton(0)"},
+                                                            {"Cancel", "cmdNipButton(1)"},
+                                                            {"Customize", "cmdNipButton(2)"},
+                                                            {"Back", "cmdBackToNip"},
+                                                            {"Close pane", "cmdCloseNipCustomize"},
+                                                            {"New field", "cmdNipCustomizeButton(0)"},
+                                                            {"Delete field", "cmdNipCustomizeButton(1)"},
+                                                            {"Cancel field", "cmdNipCustomizeButton(2)"},
+                                                            {"Save field", "cmdNipCustomizeButton(3)"}};
+        step == "Load" ? static_cast<void>(load()) : click(buttons.at(step));
+    }
+    virtual void enters(const QString& box, const QString& text) {
+        static const std::map<QString, const char*> boxes{{"description", "txtEncounterInfo"},
+                                                          {"pulse", "txtNip(0)"},
+                                                          {"second", "txtNip(1)"},
+                                                          {"name", "txtCustNip(0)"},
+                                                          {"caption", "txtCustNip(1)"},
+                                                          {"width", "txtCustNip(2)"},
+                                                          {"row", "txtCustNip(3)"}};
+        type(part<QLineEdit>(boxes.at(box)), text);
+    }
 
   private:
     void listen() {
