@@ -142,15 +142,16 @@ TEST(GivenDate, NamesItsDayMonthAndYear) {
 }
 
 TEST(PartStep, StaysWithinTheRangeOfItsPart) {
-    const Date today = Date::of(2026, 11, 15);
+    const Date today = Date::of(2026, 10, 31);
     struct Case {
         DateParts parts;
         std::size_t index;
         int by;
         const char* expected;
     };
-    for (const Case& c : {Case{{{"", "", ""}}, 0, 1, "11"},
+    for (const Case& c : {Case{{{"", "", ""}}, 0, 1, "10"},
                           {{{"", "", ""}}, 2, -1, "2026"},
+                          {{{"2", "", "2026"}}, 1, 1, "28"},
                           {{{"9", "", ""}}, 0, 1, "10"},
                           {{{"12", "", ""}}, 0, 1, "12"},
                           {{{"99999999999", "", ""}}, 0, -1, "12"},

@@ -1,5 +1,6 @@
 #include "support/DateForm.h"
 
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
@@ -41,6 +42,50 @@ TEST(FocusSteps, ARefusalMayBeTold) {
     form.press("12");
     QTest::mouseClick(form.help, Qt::LeftButton);
     EXPECT_EQ(pressed, 1) << "the next press is the user's again";
+}
+
+TEST(FocusSteps, ARefusedYearGetsTheFocusBackBehindTheBoxThatToldOfIt) {
+    DateForm form("1/2/2026");
+    QObject::connect(form.date, &axDate::Exception, [&](const QString& text) {
+        QMessageBox box(QMessageBox::Warning, "", text, QMessageBox::Ok, &form.form);
+        QTimer::singleShot(0, &box, &QDialog::accept);
+        box.exec();
+    });
+    form.press("\t\t\t202");
+    form.take();
+    QTest::mouseClick(form.help, Qt::LeftButton);
+    form.form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form.form));
+    EXPECT_EQ(form.focus(), "2");
+    EXPECT_THAT(form.take(), ElementsAre("Year requires four digits. Please re-enter.", "index 2"));
+}
+
+TEST(FocusSteps, ARefusalIsToldOnceThoughItsHearerWantsTheFocusElsewhere) {
+    DateForm form("1/2/2026");
+    QObject::connect(form.date, &axDate::Exception, form.after, [&] { form.after->setFocus(); });
+    form.press("\t13");
+    form.take();
+    for (int i = 0; i < 2; ++i) {
+        form.press("\t");
+        EXPECT_EQ(form.focus(), "0");
+        EXPECT_THAT(form.take(), ElementsAre(invalid));
+    }
+}
+
+TEST(FocusSteps, TheMenuBarIsNoLeaving) {
+    DateForm form("1/2/2026");
+    QMenuBar menus(&form.form);
+    menus.addMenu("&File")->addAction("&Open");
+    menus.show();
+    form.press("\t13");
+    form.take();
+    QTest::keyPress(&form.box(0), Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyRelease(&form.box(0), Qt::Key_Alt);
+    ASSERT_TRUE(menus.hasFocus());
+    QTest::keyClick(&menus, Qt::Key_Escape);
+    EXPECT_EQ(form.focus(), "0");
+    EXPECT_EQ(form.box(0).selectedText(), "13");
+    EXPECT_THAT(form.take(), IsEmpty());
 }
 
 TEST(FocusSteps, WhatIsHiddenOrDisabledHoldsNobodyUp) {

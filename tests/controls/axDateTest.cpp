@@ -56,6 +56,19 @@ void paste(const char* text) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
 }
 
+/// What becomes of a text that is moved here from elsewhere; its source deletes it after a MoveAction.
+Qt::DropAction drop(QWidget& on, const char* text) {
+    QMimeData dragged;
+    dragged.setText(text);
+    const Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(QPoint(5, 5), both, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&on, &enter);
+    QDropEvent dropped(QPointF(5, 5), both, &dragged, Qt::LeftButton, Qt::NoModifier);
+    dropped.setDropAction(Qt::MoveAction);
+    QCoreApplication::sendEvent(&on, &dropped);
+    return dropped.isAccepted() ? dropped.dropAction() : Qt::IgnoreAction;
+}
+
 void choose(QLineEdit& box, const char* action) {
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
     QCoreApplication::sendEvent(&box, &event);
@@ -217,6 +230,21 @@ TEST(axDate, NeverShowsTheDateOfTheRecordBefore) {
                  {"index 2", "index 1", "index 0", "changed", "index 1", "changed"}});
 }
 
+TEST(axDate, MayBeAnsweredWithWhatItHasJustSaid) {
+    DateForm form("1/2/2026");
+    QString saved;
+    QObject::connect(form.date, &axDate::OnChange, [&] {
+        if (std::exchange(saved, form.date->wholeDate()) != saved) form.date->wholeDate(saved);
+    });
+    form.press("\t9");
+    form.press("\t30");
+    EXPECT_EQ(form.wholeDate(), "9/30/2026");
+    form.press("2027");
+    EXPECT_EQ(form.wholeDate(), "9/30/2027");
+    form.date->wholeDate("9/30/2027");
+    EXPECT_EQ(form.box(2).selectedText(), "") << "what the boxes show already leaves the cursor where it is";
+}
+
 TEST(axDate, PlacesSpokenTexts) {
     DateForm form;
     form.press("\t");
@@ -224,7 +252,7 @@ TEST(axDate, PlacesSpokenTexts) {
         form.date->SetText(spoken);
     EXPECT_EQ(form.wholeDate(), "11/5/2026");
     EXPECT_EQ(form.box(2).selectedText(), "2026");
-    EXPECT_THAT(form.take(), ElementsAre("index 0", "changed", "index 1", "changed", "index 2", "changed"));
+    EXPECT_THAT(form.take(), ElementsAre("index 0", "index 1", "changed", "changed", "index 2", "changed"));
     form.date->SetElementFocus(0);
     form.date->SetText("13");
     EXPECT_EQ(form.focus(), "0");
@@ -248,6 +276,8 @@ TEST(axDate, FillsAllBoxesFromAWholeDateAndCopiesIt) {
     EXPECT_EQ(form.boxes(), "11|15|1984");
     paste("1985");
     EXPECT_EQ(form.wholeDate(), "11/15/1985") << "digits are for the box in hand";
+    EXPECT_EQ(drop(form.box(1), "1/2/1998"), Qt::CopyAction);
+    EXPECT_EQ(form.boxes(), "1|2|1998");
     QApplication::clipboard()->setText("2026-11-15 17:21:51");
     choose(form.box(0), "edit-paste");
     EXPECT_EQ(form.wholeDate(), "11/15/2026");
@@ -255,14 +285,34 @@ TEST(axDate, FillsAllBoxesFromAWholeDateAndCopiesIt) {
     EXPECT_EQ(QApplication::clipboard()->text(), "11/15/2026");
     form.press("\t");
     form.take();
-    QMimeData dragged;
-    dragged.setText("12/31/1999");
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&form.whole(), &enter);
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&form.whole(), &drop);
+    EXPECT_EQ(drop(form.whole(), "12/31/1999"), Qt::CopyAction);
     EXPECT_EQ(form.wholeDate(), "12/31/1999");
     EXPECT_THAT(form.take(), ElementsAre("changed", "changed", "changed"));
+}
+
+TEST(axDate, WhatIsNotTakenIsLeftWhereItWas) {
+    DateForm form("1/2/2026");
+    for (const char* text : {"Aspirin", "", " \n"})
+        EXPECT_EQ(drop(form.whole(), text), Qt::IgnoreAction);
+    form.press("\t");
+    form.take();
+    for (const char* text : {"Aspirin", "", " \n", "1\n2", "\u0661\u0661", "\U0001F600"}) {
+        EXPECT_EQ(drop(form.box(1), text), Qt::IgnoreAction);
+        paste(text);
+        QInputMethodEvent composed;
+        composed.setCommitString(text);
+        QCoreApplication::sendEvent(&form.box(0), &composed);
+        EXPECT_EQ(form.boxes(), "1|2|2026") << text;
+    }
+    form.date->month("x");
+    form.box(0).end(false);
+    form.press("y/ 1");
+    EXPECT_EQ(form.boxes(), "x1|2|2026") << "also behind a text that the host has set";
+    form.date->SetElementFocus(2);
+    form.press("202");
+    QApplication::clipboard()->setText("kept");
+    QTest::keyClick(&form.box(2), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "kept") << "there is no date to copy";
 }
 
 TEST(axDate, ArrowsStepThePartAndMoveBetweenTheBoxes) {
@@ -273,8 +323,9 @@ TEST(axDate, ArrowsStepThePartAndMoveBetweenTheBoxes) {
     check(form, {"^^^", "12|29|2026", "12/29/2026", "0", {"changed", "changed"}});
     check(form, {"}", "12|29|2026", "12/29/2026", "1", {"index 1"}});
     check(form, {"^^^", "12|31|2026", "12/31/2026", "1", {"changed", "changed"}});
-    check(form, {"{{", "12|31|2026", "12/31/2026", "0", {"index 0"}});
+    check(form, {"{", "12|31|2026", "12/31/2026", "0", {"index 0"}});
     check(form, {"\b{}}", "|31|2026", "12/31/2026", "2", {"changed", "index 1", "index 2"}});
+    check(form, {"}\b", "|31|202", "", "2", {"changed"}});
 }
 
 TEST(axDate, TheUserGetsInOnlyWhileItIsEnlivened) {

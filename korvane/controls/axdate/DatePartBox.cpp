@@ -1,11 +1,14 @@
 #include <korvane/controls/axdate/DatePartBox.h>
 
+#include <korvane/controls/axdate/GivenDate.h>
+#include <korvane/controls/container/Text.h>
+
 #include <QAction>
-#include <QClipboard>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFontMetrics>
-#include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -16,6 +19,28 @@
 #include <algorithm>
 
 namespace Korvane {
+
+namespace {
+
+bool isDigits(const QString& text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+}
+
+/// The validator lets anything through once the host has set a text that is not valid.
+bool isDiscarded(const QKeyEvent& key) {
+    const Qt::KeyboardModifiers held = key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    const QString text = key.text();
+    return held != Qt::ControlModifier && !text.isEmpty() &&
+           text.front().category() != QChar::Other_Control && !isDigits(text);
+}
+
+} // namespace
+
+void acceptCopy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
 
 DatePartBox::DatePartBox(int index, QWidget* parent) : QLineEdit(parent), mIndex(index) {
     setObjectName(QStringLiteral("txtDate(%1)").arg(index));
@@ -55,13 +80,20 @@ void DatePartBox::keyPressEvent(QKeyEvent* event) {
         return emit stepWanted(key == Qt::Key_Up ? 1 : -1);
     if (plain && (key == Qt::Key_Left || key == Qt::Key_Right) && isAtEdge(key))
         return emit moveWanted(key == Qt::Key_Left ? -1 : 1);
+    if (isDiscarded(*event)) return;
     if (key == Qt::Key_Return || key == Qt::Key_Enter) emit enterPressed();
     QLineEdit::keyPressEvent(event);
+}
+
+void DatePartBox::inputMethodEvent(QInputMethodEvent* event) {
+    if (!isDigits(event->commitString())) event->setCommitString(QString());
+    QLineEdit::inputMethodEvent(event);
 }
 
 void DatePartBox::focusInEvent(QFocusEvent* event) {
     mClickBroughtFocus = event->reason() == Qt::MouseFocusReason;
     QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::MenuBarFocusReason) selectAll(); // the menu bar is no leaving
 }
 
 void DatePartBox::mousePressEvent(QMouseEvent* event) {
@@ -70,21 +102,28 @@ void DatePartBox::mousePressEvent(QMouseEvent* event) {
 
 void DatePartBox::mouseReleaseEvent(QMouseEvent* event) {
     mClickBroughtFocus = false;
+    if (event->button() == Qt::MiddleButton && QApplication::clipboard()->supportsSelection())
+        return takeClipboard(QClipboard::Selection);
     QLineEdit::mouseReleaseEvent(event);
 }
 
-void DatePartBox::take(const QString& text) {
+/// False when it holds nothing for a date.
+bool DatePartBox::take(const QString& text) {
     const QString trimmed = text.trimmed();
-    const bool digits = std::all_of(trimmed.begin(), trimmed.end(),
-                                    [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
-    if (digits)
+    if (!trimmed.isEmpty() && isDigits(trimmed)) {
         insert(trimmed);
+        return true;
+    }
+    const auto date = givenDate(utf8(trimmed));
+    if (date)
+        emit dateGiven(*date);
     else
-        emit textGiven(trimmed);
+        QApplication::beep();
+    return date.has_value();
 }
 
-void DatePartBox::takeClipboard() {
-    take(QGuiApplication::clipboard()->text());
+void DatePartBox::takeClipboard(QClipboard::Mode mode) {
+    take(QApplication::clipboard()->text(mode));
 }
 
 /// What the base's menu copies and pastes is the part alone.
@@ -98,14 +137,18 @@ void DatePartBox::contextMenuEvent(QContextMenuEvent* event) {
     };
     offer("edit-cut", tr("Cu&t"), &QLineEdit::cut)->setEnabled(hasSelectedText());
     offer("edit-copy", tr("&Copy date"), &DatePartBox::copyWanted);
-    offer("edit-paste", tr("&Paste"), &DatePartBox::takeClipboard);
+    offer("edit-paste", tr("&Paste"), [this] { takeClipboard(); });
     offer("edit-select-all", tr("Select &all"), &QLineEdit::selectAll);
     menu->popup(event->globalPos());
 }
 
 void DatePartBox::dropEvent(QDropEvent* event) {
-    take(event->mimeData()->text());
-    event->acceptProposedAction();
+    QDragLeaveEvent over;
+    dragLeaveEvent(&over); // takes the cursor away that showed where
+    if (take(event->mimeData()->text()))
+        acceptCopy(*event);
+    else
+        event->ignore();
 }
 
 } // namespace Korvane

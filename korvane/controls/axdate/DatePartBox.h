@@ -1,8 +1,16 @@
 #pragma once
 
+#include <QClipboard>
 #include <QLineEdit>
 
+class QDropEvent;
+
 namespace Korvane {
+
+struct DateParts;
+
+/// The source of a drop keeps what was dropped: no more than the date in it is taken.
+void acceptCopy(QDropEvent& event);
 
 /// A box for one part of a date (`txtDate(0)` month, `txtDate(1)` day, `txtDate(2)` year). Digits alone can
 /// be typed or pasted into it; `setText` takes anything. The click that brings the focus leaves the whole
@@ -27,11 +35,12 @@ class DatePartBox : public QLineEdit {
     /// 1 and -1: up and down.
     void stepWanted(int by);
     void copyWanted();
-    /// Something that is not only digits was pasted or dropped.
-    void textGiven(const QString& text);
+    /// A whole date was pasted or dropped.
+    void dateGiven(const DateParts& date);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -40,8 +49,8 @@ class DatePartBox : public QLineEdit {
 
   private:
     bool isAtEdge(int key) const;
-    void take(const QString& text);
-    void takeClipboard();
+    bool take(const QString& text);
+    void takeClipboard(QClipboard::Mode mode = QClipboard::Clipboard);
 
     int mIndex;
     bool mClickBroughtFocus = false;

@@ -27,6 +27,8 @@ std::string steppedPart(const DateParts& parts, std::size_t index, int by, Date 
     const std::string& text = parts.texts[index];
     const auto value = parseNumber(text);
     const DateParts now = splitDate(today.text()).value_or(DateParts{});
+    if (!value && index == DateParts::day)
+        return std::to_string(std::min(std::stoi(now.texts[index]), lastDayWhereKnown(parts)));
     if (!value) return now.texts[index];
     const int typed = static_cast<int>(std::clamp(*value, -9999.0, 9999.0));
     switch (index) {

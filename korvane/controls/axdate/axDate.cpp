@@ -2,8 +2,11 @@
 
 #include <korvane/controls/axdate/DatePartBox.h>
 #include <korvane/controls/axdate/DateParts.h>
+#include <korvane/controls/axdate/GivenDate.h>
+#include <korvane/controls/container/Text.h>
 #include <korvane/controls/container/Twips.h>
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QEvent>
 #include <QLineEdit>
@@ -54,10 +57,8 @@ void axDate::makeBox(int index, const QString& name, const QString& placeholder)
     connect(made, &DatePartBox::enterPressed, this, [index] { leaveByTabs(index); });
     connect(made, &DatePartBox::stepWanted, this, [this, index](int by) { step(index, by); });
     connect(made, &DatePartBox::copyWanted, this, [this, index] { copyDate(index); });
-    connect(made, &DatePartBox::textGiven, this, &axDate::takeText);
-    connect(made, &DatePartBox::moveWanted, this, [this, index](int by) {
-        if (index + by >= 0 && index + by < std::ssize(mBoxes)) focusBox(index + by);
-    });
+    connect(made, &DatePartBox::dateGiven, this, &axDate::take);
+    connect(made, &DatePartBox::moveWanted, this, [this, index](int by) { moveBy(index, by); });
 }
 
 /// The whole date box is no text to edit, but a whole date can be dropped on it.
@@ -72,8 +73,14 @@ bool axDate::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::Drop: {
         auto& drop = *static_cast<QDropEvent*>(event);
-        drop.acceptProposedAction();
-        takeText(drop.mimeData()->text());
+        const auto given = givenDate(utf8(drop.mimeData()->text()));
+        if (!given) {
+            drop.ignore();
+            QApplication::beep();
+            return true;
+        }
+        acceptCopy(drop);
+        take(*given);
         return true;
     }
     default:

@@ -88,7 +88,8 @@ class axDate : public UserControl, private FocusSteps::Handler {
 
     /// The property `axDate`: the whole date, or empty. Setting it shows the text unchecked and raises
     /// `OnChange`. The boxes take it over when they are next shown, at once when they are being shown: what
-    /// they held of a date before is then gone.
+    /// they held of a date before is then gone. They are left alone when they show that date already, and
+    /// when a slot of `OnChange` sets what it has just read.
     QString wholeDate() const;
     void wholeDate(const QString& text);
 
@@ -155,16 +156,17 @@ class axDate : public UserControl, private FocusSteps::Handler {
     DatePartBox& box(int index) const { return *mBoxes[static_cast<std::size_t>(index)]; }
     DateParts parts() const;
     void fill(const DateParts& parts);
-    void takeText(const QString& text);
+    void take(const DateParts& given);
     void setPart(int index, const QString& text, const QString& property);
     void partChanged(int index, bool movesOn);
-    void put(int index, const QString& text);
+    void put(int index, const QString& text, bool movesOn);
     void setWholeDate(const QString& text);
     void takeOverWholeDate();
     void checkYear();
     void refuse(int index, const QString& message);
     void focusBox(int index);
     void step(int index, int by);
+    void moveBy(int index, int by);
     void copyDate(int index) const;
     static void leaveByTabs(int index);
     void arrange();
@@ -178,6 +180,7 @@ class axDate : public UserControl, private FocusSteps::Handler {
     bool mEnlivened = true;
     bool mRequireFourDigitYear = true;
     bool mWholeDateIsNew = false; ///< set by the host, and the boxes were not changed since
+    bool mTellsOfChange = false;  ///< an `OnChange` for a box is being heard
     qint16 mIndex = 0;            ///< the box last entered
     std::unique_ptr<FocusSteps> mFocus;
 };

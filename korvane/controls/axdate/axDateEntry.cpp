@@ -4,7 +4,6 @@
 #include <korvane/controls/axdate/DateBounds.h>
 #include <korvane/controls/axdate/DatePartBox.h>
 #include <korvane/controls/axdate/DateParts.h>
-#include <korvane/controls/axdate/GivenDate.h>
 #include <korvane/controls/axdate/PartStep.h>
 #include <korvane/controls/container/SendKeys.h>
 #include <korvane/controls/container/Text.h>
@@ -14,6 +13,8 @@
 #include <QClipboard>
 #include <QPointer>
 #include <QSignalBlocker>
+
+#include <utility>
 
 namespace Korvane {
 
@@ -56,6 +57,8 @@ void axDate::showDate() {
 }
 
 void axDate::setWholeDate(const QString& text) {
+    const bool isShown = text == wholeDate() && (mTellsOfChange || text == qt(parts().joined()));
+    if (mFocus->isInside() && isShown) return;
     txtWholeDate->setText(text);
     mWholeDateIsNew = true;
     if (!mFocus->isInside()) return;
@@ -87,53 +90,66 @@ void axDate::partChanged(int index, bool movesOn) {
     if (movesOn && index < 2 && changed.text().size() == 2 &&
         isValid(changed.text(), static_cast<qint16>(index)))
         focusBox(index + 1);
-    if (self) emit OnChange();
+    if (!self) return;
+    const bool isNested = std::exchange(mTellsOfChange, true);
+    emit OnChange();
+    if (self) mTellsOfChange = isNested;
 }
 
-/// Changes a box by other means than typing, which does not move on to the next one.
-void axDate::put(int index, const QString& text) {
+/// Changes a box by other means than typing, and leaves its text selected.
+void axDate::put(int index, const QString& text, bool movesOn) {
     const QString before = box(index).text();
     {
         const QSignalBlocker quiet(box(index));
         box(index).setText(text);
     }
     box(index).selectAll();
-    if (text != before) partChanged(index, false);
+    if (text != before) partChanged(index, movesOn);
 }
 
 /// Every box is filled before the first change is told: nobody hears of a date made of two.
-void axDate::takeText(const QString& text) {
-    const auto given = givenDate(utf8(text));
-    if (!given) return QApplication::beep();
+void axDate::take(const DateParts& given) {
     if (mWholeDateIsNew) takeOverWholeDate();
     const DateParts before = parts();
-    fill(*given);
+    fill(given);
     const QPointer<axDate> self = this;
     for (int i = 0; self && i < 3; ++i) {
         const auto at = static_cast<std::size_t>(i);
-        if (before.texts.at(at) != given->texts.at(at)) partChanged(i, false);
+        if (before.texts.at(at) != given.texts.at(at)) partChanged(i, false);
     }
     if (self && mFocus->isInside()) focusBox(2);
 }
 
 void axDate::step(int index, int by) {
-    put(index, qt(steppedPart(parts(), static_cast<std::size_t>(index), by, Clock::now())));
+    put(index, qt(steppedPart(parts(), static_cast<std::size_t>(index), by, Clock::now())), false);
+}
+
+/// Beyond the first and the last box: to the end of the text.
+void axDate::moveBy(int index, int by) {
+    const int to = index + by;
+    if (to >= 0 && to < std::ssize(mBoxes)) return focusBox(to);
+    if (by < 0)
+        box(index).home(false);
+    else
+        box(index).end(false);
 }
 
 void axDate::SetText(const QString& text) {
     const int index = mIndex;
     const QPointer<axDate> self = this;
     if (mWholeDateIsNew) takeOverWholeDate();
-    put(index, text);
+    put(index, text, true);
     if (!self || index == 2) return;
     mIndex = static_cast<qint16>(index + 1);
     focusBox(mIndex);
     if (self && box(index).hasFocus()) mIndex = static_cast<qint16>(index); // it was refused
 }
 
+/// What the boxes make, not what they made before; without a date, what is selected.
 void axDate::copyDate(int index) const {
-    const DateParts shown = parts();
-    QApplication::clipboard()->setText(shown.makeDate() ? qt(shown.joined()) : box(index).selectedText());
+    const QString date = qt(composedDate(parts(), "", mRequireFourDigitYear));
+    const QString text = date.isEmpty() ? box(index).selectedText() : date;
+    if (!text.isEmpty()) QApplication::clipboard()->setText(text);
 }
 
 /// Once for each box that is left, so that Enter always goes to the next control of the form.

@@ -48,6 +48,7 @@ void axDate::exitFocus() {
 void axDate::gotFocus(QWidget& part) {
     const int index = indexOf(part);
     if (index < 0) return;
+    txtWholeDate->hide();
     box(index).selectAll();
     mIndex = static_cast<qint16>(index);
     emit OnIndexChange(mIndex);
@@ -88,8 +89,9 @@ void axDate::checkYear() {
     if (self) yearBox.setFocus();
 }
 
-/// Heard by a screen reader, too; the box says it until its text is changed.
+/// Heard by a screen reader, too, each time; the box says it until its text is changed.
 void axDate::refuse(int index, const QString& message) {
+    box(index).setAccessibleDescription(QString());
     box(index).setAccessibleDescription(message);
     QAccessibleEvent alert(&box(index), QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

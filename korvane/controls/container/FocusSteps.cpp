@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QMenuBar>
 #include <QThread>
 #include <QTimer>
 #include <QVariant>
@@ -69,7 +70,8 @@ class SwallowedPress : public QObject {
 };
 
 bool isOfWindow(Qt::FocusReason reason) {
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
 }
 
 } // namespace
@@ -135,7 +137,11 @@ void FocusSteps::stay(QWidget& part, Qt::FocusReason reason) {
     mStaying = false;
     if (reason == Qt::MouseFocusReason) new SwallowedPress;
     discardSentKeys();
+    if (mRefusing) return; // it is being told, and whoever hears of it wants the focus elsewhere
+    const QPointer<FocusSteps> self = this;
+    mRefusing = true;
     mHandler.refused(part);
+    if (self) mRefusing = false;
 }
 
 void FocusSteps::leave(QWidget& part) {
@@ -143,7 +149,8 @@ void FocusSteps::leave(QWidget& part) {
     mPart = nullptr;
     mHandler.lostFocus(part);
     if (!self || !mInside) return;
-    const QWidget* now = QApplication::focusWidget();
+    // Not the application's: a box that told of a refusal may have left no window active as yet.
+    const QWidget* now = mControl.window()->focusWidget();
     if (now && mControl.isAncestorOf(now)) return;
     mInside = false;
     mHandler.exitFocus();
@@ -154,6 +161,7 @@ void FocusSteps::leave(QWidget& part) {
 void FocusSteps::focusMoved(const QWidget* now) {
     if (!mInside || !mPart || !now || now->window() != mControl.window() || mControl.isAncestorOf(now))
         return;
+    if (qobject_cast<const QMenuBar*>(now)) return;
     leave(*mPart);
 }
 

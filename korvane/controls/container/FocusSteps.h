@@ -21,9 +21,11 @@ bool causesValidation(const QWidget& control);
 ///
 /// Before a part loses the focus to something that asks for validation, the part is asked (`accepts`). If it
 /// refuses, the focus stays: what would have got it hears nothing of it, neither does it hear the press of
-/// the mouse that asked for it, and keys that are still to be sent are thrown away. `refused` follows.
+/// the mouse that asked for it, and keys that are still to be sent are thrown away. `refused` follows, once:
+/// while it is being told, another attempt fails in silence.
 ///
-/// Another window in front, or a menu, is no leaving. A part that is hidden or disabled is not asked.
+/// Another window in front, a menu or the menu bar is no leaving. A part that is hidden or disabled is not
+/// asked.
 class FocusSteps : public QObject {
   public:
     /// What the control does at each step. Any of them may delete the control.
@@ -64,6 +66,7 @@ class FocusSteps : public QObject {
     QPointer<QWidget> mPart; ///< the part that has the focus
     bool mInside = false;
     bool mStaying = false;
+    bool mRefusing = false;
 };
 
 } // namespace Korvane
