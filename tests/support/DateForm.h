@@ -83,12 +83,15 @@ class DateForm {
     /// What was heard since this was last asked.
     Heard take() { return std::exchange(heard, {}); }
 
-    void require4(bool on) {
+    /// Lets the control read its properties with one that is not the default.
+    void read(const char* property, const QVariant& value) {
         PropertyBag bag;
         date->WriteProperties(bag);
-        bag.WriteProperty("requireFourDigitYear", on ? "True" : "False", "True");
+        bag.WriteProperty(property, value, {});
         date->ReadProperties(bag);
     }
+
+    void require4(bool on) { read("requireFourDigitYear", on ? "True" : "False"); }
 
   private:
     void hear(std::string event) { heard.push_back(std::move(event)); }

@@ -2,6 +2,7 @@
 
 #include <korvane/controls/axdate/DatePartBox.h>
 #include <korvane/controls/axdate/DateParts.h>
+#include <korvane/controls/axdate/DateVoice.h>
 #include <korvane/controls/axdate/GivenDate.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/container/Twips.h>
@@ -22,7 +23,8 @@ constexpr int gap = 45;
 
 } // namespace
 
-axDate::axDate(QWidget* parent) : UserControl(parent), txtWholeDate(new QLineEdit(this)) {
+axDate::axDate(QWidget* parent, bool dragonSpeechEnabled)
+    : UserControl(parent), txtWholeDate(new QLineEdit(this)), mDragonSpeechEnabled(dragonSpeechEnabled) {
     mNextFieldCommand = QStringLiteral("Next Field");
     mPreviousFieldCommand = QStringLiteral("Previous Field");
     FocusSteps::Handler& steps = *this;
@@ -41,6 +43,8 @@ axDate::axDate(QWidget* parent) : UserControl(parent), txtWholeDate(new QLineEdi
     setFocusPolicy(Qt::TabFocus);
     setFocusProxy(txtWholeDate);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    makeVoice();
+    if (mDragonSpeechEnabled) mVoice->create();
 }
 
 axDate::~axDate() = default;

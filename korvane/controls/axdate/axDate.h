@@ -14,6 +14,7 @@ class QLineEdit;
 namespace Korvane {
 
 class DatePartBox;
+class DateVoice;
 struct DateParts;
 
 /// A control for entering one date. At rest it shows the whole date (`txtWholeDate`); with the focus it shows
@@ -37,6 +38,11 @@ struct DateParts;
 /// Beyond that: Up and Down step the part in hand, Left and Right at the edge of a box move to the next one,
 /// a whole date pasted or dropped fills all boxes, copying copies the whole date.
 ///
+/// Voice: with `DragonSpeechEnabled` in the property bag, and a speech engine installed (`SpeechEngine.h`),
+/// saying "Next Field" and "Previous Field" moves between the boxes, round and round, and what is dictated
+/// is told by `Dictated`; both only while the focus is inside. `placeDictated` does the usual with it.
+/// Without an engine the user is told so once, and the control works by hand.
+///
 /// Its slots may show boxes. They delete it with `deleteLater` only: the key that raised the event is still
 /// being handled.
 ///
@@ -58,7 +64,9 @@ class axDate : public UserControl, private FocusSteps::Handler {
     Q_PROPERTY(QString PreviousFieldCommand READ PreviousFieldCommand WRITE PreviousFieldCommand)
 
   public:
-    explicit axDate(QWidget* parent = nullptr);
+    /// One that is made with its voice on readies the engine for it at once; one that gets it from the bag
+    /// does so when it needs it.
+    explicit axDate(QWidget* parent = nullptr, bool dragonSpeechEnabled = false);
     ~axDate() override;
 
     /// Whether the year is not exactly four characters long where four are required; also when it is empty.
@@ -70,7 +78,9 @@ class axDate : public UserControl, private FocusSteps::Handler {
     QString MinimumDate() const;
     void MinimumDate(const QString& text);
 
-    /// Whether voice commands and dictation are on. Default false.
+    /// Whether voice commands and dictation are on. Default false: no part of the engine is touched then. The
+    /// commands take effect when it is read from the bag; switching it off and on again silences them and
+    /// brings them back.
     bool DragonSpeechEnabled() const;
     void DragonSpeechEnabled(bool on);
 
@@ -97,7 +107,8 @@ class axDate : public UserControl, private FocusSteps::Handler {
     bool Enlivened() const;
     void Enlivened(bool on);
 
-    /// The spoken words of the two commands. Default "Next Field" and "Previous Field".
+    /// The spoken words of the two commands. Default "Next Field" and "Previous Field". What counts is what
+    /// they are when the properties are read; setting them later does not change the commands.
     QString NextFieldCommand() const;
     void NextFieldCommand(const QString& words);
     QString PreviousFieldCommand() const;
@@ -138,6 +149,9 @@ class axDate : public UserControl, private FocusSteps::Handler {
     void SystemMessage(const QString& message);
     /// The text of a box was changed, or the whole date was set.
     void OnChange();
+    /// A value was dictated, in lower case as it was said: "november", "fifteen". It is the host's to place,
+    /// see `placeDictated`. Raised only while a box has the focus.
+    void Dictated(const QString& words);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -170,6 +184,11 @@ class axDate : public UserControl, private FocusSteps::Handler {
     void copyDate(int index) const;
     static void leaveByTabs(int index);
     void arrange();
+    void makeVoice();
+    void setupVoiceMenu();
+    void switchVoice();
+    bool isListening() const;
+    void commandRecognized(std::int32_t number);
 
     QLineEdit* txtWholeDate;
     std::array<DatePartBox*, 3> mBoxes{};
@@ -183,6 +202,7 @@ class axDate : public UserControl, private FocusSteps::Handler {
     bool mTellsOfChange = false;  ///< an `OnChange` for a box is being heard
     qint16 mIndex = 0;            ///< the box last entered
     std::unique_ptr<FocusSteps> mFocus;
+    std::unique_ptr<DateVoice> mVoice;
 };
 
 } // namespace Korvane

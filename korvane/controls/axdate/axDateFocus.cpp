@@ -3,6 +3,7 @@
 
 #include <korvane/controls/axdate/DatePartBox.h>
 #include <korvane/controls/axdate/DateParts.h>
+#include <korvane/controls/axdate/DateVoice.h>
 #include <korvane/controls/container/Text.h>
 
 #include <QAccessible>
@@ -30,7 +31,9 @@ void letEventsRun() {
 void axDate::enterFocus(Qt::FocusReason reason) {
     takeOverWholeDate();
     if (!mWholeDateIsNew) figureDate();
+    const QPointer<axDate> self = this;
     if (mEnlivened && txtWholeDate->hasFocus()) focusBox(reason == Qt::BacktabFocusReason ? 2 : 0);
+    if (self && mDragonSpeechEnabled && mFocus->isInside()) mVoice->activateDictation(true);
 }
 
 void axDate::exitFocus() {
@@ -40,6 +43,7 @@ void axDate::exitFocus() {
     setFocusProxy(txtWholeDate);
     for (DatePartBox* each : mBoxes)
         each->hide();
+    if (mDragonSpeechEnabled) mVoice->activateDictation(false);
     const QPointer<axDate> self = this;
     emit SystemMessage(QStringLiteral("exitfocus"));
     if (self) letEventsRun();

@@ -2,11 +2,14 @@
 #include <korvane/controls/axdate/axDate.h>
 
 #include <korvane/controls/axdate/DatePartBox.h>
+#include <korvane/controls/axdate/DateVoice.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/runtime/Variant.h>
 
 #include <QLineEdit>
 #include <QPointer>
+
+#include <utility>
 
 namespace Korvane {
 
@@ -56,7 +59,7 @@ bool axDate::DragonSpeechEnabled() const {
 }
 
 void axDate::DragonSpeechEnabled(bool on) {
-    mDragonSpeechEnabled = on;
+    if (std::exchange(mDragonSpeechEnabled, on) != on) switchVoice();
     emit PropertyChanged("DragonSpeechEnabled");
 }
 
@@ -154,6 +157,8 @@ void axDate::ReadProperties(const PropertyBag& bag) {
         mRequireFourDigitYear = readFlag(bag, "requireFourDigitYear");
         mEnlivened = readFlag(bag, "Enlivened");
         txtWholeDate->setEnabled(mEnlivened);
+        mVoice->activateDictation(mDragonSpeechEnabled && mFocus->isInside());
+        setupVoiceMenu();
     });
 }
 

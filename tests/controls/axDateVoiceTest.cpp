@@ -1,0 +1,227 @@
+#include "support/DateForm.h"
+#include "support/FakeSpeech.h"
+
+#include <korvane/controls/axdate/PlaceDictated.h>
+
+#include <QDialog>
+#include <QMenu>
+
+#include <functional>
+
+namespace Korvane {
+
+using namespace Testing;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+/// A form whose date control listens, with the focus in the month's box.
+struct Listening {
+    FakeSpeech speech;
+    DateForm form;
+
+    explicit Listening(const QString& wholeDate = {}) : form(wholeDate) {
+        QObject::connect(form.date, &axDate::Dictated,
+                         [this](const QString& words) { dictated.push_back(utf8(words)); });
+        form.read("DragonSpeechEnabled", true);
+        form.press("\t");
+        form.take();
+        speech.take();
+    }
+    Heard dictated;
+
+    /// A command and a value: what changed, or was told.
+    Heard sayBoth() {
+        speech.command(1);
+        speech.dictate("may");
+        Heard all = form.take();
+        for (std::string& words : std::exchange(dictated, {}))
+            all.push_back(std::move(words));
+        return all;
+    }
+};
+
+} // namespace
+
+TEST(axDateVoice, BuildsItsMenuOnceWhenItsPropertiesAreRead) {
+    FakeSpeech speech;
+    DateForm form;
+    form.date->PreviousFieldCommand("Back");
+    form.date->DragonSpeechEnabled(true);
+    EXPECT_THAT(speech.take(), IsEmpty());
+    form.read("NextFieldCommand", "Onward");
+    const std::vector<std::string> built{"VCmd.MenuCreate AxDate Control Function Menu 1033 \"\" 1",
+                                         "Add 1 Onward Navigation Moves to next field in date control.",
+                                         "Add 2 Back Navigation Moves to previous field in date control.",
+                                         "Attach A", "Activate true"};
+    EXPECT_EQ(speech.take(), built);
+    form.date->NextFieldCommand("Further");
+    form.press("\t");
+    EXPECT_THAT(speech.take(), ElementsAre("A has the focus", "deDate.Activate true"));
+    form.press("\t\t\t");
+    EXPECT_THAT(speech.take(), ElementsAre("deDate.Activate false", "A lost the focus"));
+    form.date->DragonSpeechEnabled(false);
+    EXPECT_THAT(speech.take(), ElementsAre("Activate false"));
+    form.read("DragonSpeechEnabled", false);
+    EXPECT_THAT(speech.take(), ElementsAre("menu ends"));
+}
+
+TEST(axDateVoice, TouchesNoPartOfTheEngineWhileItIsOff) {
+    FakeSpeech speech;
+    DateForm form("1/2/2026");
+    form.read("DragonSpeechEnabled", false);
+    form.press("\t12<\t\t\t");
+    form.date->SetElementFocus(1);
+    form.date->DragonSpeechEnabled(false);
+    EXPECT_THAT(speech.take(), IsEmpty());
+}
+
+TEST(axDateVoice, ReadiesTheEngineWhereItIsMadeWithItsVoiceOn) {
+    FakeSpeech speech;
+    const axDate date(nullptr, true);
+    EXPECT_THAT(speech.take(), ElementsAre("VCmd.Initialize \"\" 1", "DgnMicBtn1.SetUp 1", "deDate.Register",
+                                           "deDate.Language 1033", "deDate.DateWords true"));
+}
+
+TEST(axDateVoice, CommandsGoRoundTheBoxesAndStayWhereOneIsRefused) {
+    Listening l("4/5/2026");
+    for (const auto& [command, box] : {std::pair{1, 1}, {1, 2}, {1, 0}, {2, 2}, {2, 1}, {7, 0}}) {
+        l.speech.command(command);
+        EXPECT_EQ(l.form.focus(), std::to_string(box));
+        EXPECT_EQ(l.form.box(box).selectedText(), l.form.box(box).text());
+        EXPECT_THAT(l.form.take(), ElementsAre("index " + std::to_string(box)));
+    }
+    l.form.press("13");
+    l.form.take();
+    l.speech.command(1);
+    EXPECT_THAT(l.form.take(), ElementsAre("Invalid date format. Please re-enter."));
+    EXPECT_EQ(l.form.focus(), "0");
+}
+
+TEST(axDateVoice, WhatWasSaidChangesNothingUnlessABoxHasTheFocusWhenItArrives) {
+    Listening l("4/5/2026");
+    QDialog box(&l.form.form);
+    QMenu menu(&l.form.form);
+    QWidget other;
+    const auto show = [](QWidget& window) {
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    };
+    const auto back = [&] {
+        l.form.form.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&l.form.form));
+    };
+    struct Case {
+        const char* when;
+        std::function<void()> begin, end;
+    };
+    for (const Case& c :
+         {Case{"the focus is elsewhere", [&] { l.form.after->setFocus(); },
+               [&] { l.form.date->SetElementFocus(0); }},
+          Case{"a box is open", [&] { box.setModal(true), show(box); }, [&] { box.hide(), back(); }},
+          Case{"a menu is open",
+               [&] {
+                   menu.popup({5, 5});
+               },
+               [&] { menu.close(); }},
+          Case{"another window is in front", [&] { show(other); }, back},
+          Case{"it is not enlivened", [&] { l.form.date->Enlivened(false); },
+               [&] { l.form.date->Enlivened(true); }},
+          Case{"it was switched off", [&] { l.form.date->DragonSpeechEnabled(false); },
+               [&] { l.form.date->DragonSpeechEnabled(true); }}}) {
+        SCOPED_TRACE(c.when);
+        c.begin();
+        l.form.take();
+        EXPECT_THAT(l.sayBoth(), IsEmpty());
+        EXPECT_EQ(l.form.boxes(), "4|5|2026");
+        c.end();
+        l.form.date->SetElementFocus(0);
+        l.form.take();
+        EXPECT_THAT(l.sayBoth(), ElementsAre("index 1", "may"));
+        l.form.date->SetElementFocus(0);
+    }
+}
+
+TEST(axDateVoice, OfTwoControlsTheOneWithTheFocusListens) {
+    Listening l("4/5/2026");
+    DateForm other("6/7/2027");
+    other.read("DragonSpeechEnabled", true);
+    l.speech.take();
+    other.press("\t");
+    EXPECT_THAT(l.speech.take(), ElementsAre("B has the focus", "deDate.Activate true"));
+    l.speech.command(1, 0);
+    l.speech.command(2, 1);
+    EXPECT_EQ(other.focus(), "2");
+    l.form.form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&l.form.form));
+    EXPECT_THAT(l.speech.take(), ElementsAre("A has the focus", "deDate.Activate true", "B lost the focus"))
+        << "the other one may have dictated meanwhile";
+    EXPECT_EQ(l.form.focus(), "0");
+}
+
+TEST(axDateVoice, PlacesWhatIsDictated) {
+    struct Case {
+        const char* words;
+        const char* boxes;
+        const char* focus;
+        const char* problem = "";
+    };
+    DateForm form;
+    form.press("\t");
+    for (const Case& c : {Case{"november", "11||", "1"}, Case{"fifteen", "11|15|", "2"},
+                          Case{"twenty twenty six", "11|15|2026", "2"}, Case{" May ", "5|15|2026", "1"},
+                          Case{"2", "5|2|2026", "2"}, Case{"nineteen eighty four", "5|2|1984", "2"},
+                          Case{"smarch", "5|2|1984", "2",
+                               "value \"smarch\" not found. You can say either a numeric or the name of a "
+                               "month."},
+                          Case{"forty", "5|2|40", "2"}, Case{"june", "5|2|40", "2"}}) {
+        SCOPED_TRACE(c.words);
+        EXPECT_EQ(utf8(placeDictated(*form.date, c.words)), c.problem);
+        EXPECT_EQ(form.boxes(), c.boxes);
+        EXPECT_EQ(form.focus(), c.focus);
+    }
+    EXPECT_EQ(form.take().back(), "Invalid date format. Please re-enter.") << "the year of two digits";
+}
+
+TEST(axDateVoice, MayEndWhileItsWordsAreBeingHeard) {
+    Listening l;
+    QObject::connect(l.form.date, &axDate::Dictated, [&] {
+        l.form.date->deleteLater();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    });
+    l.speech.dictate("may");
+    EXPECT_THAT(l.dictated, ElementsAre("may"));
+    EXPECT_THAT(l.speech.take(), ElementsAre("A lost the focus", "menu ends"));
+}
+
+TEST(axDateVoice, WorksByHandAndSaysOnceWhyWhereThereIsNoEngineOrItRefuses) {
+    static int run = 0;
+    const std::string why = "The microphone is in repair for the " + std::to_string(++run) + ". time.";
+    const auto before = voice::install(nullptr, why);
+    {
+        DateForm form;
+        for (int i = 0; i < 2; ++i) {
+            form.read("DragonSpeechEnabled", true);
+            EXPECT_EQ(form.user->boxes.size(), i == 0 ? 0U : 1U) << "not while it is read";
+            QCoreApplication::processEvents();
+        }
+        EXPECT_THAT(form.user->boxes, ElementsAre(ShownBox{why + " Dates can be entered by hand.",
+                                                           MsgBoxStyle::Information, "Voice"}));
+        form.press("\t11152026\t");
+        EXPECT_EQ(form.wholeDate(), "11/15/2026");
+    }
+    voice::install(before);
+    FakeSpeech speech;
+    speech.unpronounceable = "Weiter";
+    DateForm form;
+    form.date->DragonSpeechEnabled(true);
+    form.read("PreviousFieldCommand", "Weiter");
+    EXPECT_THAT(form.user->boxes, ElementsAre(ShownBox{" Error in UserControl.ReadProperties: Nobody can say "
+                                                       "that.",
+                                                       MsgBoxStyle::OkOnly, ""}));
+    EXPECT_EQ(speech.take().back(), "menu ends");
+}
+
+} // namespace Korvane
