@@ -1,0 +1,104 @@
+#include <korvane/controls/buttons/ButtonFocus.h>
+
+#include <korvane/controls/buttons/PanelButton.h>
+
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <iterator>
+
+namespace Korvane {
+
+namespace {
+
+constexpr int none = -1;
+
+bool isUsable(const PanelButton& button) {
+    return button.isEnabled() && !button.isHidden();
+}
+
+bool isPlain(const QKeyEvent& key) {
+    return (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+} // namespace
+
+void ButtonFocus::add(PanelButton& button) {
+    mButtons.push_back(&button);
+    button.setFocusPolicy(Qt::ClickFocus);
+    setCurrent(static_cast<int>(mCurrent));
+}
+
+int ButtonFocus::indexOf(const PanelButton& button) const {
+    return static_cast<int>(
+        std::distance(mButtons.begin(), std::find(mButtons.begin(), mButtons.end(), &button)));
+}
+
+/// The first usable one from `index` on, which may be beyond an end.
+int ButtonFocus::next(int index, int by) const {
+    for (; index >= 0 && index < std::ssize(mButtons); index += by)
+        if (isUsable(*mButtons[static_cast<std::size_t>(index)])) return index;
+    return none;
+}
+
+int ButtonFocus::nearest(int index) const {
+    const int after = next(index, 1), before = next(index, -1);
+    if (after == none || before == none) return std::max(after, before);
+    return after - index <= index - before ? after : before;
+}
+
+void ButtonFocus::setCurrent(int index) {
+    mButtons[mCurrent]->setFocusPolicy(Qt::ClickFocus);
+    mCurrent = static_cast<std::size_t>(index);
+    current().setFocusPolicy(Qt::StrongFocus);
+    mPanel.setFocusProxy(&current());
+}
+
+void ButtonFocus::focus(int index) const {
+    if (index != none) mButtons[static_cast<std::size_t>(index)]->setFocus(Qt::TabFocusReason);
+}
+
+void ButtonFocus::entered(const PanelButton& button) {
+    setCurrent(indexOf(button));
+}
+
+void ButtonFocus::usableChanged() {
+    const int usable = nearest(static_cast<int>(mCurrent));
+    if (usable != none) setCurrent(usable);
+}
+
+bool ButtonFocus::passOn(const PanelButton& button) {
+    const int usable = nearest(indexOf(button));
+    focus(usable);
+    return usable != none;
+}
+
+bool ButtonFocus::take(const PanelButton& button, const QKeyEvent& key) {
+    if (!isPlain(key)) return false;
+    const int index = indexOf(button), last = static_cast<int>(std::ssize(mButtons)) - 1;
+    const int right = mPanel.layoutDirection() == Qt::RightToLeft ? -1 : 1;
+    switch (key.key()) {
+    case Qt::Key_Up:
+        focus(next(index - 1, -1));
+        return true;
+    case Qt::Key_Down:
+        focus(next(index + 1, 1));
+        return true;
+    case Qt::Key_Left:
+        focus(next(index - right, -right));
+        return true;
+    case Qt::Key_Right:
+        focus(next(index + right, right));
+        return true;
+    case Qt::Key_Home:
+        focus(next(0, 1));
+        return true;
+    case Qt::Key_End:
+        focus(next(last, -1));
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace Korvane

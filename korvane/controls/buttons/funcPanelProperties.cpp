@@ -1,0 +1,108 @@
+#include <korvane/controls/buttons/funcPanel.h>
+
+#include <korvane/controls/buttons/PanelButton.h>
+
+#include <QGroupBox>
+
+namespace Korvane {
+
+namespace {
+
+const QStringList& captions() {
+    static const QStringList texts{"1", "2", "3", "4", "5"};
+    return texts;
+}
+
+/// What a code is taken for, where it is one.
+void takeSize(qint16& size, int code) {
+    if (code >= 0) size = static_cast<qint16>(qMin<int>(code, funcPanel::TwelvePoints));
+}
+
+} // namespace
+
+void funcPanel::BackColor(qint32 code) {
+    mBackColor = code;
+    showBackColour();
+    emit PropertyChanged(QStringLiteral("BackColor"));
+}
+
+void funcPanel::btnsFontBold(bool bold) {
+    mAllBold = bold;
+    for (int i = 0; i < most; ++i)
+        setBold(i, bold);
+    emit PropertyChanged(QStringLiteral("btnsFontBold"));
+}
+
+void funcPanel::buttonStyle(qint16 style) {
+    mStyle = style;
+    showStyle();
+    emit PropertyChanged(QStringLiteral("buttonStyle"));
+}
+
+QString funcPanel::FrameCaption() const {
+    return frame().title();
+}
+
+void funcPanel::FrameCaption(const QString& text) {
+    frame().setTitle(text);
+    updateGeometry();
+    emit PropertyChanged(QStringLiteral("FrameCaption"));
+}
+
+bool funcPanel::Enabled() const {
+    return !testAttribute(Qt::WA_ForceDisabled);
+}
+
+void funcPanel::Enabled(bool on) {
+    enableParts(on);
+    setEnabled(on);
+    emit PropertyChanged(QStringLiteral("Enabled"));
+}
+
+void funcPanel::FrameFontSize(qint16 code) {
+    takeSize(mFrameFontSize, code);
+    showFonts();
+    emit PropertyChanged(QStringLiteral("FrameFontSize"));
+}
+
+void funcPanel::ButtonFontSize(qint16 code) {
+    takeSize(mButtonFontSize, code);
+    showFonts();
+    emit PropertyChanged(QStringLiteral("ButtonFontSize"));
+}
+
+void funcPanel::InitProperties() {
+    FrameCaption(QStringLiteral("Func Btn"));
+    for (int i = 0; i < most; ++i)
+        caption(i, captions()[i]);
+    Enabled(true);
+    buttonCount(most);
+}
+
+/// The control keeps its size, which is the host's to restore.
+void funcPanel::ReadProperties(const PropertyBag& bag) {
+    mBackColor = static_cast<qint32>(bag.ReadProperty("BackColor", qlonglong{buttonFace}).toLongLong());
+    readCaptions(bag, captions());
+    mStyle = static_cast<qint16>(bag.ReadProperty("buttonStyle", ThreeDimensional).toInt());
+    frame().setTitle(bag.ReadProperty("FrameCaption", "Function Btn").toString());
+    takeSize(mFrameFontSize, bag.ReadProperty("FrameFontSize", TenPoints).toInt());
+    takeSize(mButtonFontSize, bag.ReadProperty("ButtonFontSize", TenPoints).toInt());
+    takeCount(bag.ReadProperty("buttonCount", most).toInt());
+    showBackColour();
+    showStyle();
+    showFonts();
+    arrange();
+    updateGeometry();
+}
+
+void funcPanel::WriteProperties(PropertyBag& bag) const {
+    bag.WriteProperty("BackColor", mBackColor, buttonFace);
+    writeCaptions(bag, captions());
+    bag.WriteProperty("buttonCount", mCount, most);
+    bag.WriteProperty("buttonStyle", mStyle, ThreeDimensional);
+    bag.WriteProperty("FrameCaption", FrameCaption(), "Function Btn");
+    bag.WriteProperty("FrameFontSize", mFrameFontSize, TenPoints);
+    bag.WriteProperty("ButtonFontSize", mButtonFontSize, TenPoints);
+}
+
+} // namespace Korvane

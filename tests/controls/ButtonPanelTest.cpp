@@ -1,0 +1,138 @@
+#include "support/ButtonForm.h"
+
+#include <korvane/controls/axdate/axDate.h>
+#include <korvane/controls/buttons/funcPanel.h>
+#include <korvane/controls/buttons/movebtn.h>
+
+#include <QAccessible>
+#include <QDialog>
+#include <QPushButton>
+
+namespace Korvane {
+
+using namespace Testing;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(ButtonPanel, TabEntersAtTheButtonLastUsedAndLeaves) {
+    ButtonForm<movebtn> form;
+    EXPECT_EQ(form.press(Qt::Key_Tab), 0);
+    EXPECT_EQ(form.press(Qt::Key_Tab), 9);
+    EXPECT_EQ(form.press(Qt::Key_Backtab, Qt::ShiftModifier), 0);
+    EXPECT_EQ(form.press(Qt::Key_Right), 1);
+    EXPECT_EQ(form.press(Qt::Key_Backtab, Qt::ShiftModifier), -1);
+    EXPECT_EQ(form.press(Qt::Key_Tab), 1);
+    QTest::mouseClick(&form.button(2), Qt::LeftButton);
+    form.before->setFocus();
+    form.panel->setFocus();
+    EXPECT_EQ(form.focus(), 2);
+    form.panel->Focus(3);
+    EXPECT_EQ(form.press(Qt::Key_Tab), 9);
+    QWidget::setTabOrder(form.after, form.panel);
+    EXPECT_EQ(form.press(Qt::Key_Tab), 3) << "in the order that the host gave";
+    EXPECT_THROW(form.panel->Focus(4), RuntimeError);
+}
+
+TEST(ButtonPanel, ArrowKeysMoveInTheRowAndStopAtItsEnds) {
+    ButtonForm<funcPanel> form;
+    form.panel->btnDisable(1);
+    form.panel->Focus(0);
+    EXPECT_EQ(form.press(Qt::Key_Up), 0);
+    EXPECT_EQ(form.press(Qt::Key_Down), 2) << "past the disabled one";
+    EXPECT_EQ(form.press(Qt::Key_Left), 0);
+    EXPECT_EQ(form.press(Qt::Key_End), 4);
+    EXPECT_EQ(form.press(Qt::Key_Right), 4);
+    EXPECT_EQ(form.press(Qt::Key_Up, Qt::ControlModifier), 4) << "not a key of the row";
+    EXPECT_EQ(form.press(Qt::Key_Home), 0);
+    form.form.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(form.press(Qt::Key_Left), 2);
+    EXPECT_EQ(form.press(Qt::Key_Right), 0);
+}
+
+TEST(ButtonPanel, EachClickIsHeardOnceButNoneInDesignMode) {
+    ButtonForm<funcPanel> form;
+    form.panel->btnText5("&Sign");
+    const auto clickAll = [&] {
+        QTest::mouseClick(&form.button(2), Qt::LeftButton);
+        form.press(Qt::Key_Space);
+        form.panel->Focus(1);
+        form.press(Qt::Key_Return);
+        form.press(Qt::Key_Enter, Qt::KeypadModifier);
+        form.press(Qt::Key_S, Qt::AltModifier);
+    };
+    clickAll();
+    EXPECT_THAT(form.heard(5), ElementsAre(2, 2, 1, 1, 4));
+    EXPECT_EQ(form.focus(), 4) << "the accelerator has moved it";
+    form.panel->btnDisable(2);
+    QTest::mouseClick(&form.button(2), Qt::LeftButton);
+    form.panel->setDesignMode(true);
+    clickAll();
+    QTest::qWait(150); // as long as an accelerator holds the button down
+    EXPECT_THAT(form.heard(0), IsEmpty());
+}
+
+TEST(ButtonPanel, WhatRefusesToLetTheFocusGoHoldsTheAcceleratorUp) {
+    ButtonForm<movebtn> form;
+    form.panel->btnText3("&Next");
+    axDate date;
+    form.form.layout()->addWidget(&date);
+    QCoreApplication::processEvents(); // it is shown
+    date.SetElementFocus(0);
+    QTest::keyClicks(QApplication::focusWidget(), "13");
+    form.press(Qt::Key_N, Qt::AltModifier);
+    QTest::qWait(150);
+    EXPECT_THAT(form.heard(0), IsEmpty());
+    date.month("12");
+    form.press(Qt::Key_N, Qt::AltModifier);
+    EXPECT_THAT(form.heard(1), ElementsAre(2));
+}
+
+TEST(ButtonPanel, KeepsTheFocusWhileAnyOfItsButtonsCanHaveIt) {
+    ButtonForm<funcPanel> form;
+    form.panel->Focus(4);
+    form.panel->btnDisable(4);
+    EXPECT_EQ(form.focus(), 3);
+    form.panel->buttonCount(2);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form.focus(), 1);
+    form.panel->btnDisable(0);
+    form.panel->btnDisable(1);
+    EXPECT_EQ(form.focus(), 9);
+    form.panel->btnEnable(0);
+    EXPECT_EQ(form.press(Qt::Key_Backtab, Qt::ShiftModifier), 0);
+    form.panel->Enabled(false);
+    EXPECT_EQ(form.focus(), 9);
+    EXPECT_EQ(form.press(Qt::Key_Backtab, Qt::ShiftModifier), -1);
+}
+
+TEST(ButtonPanel, IsTheDefaultOfADialogOnlyWhileItHasTheFocus) {
+    ButtonForm<movebtn, QDialog> form;
+    form.press(Qt::Key_Return);
+    EXPECT_THAT(form.heard(0), IsEmpty()) << "in the text box before";
+    auto* ok = new QPushButton("OK", &form.form);
+    ok->setDefault(true);
+    form.panel->Focus(1);
+    EXPECT_TRUE(static_cast<QPushButton&>(form.button(1)).isDefault());
+    EXPECT_FALSE(ok->isDefault());
+    form.press(Qt::Key_Return);
+    EXPECT_THAT(form.heard(1), ElementsAre(1));
+    form.after->setFocus();
+    EXPECT_TRUE(ok->isDefault());
+    EXPECT_FALSE(static_cast<QPushButton&>(form.button(1)).isDefault());
+}
+
+TEST(ButtonPanel, TellsAScreenReaderWhatItsPartsAre) {
+    ButtonForm<movebtn> form;
+    form.panel->btnText2("&Back");
+    const auto name = [](QWidget& part) {
+        return QAccessible::queryAccessibleInterface(&part)->text(QAccessible::Name).toStdString();
+    };
+    EXPECT_EQ(name(*form.panel->findChild<QGroupBox*>("frame1")), "Move Buttons");
+    EXPECT_EQ(name(form.button(0)), "First record");
+    EXPECT_EQ(name(form.button(1)), "Back");
+    EXPECT_EQ(form.button(0).text(), "|<");
+    EXPECT_EQ(form.button(0).toolTip() + form.button(1).toolTip(), "First record");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&form.button(3))->role(), QAccessible::Button);
+}
+
+} // namespace Korvane
