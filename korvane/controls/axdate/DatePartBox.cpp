@@ -100,6 +100,10 @@ void DatePartBox::mousePressEvent(QMouseEvent* event) {
     if (!mClickBroughtFocus) QLineEdit::mousePressEvent(event);
 }
 
+void DatePartBox::mouseMoveEvent(QMouseEvent* event) {
+    if (!mClickBroughtFocus) QLineEdit::mouseMoveEvent(event);
+}
+
 void DatePartBox::mouseReleaseEvent(QMouseEvent* event) {
     mClickBroughtFocus = false;
     if (event->button() == Qt::MiddleButton && QApplication::clipboard()->supportsSelection())

@@ -90,7 +90,7 @@ void axDate::checkYear() {
         refuse(DateParts::year, mRequireFourDigitYear
                                     ? QStringLiteral("Year requires four digits. Please re-enter.")
                                     : QStringLiteral("Invalid date format. Please re-enter."));
-    if (self) yearBox.setFocus();
+    if (self && yearBox.isVisible()) yearBox.setFocus();
 }
 
 /// Heard by a screen reader, too, each time; the box says it until its text is changed.

@@ -121,7 +121,8 @@ bool FocusSteps::focusOut(QWidget& part, Qt::FocusReason reason) {
     if (mPart != &part || isOfWindow(reason)) return false;
     QWidget* next = QApplication::focusWidget();
     const Successor successor(next);
-    const bool asked = next && part.isVisible() && part.isEnabled() && causesValidation(*next);
+    const bool asked = next && part.isVisible() && part.isEnabled() &&
+                       (mControl.isAncestorOf(next) || causesValidation(*next));
     const QPointer<FocusSteps> self = this;
     if (asked && !mHandler.accepts(part)) {
         stay(part, reason);

@@ -19,10 +19,10 @@ bool causesValidation(const QWidget& control);
 ///     lostFocus(month), gotFocus(day)        it moves on
 ///     lostFocus(day), exitFocus              it goes
 ///
-/// Before a part loses the focus to something that asks for validation, the part is asked (`accepts`). If it
-/// refuses, the focus stays: what would have got it hears nothing of it, neither does it hear the press of
-/// the mouse that asked for it, and keys that are still to be sent are thrown away. `refused` follows, once:
-/// while it is being told, another attempt fails in silence.
+/// Before a part loses the focus to something that asks for validation, as every other part does, it is asked
+/// (`accepts`). If it refuses, the focus stays: what would have got it hears nothing of it, neither does it
+/// hear the press of the mouse that asked for it, and keys that are still to be sent are thrown away.
+/// `refused` follows, once: while it is being told, another attempt fails in silence.
 ///
 /// Another window in front, a menu or the menu bar is no leaving. A part that is hidden or disabled is not
 /// asked.
