@@ -30,10 +30,10 @@ void Journey::requireDate(const QString& wholeDate, const QString& focus) {
 }
 
 void Journey::requireEvents(const QStringList& last) {
-    const auto& list = part<QTreeWidget>(QStringLiteral("lstEvents"));
+    const auto& list = part<QTableWidget>(QStringLiteral("lstEvents"));
     QStringList heard;
-    for (int i = 0; i < list.topLevelItemCount(); ++i)
-        heard << list.topLevelItem(i)->text(0) + u' ' + list.topLevelItem(i)->text(1);
+    for (int row = 0; row < list.rowCount(); ++row)
+        heard << list.item(row, 0)->text() + u' ' + list.item(row, 1)->text();
     require(heard.mid(heard.size() - last.size()) == last,
             QStringLiteral("The events end with \"%1\" and should with \"%2\".")
                 .arg(heard.mid(heard.size() - last.size()).join(QStringLiteral("; ")),

@@ -1,5 +1,6 @@
 #include "dateform/TestForm.h"
 
+#include <korvane/controls/axdate/PlaceDictated.h>
 #include <korvane/controls/container/PropertyBag.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/runtime/Interaction.h>
@@ -34,14 +35,17 @@ QCheckBox* switchBox(const char* name, const QString& text) {
 } // namespace
 
 TestForm::TestForm(QWidget* parent)
-    : QWidget(parent), mName(new QLineEdit), mDate(new axDate), mRefusal(new QLabel),
-      mEvents(new QTreeWidget) {
+    : QWidget(parent), mName(new QLineEdit), mDate(new axDate), mRefusal(new QLabel), mVoice(new VoiceBox),
+      mEvents(new QTableWidget(0, 2)) {
     setWindowTitle(tr("Date control"));
     auto* columns = new QHBoxLayout(this);
     auto* left = new QVBoxLayout;
     left->addWidget(makeForm());
     left->addWidget(makeSettings());
+    left->addWidget(mVoice);
     left->addStretch();
+    connect(mVoice, &VoiceBox::switched, this,
+            [this](bool on) { readAnew("DragonSpeechEnabled", on, false); });
     columns->addLayout(left);
     columns->addWidget(makeEvents(), 1);
     mDate->InitProperties();
@@ -80,7 +84,8 @@ QWidget* TestForm::makeSettings() {
     rows->addRow(enlivened);
     connect(minimum, &QLineEdit::textChanged, mDate, [this](const QString& t) { mDate->MinimumDate(t); });
     connect(maximum, &QLineEdit::textChanged, mDate, [this](const QString& t) { mDate->MaximumDate(t); });
-    connect(four, &QCheckBox::toggled, this, &TestForm::requireFourDigits);
+    connect(four, &QCheckBox::toggled, this,
+            [this](bool on) { readAnew("requireFourDigitYear", on ? "True" : "False", "True"); });
     connect(enlivened, &QCheckBox::toggled, mDate, [this](bool on) { mDate->Enlivened(on); });
     return group;
 }
@@ -92,16 +97,24 @@ QWidget* TestForm::makeEvents() {
     mEvents->setObjectName(QStringLiteral("lstEvents"));
     mEvents->setAccessibleName(tr("Events"));
     mEvents->setLayoutDirection(Qt::LeftToRight);
-    mEvents->setHeaderLabels({tr("Event"), tr("What it says")});
-    mEvents->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    mEvents->setRootIsDecorated(false);
+    mEvents->setHorizontalHeaderLabels({tr("Event"), tr("What it says")});
+    mEvents->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    mEvents->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    mEvents->horizontalHeader()->setStretchLastSection(true);
+    mEvents->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    mEvents->verticalHeader()->setMinimumSectionSize(1);
+    mEvents->verticalHeader()->hide();
+    mEvents->setShowGrid(false);
     mEvents->setAlternatingRowColors(true);
+    mEvents->setEditTriggers(QTableWidget::NoEditTriggers);
+    mEvents->setSelectionBehavior(QTableWidget::SelectRows);
+    mEvents->setTabKeyNavigation(false);
     mEvents->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
     clear->setObjectName(QStringLiteral("cmdClear"));
     clear->setProperty("CausesValidation", false);
     rows->addWidget(mEvents);
     rows->addWidget(clear, 0, Qt::AlignRight);
-    connect(clear, &QPushButton::clicked, mEvents, &QTreeWidget::clear);
+    connect(clear, &QPushButton::clicked, mEvents, [this] { mEvents->setRowCount(0); });
     return group;
 }
 
@@ -118,12 +131,17 @@ void TestForm::listen() {
     });
     connect(mDate, &axDate::SystemMessage, this,
             [this](const QString& message) { hear(QStringLiteral("SystemMessage"), message); });
+    connect(mDate, &axDate::Dictated, this, &TestForm::placeDictated);
     // The focus is still on its way then: a box has to wait until it has arrived.
     connect(mDate, &axDate::SystemMessage, this, &TestForm::checkBounds, Qt::QueuedConnection);
 }
 
 void TestForm::hear(const QString& event, const QString& text) {
-    mEvents->scrollToItem(new QTreeWidgetItem(mEvents, {event, text}));
+    const int row = mEvents->rowCount();
+    mEvents->insertRow(row);
+    mEvents->setItem(row, 0, new QTableWidgetItem(event));
+    mEvents->setItem(row, 1, new QTableWidgetItem(text));
+    mEvents->scrollToBottom();
 }
 
 void TestForm::checkBounds() {
@@ -137,11 +155,17 @@ void TestForm::checkBounds() {
     mDate->SetElementFocus(0);
 }
 
-/// The flag has no property of its own; it comes with the others that the host keeps.
-void TestForm::requireFourDigits(bool on) {
+void TestForm::placeDictated(const QString& words) {
+    hear(QStringLiteral("Dictated"), words);
+    const QString problem = Korvane::placeDictated(*mDate, words);
+    mVoice->showHeard(problem.isEmpty() ? tr("Heard: %1").arg(words) : problem);
+}
+
+/// What has no property of its own, or takes effect only so, comes with the others that a host keeps.
+void TestForm::readAnew(const QString& property, const QVariant& value, const QVariant& usual) {
     Korvane::PropertyBag bag;
     mDate->WriteProperties(bag);
-    bag.WriteProperty(QStringLiteral("requireFourDigitYear"), on ? "True" : "False", "True");
+    bag.WriteProperty(property, value, usual);
     mDate->ReadProperties(bag);
 }
 

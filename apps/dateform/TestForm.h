@@ -1,10 +1,12 @@
 #pragma once
 
+#include "dateform/VoiceBox.h"
+
 #include <korvane/controls/axdate/axDate.h>
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QTreeWidget>
+#include <QTableWidget>
 #include <QWidget>
 
 namespace DateForm {
@@ -12,7 +14,8 @@ namespace DateForm {
 /// The date control between two text boxes, its bounds and switches, and a list of the events it raises.
 ///
 /// What the form adds is the host's part: a date outside the bounds is told in a box "Date Error" once the
-/// control has been left, and the focus goes back to its month; what the control refuses is shown below it.
+/// control has been left, and the focus goes back to its month; what is dictated is placed; what the control
+/// refuses is shown below it.
 class TestForm : public QWidget {
     Q_OBJECT
 
@@ -26,12 +29,14 @@ class TestForm : public QWidget {
     void listen();
     void hear(const QString& event, const QString& text);
     void checkBounds();
-    void requireFourDigits(bool on);
+    void readAnew(const QString& property, const QVariant& value, const QVariant& usual);
+    void placeDictated(const QString& words);
 
     QLineEdit* mName;
     Korvane::axDate* mDate;
     QLabel* mRefusal;
-    QTreeWidget* mEvents;
+    VoiceBox* mVoice;
+    QTableWidget* mEvents;
 };
 
 } // namespace DateForm

@@ -1,10 +1,12 @@
 #include "dateform/TestForm.h"
 
+#include "support/FakeSpeech.h"
 #include "support/RecordingInteraction.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -37,10 +39,9 @@ struct OpenForm : TestForm {
     }
     std::vector<std::string> events() {
         std::vector<std::string> texts;
-        const auto& list = part<QTreeWidget>("lstEvents");
-        for (int i = 0; i < list.topLevelItemCount(); ++i)
-            texts.push_back(
-                (list.topLevelItem(i)->text(0) + ' ' + list.topLevelItem(i)->text(1)).toStdString());
+        const auto& list = part<QTableWidget>("lstEvents");
+        for (int row = 0; row < list.rowCount(); ++row)
+            texts.push_back((list.item(row, 0)->text() + ' ' + list.item(row, 1)->text()).toStdString());
         return texts;
     }
 };
@@ -96,6 +97,33 @@ TEST(TestForm, SwitchesTheDateControl) {
     form.press("\t1226\t");
     form.part<QCheckBox>("chkEnlivened").click();
     EXPECT_FALSE(date.Enlivened());
+}
+
+TEST(TestForm, PlacesWhatIsDictatedAndShowsHowTheMicrophoneStands) {
+    FakeSpeech speech;
+    OpenForm form;
+    form.part<QCheckBox>("chkVoice").click();
+    EXPECT_EQ(speech.take().back(), "Activate true") << "the menu";
+    auto& button = form.part<QPushButton>("cmdMicrophone");
+    auto& status = form.part<QLabel>("lblMicrophone");
+    auto& heard = form.part<QLabel>("lblHeard");
+    speech.noSound = "There is no microphone.";
+    button.click();
+    EXPECT_EQ(status.text(), "There is no microphone.");
+    EXPECT_FALSE(button.isChecked());
+    speech.noSound.clear();
+    button.click();
+    EXPECT_EQ(status.text(), "It is on.");
+    form.part<QLineEdit>("txtBefore").setFocus();
+    form.press("\t");
+    speech.dictate("november");
+    EXPECT_EQ(heard.text(), "Heard: november");
+    EXPECT_EQ(form.part<Korvane::axDate>("axDate").month(), "11");
+    speech.dictate("smarch");
+    EXPECT_EQ(heard.text(),
+              "value \"smarch\" not found. You can say either a numeric or the name of a month.");
+    speech.command(2);
+    EXPECT_EQ(form.events().back(), "OnIndexChange 0");
 }
 
 } // namespace DateForm

@@ -22,6 +22,8 @@ class FakeSpeech {
 
     /// Words that `Add` refuses.
     std::string unpronounceable;
+    /// Why the microphone cannot be switched on; empty when it can.
+    std::string noSound;
 
     /// What was asked for since this was last asked.
     std::vector<std::string> take() { return std::exchange(mCalls, {}); }
@@ -76,9 +78,14 @@ class FakeSpeech {
         FakeSpeech& log;
         explicit Microphone(FakeSpeech& to) : log(to) {}
         void SetUp(std::int32_t number) override { log.write("DgnMicBtn1.SetUp", number); }
-        bool On() const override { return false; }
-        void On(bool on) override { log.write("DgnMicBtn1.On", on); }
-        std::string Status() const override { return {}; }
+        bool On() const override { return isOn; }
+        void On(bool on) override {
+            if (on && !log.noSound.empty()) throw RuntimeError(5, log.noSound);
+            isOn = on;
+            Changed.raise(on);
+        }
+        std::string Status() const override { return isOn ? "It is on." : "It is off."; }
+        bool isOn = false;
     };
     struct Engine : voice::SpeechEngine {
         FakeSpeech& log;
