@@ -57,6 +57,7 @@ class ClinicWindow {
         QTest::keyClick(window->windowHandle(), key, modifiers);
         QTest::qWait(1);
     }
+    void ctrl(Qt::Key key) const { press(key, Qt::ControlModifier); }
     void type(const char* text) const {
         QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text));
         QTest::qWait(1);
@@ -91,9 +92,14 @@ class ClinicWindow {
         type(text);
     }
 
-    void pressSave() const { part<QAbstractButton>("cmdNipButton(0)").click(); }
+    void click(const char* button) const {
+        QTest::mouseClick(&part<QAbstractButton>(button), Qt::LeftButton);
+    }
+    void pressSave() const { click("cmdNipButton(0)"); }
 
     bool isNipOpen() const { return part<QWidget>("nipPanel").isVisible(); }
+    std::string focus() const { return QApplication::focusWidget()->objectName().toStdString(); }
+    int encounters() const { return part<QTableView>("encounters").model()->rowCount(); }
 
     /// The text of a column of the chosen row; "nothing" where no row is chosen.
     std::string chosen(const char* list, int column) const {
@@ -106,6 +112,18 @@ class ClinicWindow {
         const auto rows = ado::Recordset::create();
         rows->Open(query, db);
         return rows->Value(0).toInt32();
+    }
+    /// How many encounters have this description.
+    std::int32_t stored(const std::string& description) const {
+        return number("Select Count(*) From Encounter Where Description='" + description + "'");
+    }
+    void expectToFitAtTwiceTheTextSize() const {
+        for (int i = 0; i < 5; ++i)
+            ctrl(Qt::Key_Plus);
+        QTest::qWait(10);
+        EXPECT_LE(window->minimumSizeHint().width(), 1280);
+        EXPECT_LE(window->minimumSizeHint().height(), 800);
+        ctrl(Qt::Key_0);
     }
 
     StoppedClock clock{Date::of(2026, 11, 16, 9, 30)};

@@ -1,10 +1,13 @@
 #include "support/Program.h"
+#include "support/ScratchSchema.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 #include <gmock/gmock.h>
 
 #include <fstream>
+#include <future>
 
 namespace Korvane::Testing {
 
@@ -12,16 +15,48 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
+namespace {
+
+/// A guided tour, what it printed, without where its pictures are, and these.
+struct GuidedTour {
+    Outcome outcome;
+    QString told;
+    std::vector<std::pair<QString, QByteArray>> pictures;
+};
+
+GuidedTour tour(const ScratchDir& home, const std::string& pictures, const QStringList& more = {}) {
+    const QDir dir(QString::fromStdString(home.file(pictures)));
+    GuidedTour tour{run(home, QStringList{"--tour", dir.path()} + more), {}, {}};
+    tour.told = QString::fromStdString(tour.outcome.output)
+                    .remove(QRegularExpression(QStringLiteral(" pictures in .*\n$")));
+    for (const QString& name : dir.entryList({"*.png"}, QDir::Files)) {
+        QFile file(dir.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        tour.pictures.emplace_back(name, file.readAll());
+    }
+    return tour;
+}
+
+void expectAllOf(const GuidedTour& tour) {
+    EXPECT_EQ(tour.outcome.code, 0) << tour.outcome.errors;
+    EXPECT_THAT(tour.outcome.output, AllOf(HasSubstr("Follow-up, dose halved"), HasSubstr("Hopeful"),
+                                           HasSubstr("Hypertension, stage 1"), HasSubstr("Behind the eye"),
+                                           HasSubstr("find the old ones intact")));
+    ASSERT_GE(tour.pictures.size(), 36U);
+    EXPECT_EQ(tour.pictures.front().first, "01-choose-a-patient.png");
+}
+
+} // namespace
+
 TEST(CommandLine, SaysWhatItOffersAndRefusesWhatItCannotDo) {
     const ScratchDir dir;
     std::ofstream(dir.file("letter.db")) << "Dear colleague, this is no database at all.\n";
     const QString letter = QStringLiteral("sqlite:") + QString::fromStdString(dir.file("letter.db"));
-    struct Case {
+    const struct {
         QStringList arguments;
         int code;
         const char* said;
-    };
-    const std::vector<Case> cases{
+    } cases[] = {
         {{"--help"}, 0, "--tour <dir>"},
         {{"--version"}, 0, "korvane-clinic"},
         {{"--colour"}, 1, "colour"},
@@ -42,16 +77,27 @@ TEST(CommandLine, SaysWhatItOffersAndRefusesWhatItCannotDo) {
 }
 
 TEST(CommandLine, GoesOnTheGuidedTour) {
-    const ScratchDir dir;
-    const Outcome outcome = run(dir, {"--tour", QString::fromStdString(dir.file("tour"))});
-    EXPECT_EQ(outcome.code, 0) << outcome.errors;
-    EXPECT_THAT(outcome.output, AllOf(HasSubstr("Follow-up, dose halved"), HasSubstr("Hopeful"),
-                                      HasSubstr("Hypertension, stage 1"), HasSubstr("Behind the eye"),
-                                      HasSubstr("find the old ones intact")));
-    const QStringList pictures =
-        QDir(QString::fromStdString(dir.file("tour"))).entryList({"*.png"}, QDir::Files);
-    ASSERT_GE(pictures.size(), 36);
-    EXPECT_EQ(pictures.first(), "01-choose-a-patient.png");
+    if (ScratchSchema::hasServer()) GTEST_SKIP() << "the tour on the server is compared with this one";
+    expectAllOf(tour(ScratchDir(), "tour"));
+}
+
+TEST(CommandLine, GoesOnTheSameTourOnAServerWhichNeedsAnEmptyDatabase) {
+    if (!ScratchSchema::hasServer()) GTEST_SKIP() << ScratchSchema::noServer;
+    const ScratchDir dir, home;
+    const ScratchSchema schema;
+    const QStringList onServer{"--db", QString::fromStdString(schema.address())};
+    auto meanwhile = std::async(std::launch::async, [&] { return tour(dir, "file"); });
+    const GuidedTour server = tour(home, "server", onServer);
+    const GuidedTour file = meanwhile.get();
+    expectAllOf(file);
+    EXPECT_EQ(server.outcome.code, 0) << server.outcome.errors;
+    EXPECT_EQ(server.told, file.told);
+    ASSERT_EQ(server.pictures.size(), file.pictures.size());
+    for (std::size_t i = 0; i < file.pictures.size(); ++i)
+        EXPECT_TRUE(server.pictures[i] == file.pictures[i]) << file.pictures[i].first.toStdString();
+    const Outcome again = tour(home, "server", onServer).outcome;
+    EXPECT_EQ(again.code, 1);
+    EXPECT_THAT(again.errors, HasSubstr("empty database only"));
 }
 
 } // namespace Korvane::Testing

@@ -4,11 +4,9 @@
 #include "support/ScratchDir.h"
 
 #include <korvane/ado/Recordset.h>
-#include <korvane/runtime/RuntimeError.h>
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <utility>
 #include <vector>
 
@@ -49,15 +47,6 @@ TEST_F(Database, OfSomebodyElseGetsNoSample) {
     EXPECT_EQ(count(db, "Stock"), 1);
     EXPECT_EQ(count(db, "Patient"), 0);
     EXPECT_EQ(count(db, "Encounter"), 0);
-}
-
-TEST(DatabaseAddress, IsRefusedWhereThereIsNoDatabase) {
-    const Korvane::Testing::ScratchDir dir;
-    const QString file = QStringLiteral("sqlite:") + QString::fromStdString(dir.file("clinic.db"));
-    std::ofstream(dir.file("clinic.db")) << "This was once a database, but it is not one any more.\n";
-    EXPECT_THROW(openDatabase(file), Korvane::RuntimeError);
-    EXPECT_THROW(openDatabase("gopher:clinic.db"), Korvane::RuntimeError);
-    EXPECT_THROW(openDatabase(file + "/below/a/file.db"), Korvane::RuntimeError);
 }
 
 TEST(DatabaseAddress, IsShownWithoutItsPassword) {

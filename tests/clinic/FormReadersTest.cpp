@@ -14,6 +14,15 @@ using namespace Clinic;
 using Korvane::RuntimeError;
 using testing::ElementsAre;
 
+/// Of each field: name, display type, the most characters, "carried", [default].
+std::vector<std::string> summaryOf(const FormDefinition& form) {
+    std::vector<std::string> summary;
+    for (const FieldDefinition& f : form.fields)
+        summary.push_back(f.name + " " + f.displayType + " " + std::to_string(f.maxLength) +
+                          (f.carriedForward ? " carried" : "") + " [" + f.defaultValue + "]");
+    return summary;
+}
+
 TEST(Csv, ReadsQuotedFieldsAndEveryLineEnd) {
     EXPECT_THAT(readCsv("a,\"b, \"\"c\"\"\",\r\n\n\"two\nlines\",,last"),
                 ElementsAre(CsvRow{"a", "b, \"c\"", ""}, CsvRow{"two\nlines", "", "last"}));
@@ -44,16 +53,11 @@ TEST(FhirQuestionnaire, TurnsEachKindOfItemIntoItsDisplayType) {
             "extension":[{"url":"http://x/sdc-questionnaire-observationLinkPeriod"}]},
         {"type":"text","text":"Long"}]})",
                                                       "Group name");
-    std::vector<std::string> summary;
-    for (const FieldDefinition& f : form.fields)
-        summary.push_back(f.name + " " + f.displayType + " " + std::to_string(f.maxLength) +
-                          (f.carriedForward ? " carried" : ""));
     EXPECT_EQ(form.group, "Group name");
-    EXPECT_THAT(summary,
-                ElementsAre("One LIST 255", "Many LIST-MULTIPLE 0", "Drop COMBOBOX-RESTRICTED 255",
-                            "Open COMBOBOX 255", "Yes LIST 255", "Short TEXT 5 carried", "Long TEXT 0"));
+    EXPECT_THAT(summaryOf(form), ElementsAre("One LIST 255 [b]", "Many LIST-MULTIPLE 0 []",
+                                             "Drop COMBOBOX-RESTRICTED 255 []", "Open COMBOBOX 255 []",
+                                             "Yes LIST 255 []", "Short TEXT 5 carried []", "Long TEXT 0 []"));
     EXPECT_THAT(form.fields[0].values, ElementsAre("Ay", "b"));
-    EXPECT_EQ(form.fields[0].defaultValue, "b");
     EXPECT_THAT(form.fields[1].values, ElementsAre("x", "7"));
     EXPECT_THROW(readFhirQuestionnaire("{\"resourceType\":\"Patient\"}", "x"), RuntimeError);
 }
@@ -65,12 +69,11 @@ TEST(LformsPanel, PutsOneUnitIntoTheCaptionAndSeveralBesideTheQuestion) {
         {"question":"Mood","dataType":"CWE","answers":[{"text":"good"}]},
         {"question":"Side","dataType":"CNE","answers":[{"text":"left"}]}]})",
                                                 "Vital Signs");
-    std::vector<std::string> summary;
-    for (const FieldDefinition& f : form.fields)
-        summary.push_back(f.name + " " + f.displayType + " " + f.caption + " [" + f.defaultValue + "]");
-    EXPECT_THAT(summary, ElementsAre("BP TEXT BP (mmHg) []", "Weight TEXT Weight []",
-                                     "Weight_COMMENTS COMBOBOX Unit [kgs]", "Mood COMBOBOX Mood []",
-                                     "Side COMBOBOX-RESTRICTED Side []"));
+    EXPECT_THAT(summaryOf(form),
+                ElementsAre("BP TEXT 255 []", "Weight TEXT 255 []", "Weight_COMMENTS COMBOBOX 255 [kgs]",
+                            "Mood COMBOBOX 255 []", "Side COMBOBOX-RESTRICTED 255 []"));
+    EXPECT_EQ(form.fields[0].caption + form.fields[1].caption + form.fields[2].caption,
+              "BP (mmHg)WeightUnit");
     EXPECT_THAT(form.fields[2].values, ElementsAre("lbs", "kgs"));
     EXPECT_THROW(readLformsPanel("[]", "x"), RuntimeError);
 }
@@ -88,12 +91,8 @@ TEST(RedcapDictionary, ReadsTheOneFormAskedFor) {
                                                         "mood,one,slider,Mood,Sad | Happy,,\n"
                                                         "ok,one,yesno,Ok?,,,\n",
                                                "one", "One");
-    std::vector<std::string> summary;
-    for (const FieldDefinition& f : form.fields)
-        summary.push_back(f.name + " " + f.displayType + " " + std::to_string(f.maxLength) +
-                          (f.carriedForward ? " carried" : ""));
-    EXPECT_THAT(summary, ElementsAre("id TEXT 10 carried", "note TEXT 0", "sex LIST 255", "sum TEXT 15",
-                                     "mood COMBOBOX 255", "ok LIST 255"));
+    EXPECT_THAT(summaryOf(form), ElementsAre("id TEXT 10 carried []", "note TEXT 0 []", "sex LIST 255 []",
+                                             "sum TEXT 15 []", "mood COMBOBOX 255 []", "ok LIST 255 []"));
     EXPECT_THAT(form.fields[2].values, ElementsAre("Female", "Male, other"));
     EXPECT_THAT(form.fields[3].values, ElementsAre());
     EXPECT_THAT(form.fields[4].values, ElementsAre("Sad", "Happy"));

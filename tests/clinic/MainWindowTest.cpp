@@ -16,54 +16,41 @@ class MainWindow : public testing::Test, public ClinicWindow {
   protected:
     static constexpr int Description = 1;
     static constexpr int ID = 2;
-
-    void expectTogether(const char* patientID, const char* description) const {
-        EXPECT_TRUE(isNipOpen());
-        EXPECT_EQ(chosen("patients", ID), patientID);
-        EXPECT_THAT(header(), HasSubstr(patientID));
-        EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("García"));
-        EXPECT_EQ(part<QLineEdit>("txtEncounterInfo").text(), description);
-    }
+    using ClinicWindow::click;
 };
 
-TEST_F(MainWindow, ListsANewNipAndChoosesItOnceItIsSaved) {
+TEST_F(MainWindow, ListsANewNipOnceItIsSavedAndARenamedOneAtItsNewPlace) {
     click("patients", "P-0007");
-    const int before = part<QTableView>("encounters").model()->rowCount();
-    press(Qt::Key_N, Qt::ControlModifier);
+    const int before = encounters();
+    ctrl(Qt::Key_N);
     EXPECT_EQ(chosen("encounters", Description), "nothing");
     write("txtEncounterInfo", "Brought a letter");
     part<QComboBox>("pvcEncounterInfo").setCurrentIndex(0);
-    press(Qt::Key_S, Qt::ControlModifier);
+    ctrl(Qt::Key_S);
     EXPECT_FALSE(isNipOpen());
-    EXPECT_EQ(part<QTableView>("encounters").model()->rowCount(), before + 1);
+    EXPECT_EQ(encounters(), before + 1);
     EXPECT_EQ(chosen("encounters", Description), "Brought a letter");
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), "encounters");
-    EXPECT_EQ(
-        number("Select Count(*) From Encounter Where PatientID='P-0007' And Description='Brought a letter'"),
-        1);
-}
+    EXPECT_EQ(focus(), "encounters");
+    EXPECT_EQ(stored("Brought a letter' And PatientID='P-0007"), 1);
 
-TEST_F(MainWindow, FollowsARenamedNipToItsNewPlace) {
     openNewest("P-0007");
     write("txtEncounterInfo", "Moved");
-    auto& date = part<QWidget>("pvdateEncounter");
-    date.setProperty("dateTime", QDateTime(QDate(2020, 1, 2), QTime(8, 0)));
+    part<QWidget>("pvdateEncounter").setProperty("dateTime", QDateTime(QDate(2020, 1, 2), QTime(8, 0)));
     pressSave();
-    const auto& list = part<QTableView>("encounters");
     EXPECT_EQ(chosen("encounters", Description), "Moved");
-    EXPECT_EQ(list.selectionModel()->selectedRows().first().row(), list.model()->rowCount() - 1);
-    EXPECT_EQ(list.model()->index(list.model()->rowCount() - 1, 0).data().toString(), "1/2/2020");
+    EXPECT_EQ(chosen("encounters", 0), "1/2/2020");
+    EXPECT_EQ(part<QTableView>("encounters").selectionModel()->selectedRows().first().row(), before);
 }
 
-TEST_F(MainWindow, KeepsPatientAndPanelTogetherWhenTheUserWantsToKeepUnsavedEntries) {
+TEST_F(MainWindow, KeepsPatientAndPanelTogetherUntilTheUserGivesUnsavedEntriesUp) {
     const std::vector<std::pair<const char*, std::function<void()>>> temptations{
         {"a click on another patient", [&] { click("patients", "P-0002"); }},
         {"a search for another patient",
          [&] {
-             press(Qt::Key_F, Qt::ControlModifier);
+             ctrl(Qt::Key_F);
              type("brien");
              press(Qt::Key_Down);
-             press(Qt::Key_F, Qt::ControlModifier);
+             ctrl(Qt::Key_F);
              press(Qt::Key_Escape);
          }},
         {"another encounter",
@@ -72,8 +59,8 @@ TEST_F(MainWindow, KeepsPatientAndPanelTogetherWhenTheUserWantsToKeepUnsavedEntr
              part<QTableView>("encounters").setFocus();
              press(Qt::Key_Return);
          }},
-        {"a new Nip", [&] { press(Qt::Key_N, Qt::ControlModifier); }},
-        {"closing the Nip", [&] { press(Qt::Key_W, Qt::ControlModifier); }},
+        {"a new Nip", [&] { ctrl(Qt::Key_N); }},
+        {"closing the Nip", [&] { ctrl(Qt::Key_W); }},
         {"closing the window", [&] { EXPECT_FALSE(window->close()); }}};
     openNewest("P-0007");
     write("txtEncounterInfo", "Not yet saved");
@@ -85,20 +72,19 @@ TEST_F(MainWindow, KeepsPatientAndPanelTogetherWhenTheUserWantsToKeepUnsavedEntr
         tempt();
         QTest::qWait(1);
         EXPECT_EQ(user->boxes.size(), 1U);
-        expectTogether("P-0007", "Not yet saved");
+        EXPECT_TRUE(isNipOpen());
+        EXPECT_EQ(chosen("patients", ID), "P-0007");
+        EXPECT_THAT(header(), HasSubstr("P-0007"));
+        EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("García"));
+        EXPECT_EQ(part<QLineEdit>("txtEncounterInfo").text(), "Not yet saved");
         EXPECT_EQ(chosen("encounters", Description), encounter);
     }
-}
-
-TEST_F(MainWindow, MovesOnWhenTheUserGivesUnsavedEntriesUp) {
-    openNewest("P-0007");
-    write("txtEncounterInfo", "Given up");
     user->answers = {Answer::Yes};
     click("patients", "P-0002");
     EXPECT_FALSE(isNipOpen());
     EXPECT_EQ(chosen("patients", ID), "P-0002");
     EXPECT_THAT(header(), HasSubstr("O'Brien, Séamus"));
-    EXPECT_EQ(number("Select Count(*) From Encounter Where Description='Given up'"), 0);
+    EXPECT_EQ(stored("Not yet saved"), 0);
     user->clear();
     openNewest("P-0007");
     write("txtEncounterInfo", "Given up");
@@ -109,7 +95,7 @@ TEST_F(MainWindow, MovesOnWhenTheUserGivesUnsavedEntriesUp) {
 
 TEST_F(MainWindow, SearchesWithoutChangingWhoIsChosen) {
     click("patients", "P-0007");
-    press(Qt::Key_F, Qt::ControlModifier);
+    ctrl(Qt::Key_F);
     type("brien");
     EXPECT_EQ(part<QTableView>("patients").model()->rowCount(), 1);
     EXPECT_EQ(chosen("patients", ID), "nothing");
@@ -118,57 +104,54 @@ TEST_F(MainWindow, SearchesWithoutChangingWhoIsChosen) {
     EXPECT_EQ(chosen("patients", ID), "P-0007");
 }
 
-TEST_F(MainWindow, LetsTheKeyboardGoRoundThePanesAndComeBack) {
+TEST_F(MainWindow, LetsTheKeyboardGoRoundThePanesAndWalkThroughThePatients) {
     openNewest("P-0007");
-    auto& search = part<QLineEdit>("searchPatient");
-    search.setFocus();
-    QStringList round;
-    for (int i = 0; i < 3; ++i) {
+    part<QLineEdit>("searchPatient").setFocus();
+    for (const char* pane : {"encounters", "txtEncounterInfo", "searchPatient"}) {
         press(Qt::Key_F6);
-        round << QApplication::focusWidget()->objectName();
+        EXPECT_EQ(focus(), pane);
     }
-    EXPECT_EQ(round, (QStringList{"encounters", "txtEncounterInfo", "searchPatient"}));
     press(Qt::Key_F6, Qt::ShiftModifier);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtEncounterInfo");
+    EXPECT_EQ(focus(), "txtEncounterInfo");
     part<QAbstractButton>("cmdNipButton(2)").click();
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), "gridNipFields");
+    EXPECT_EQ(focus(), "gridNipFields");
     press(Qt::Key_F6, Qt::ShiftModifier);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtEncounterInfo");
+    EXPECT_EQ(focus(), "txtEncounterInfo");
     press(Qt::Key_F6);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), "gridNipFields");
-}
+    EXPECT_EQ(focus(), "gridNipFields");
 
-TEST_F(MainWindow, HidesTheListsWhileANipIsOpenUntilTheyAreNeeded) {
-    const auto& encounters = part<QTableView>("encounters");
-    press(Qt::Key_F9);
-    EXPECT_TRUE(encounters.isVisible()) << "no Nip is open";
-    openNewest("P-0007");
-    part<QTableView>("encounters").setFocus();
-    press(Qt::Key_F9);
-    EXPECT_FALSE(encounters.isVisible());
-    EXPECT_TRUE(part<QWidget>("nipPanel").isAncestorOf(QApplication::focusWidget()));
-    press(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_TRUE(encounters.isVisible());
-    press(Qt::Key_F9);
-    press(Qt::Key_W, Qt::ControlModifier);
-    EXPECT_TRUE(encounters.isVisible());
-    EXPECT_TRUE(encounters.hasFocus());
-}
-
-TEST_F(MainWindow, LetsTheKeyboardWalkThroughThePatientsWhileANipIsOpen) {
-    openNewest("P-0007");
     part<QTableView>("patients").setFocus();
     press(Qt::Key_Home);
     EXPECT_FALSE(isNipOpen());
     EXPECT_EQ(chosen("patients", ID), "P-0001");
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), "patients");
+    EXPECT_EQ(focus(), "patients");
     press(Qt::Key_Down);
     EXPECT_NE(chosen("patients", ID), "P-0001");
     EXPECT_THAT(header(), HasSubstr(chosen("patients", ID)));
 }
 
-TEST_F(MainWindow, GivesEveryUnderlinedLetterOnce) {
+TEST_F(MainWindow, HidesTheListsWhileANipIsOpenUntilTheyAreNeeded) {
+    auto& list = part<QTableView>("encounters");
+    press(Qt::Key_F9);
+    EXPECT_TRUE(list.isVisible()) << "no Nip is open";
     openNewest("P-0007");
+    list.setFocus();
+    press(Qt::Key_F9);
+    EXPECT_FALSE(list.isVisible());
+    EXPECT_TRUE(part<QWidget>("nipPanel").isAncestorOf(QApplication::focusWidget()));
+    ctrl(Qt::Key_F);
+    EXPECT_TRUE(list.isVisible());
+    press(Qt::Key_F9);
+    ctrl(Qt::Key_W);
+    EXPECT_TRUE(list.isVisible());
+    EXPECT_TRUE(list.hasFocus());
+}
+
+TEST_F(MainWindow, GivesEveryUnderlinedLetterOnceAndFitsItsUsualSizeAtTwiceTheTextSize) {
+    openNewest("P-0005");
+    expectToFitAtTwiceTheTextSize();
+    openNewest("P-0016");
+    expectToFitAtTwiceTheTextSize();
     QStringList letters;
     const auto add = [&](const QString& text) {
         const QKeySequence letter = QKeySequence::mnemonic(text);
@@ -185,33 +168,23 @@ TEST_F(MainWindow, GivesEveryUnderlinedLetterOnce) {
         << letters.join(' ').toStdString();
 }
 
-TEST_F(MainWindow, FitsItsUsualSizeAtTwiceTheTextSizeWhateverTheName) {
-    const QFont usual = QApplication::font();
-    for (int i = 0; i < 5; ++i)
-        press(Qt::Key_Plus, Qt::ControlModifier);
-    for (const char* patient : {"P-0005", "P-0016"}) {
-        openNewest(patient);
-        QTest::qWait(10);
-        EXPECT_LE(window->minimumSizeHint().width(), 1280) << patient;
-        EXPECT_LE(window->minimumSizeHint().height(), 800) << patient;
-    }
-    QApplication::setFont(usual);
-}
-
 TEST_F(MainWindow, KeepsTextSizeAndPlaceForTheNextStart) {
     const QFont usual = QApplication::font();
-    press(Qt::Key_Plus, Qt::ControlModifier);
-    press(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), usual.pointSizeF() * 1.25);
+    const auto expectScale = [&](double scale) {
+        EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), usual.pointSizeF() * scale);
+    };
+    ctrl(Qt::Key_Plus);
+    ctrl(Qt::Key_Plus);
+    expectScale(1.25);
     window->resize(1000, 700);
     EXPECT_TRUE(window->close());
     window.reset();
     QApplication::setFont(usual);
     open();
-    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), usual.pointSizeF() * 1.25);
+    expectScale(1.25);
     EXPECT_EQ(window->size(), QSize(1000, 700));
-    press(Qt::Key_0, Qt::ControlModifier);
-    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), usual.pointSizeF());
+    ctrl(Qt::Key_0);
+    expectScale(1);
 }
 
 } // namespace Korvane::Testing

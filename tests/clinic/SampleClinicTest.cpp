@@ -17,7 +17,6 @@ using Korvane::Variant;
 using Korvane::ado::Connection;
 using Korvane::ado::Recordset;
 using Korvane::Testing::ScratchDatabase;
-using testing::Each;
 using testing::ElementsAre;
 using testing::SizeIs;
 
@@ -31,11 +30,6 @@ std::vector<std::string> column(const std::shared_ptr<Connection>& db, const std
 
 class SampleClinic : public testing::Test {
   protected:
-    std::shared_ptr<Connection> newClinic() {
-        auto db = empty();
-        Clinic::installSample(*db);
-        return db;
-    }
     std::shared_ptr<Connection> empty() {
         const std::string name = "clinic" + std::to_string(databases.size());
         return Korvane::ado::open(
@@ -46,12 +40,17 @@ class SampleClinic : public testing::Test {
     std::vector<std::unique_ptr<ScratchDatabase>> databases;
 };
 
-TEST_F(SampleClinic, HoldsPatientsProvidersAndThreeYearsOfEncounters) {
-    const auto db = newClinic();
+TEST_F(SampleClinic, HoldsTheSamePatientsProvidersAndThreeYearsOfEncountersEveryTime) {
+    const auto db = empty();
+    EXPECT_FALSE(Clinic::isInstalled(*db));
+    Clinic::installTables(*db);
     EXPECT_TRUE(Clinic::isInstalled(*db));
+    const auto patients = [&] { return column(db, "Select PatientID From Patient"); };
+    EXPECT_THAT(patients(), SizeIs(0));
+    Clinic::installSample(*db);
     EXPECT_THAT(column(db, "Select LastName From Patient Where PatientID='P-0002'"), ElementsAre("O'Brien"));
     EXPECT_THAT(column(db, "Select FirstName From Patient Where LastName='李'"), ElementsAre("小龙"));
-    EXPECT_THAT(column(db, "Select PatientID From Patient"), SizeIs(22));
+    EXPECT_THAT(patients(), SizeIs(22));
     const auto encounters = column(db, "Select EncounterID From Encounter Order By EncounterDate");
     EXPECT_THAT(encounters.size(), testing::AllOf(testing::Ge(280u), testing::Le(330u)));
     for (std::size_t i = 0; i < encounters.size(); ++i)
@@ -61,10 +60,21 @@ TEST_F(SampleClinic, HoldsPatientsProvidersAndThreeYearsOfEncounters) {
                 ElementsAre("0"));
     for (const std::string& table : column(db, "Select TableName From DBFieldGroups Where DBFieldGroupID>1"))
         EXPECT_THAT(column(db, "Select EncounterID From " + table), SizeIs(encounters.size())) << table;
+
+    EXPECT_THROW(Clinic::installSample(*db), Korvane::RuntimeError);
+    EXPECT_EQ(db->transactionLevel(), 0);
+    Clinic::installTables(*db);
+    EXPECT_THAT(patients(), SizeIs(22)) << "what is there is left alone";
+    const auto second = empty();
+    Clinic::installSample(*second);
+    for (const char* query : {"Select Description From Encounter Order By EncounterID",
+                              "Select services From NIP_Custom6 Order By EncounterID"})
+        EXPECT_EQ(column(db, query), column(second, query));
 }
 
 TEST_F(SampleClinic, LoadsIntoANipWithValuesFromItsLists) {
-    const auto db = newClinic();
+    const auto db = empty();
+    Clinic::installSample(*db);
     Korvane::cNIP nip;
     ASSERT_TRUE(nip.LoadStructure(db));
     ASSERT_EQ(nip.GroupCount(), 6);
@@ -77,29 +87,6 @@ TEST_F(SampleClinic, LoadsIntoANipWithValuesFromItsLists) {
         EXPECT_THAT(allowed, testing::Contains(Variant(nip.value(2, field).text()))) << field;
     }
     EXPECT_GT(nip.ChoiceListCount(5, 1), 0);
-}
-
-TEST_F(SampleClinic, IsTheSameEveryTime) {
-    const std::string query = "Select Description From Encounter Order By EncounterID";
-    const std::string answers = "Select services From NIP_Custom6 Order By EncounterID";
-    const auto first = newClinic();
-    const auto second = newClinic();
-    EXPECT_EQ(column(first, query), column(second, query));
-    EXPECT_EQ(column(first, answers), column(second, answers));
-}
-
-TEST_F(SampleClinic, LeavesADatabaseThatHoldsOneAsItIs) {
-    const auto db = newClinic();
-    EXPECT_THROW(Clinic::installSample(*db), Korvane::RuntimeError);
-    EXPECT_EQ(db->transactionLevel(), 0);
-    EXPECT_THAT(column(db, "Select PatientID From Patient"), SizeIs(22));
-    Clinic::installTables(*db);
-    EXPECT_THAT(column(db, "Select PatientID From Patient"), SizeIs(22));
-
-    const auto empty = this->empty();
-    EXPECT_FALSE(Clinic::isInstalled(*empty));
-    Clinic::installTables(*empty);
-    EXPECT_TRUE(Clinic::isInstalled(*empty));
 }
 
 } // namespace

@@ -57,8 +57,10 @@ struct Editing {
         QTest::mouseClick(editor.findChild<QPushButton*>(QString("cmdNipChoices(%1)").arg(button)),
                           Qt::LeftButton);
     }
+    void key(Qt::Key key, Qt::KeyboardModifiers with = {}) { QTest::keyClick(&list(), key, with); }
+    int rows() { return list().model()->rowCount(); }
     void retype(const char* text) {
-        QTest::keyClick(&list(), Qt::Key_F2);
+        key(Qt::Key_F2);
         ASSERT_TRUE(box());
         box()->setText(text);
         QTest::keyClick(box(), Qt::Key_Return);
@@ -111,21 +113,19 @@ TEST(ChoiceEditor, AddsWhatAListCanHold) {
     const struct {
         const char* answer;
         const char* shown;
-        bool refused;
-    } cases[] = {
-        {"E", "A [B] C D E", false},        {"", "A [B] C D", false},   {" \t ", "A [B] C D", false},
-        {"  E F ", "A [B] C D E F", false}, {"E|F", "A [B] C D", true}, {" b ", "A [B] C D", true},
-        {"E\r\nF", "A [B] C D E F", false},
-    };
+        bool refused = false;
+    } cases[] = {{"E", "A [B] C D E"},        {"", "A [B] C D"},          {" \t ", "A [B] C D"},
+                 {"  E F ", "A [B] C D E F"}, {"E|F", "A [B] C D", true}, {" b ", "A [B] C D", true},
+                 {"E\r\nF", "A [B] C D E F"}};
     for (const auto& c : cases) {
+        SCOPED_TRACE(c.answer);
         Editing e;
         e.user->texts = {c.answer};
         e.press(0);
-        ASSERT_EQ(e.user->inputs.size(), 1u);
-        EXPECT_EQ(e.user->inputs[0], (ShownInput{"What is the new item?", ""}));
-        EXPECT_EQ(shown(e.editor), c.shown) << c.answer;
-        EXPECT_EQ(e.user->boxes.size(), c.refused ? 1u : 0u) << c.answer;
-        EXPECT_EQ(e.edits, shown(e.editor) == "A [B] C D" ? 0 : 1) << c.answer;
+        EXPECT_EQ(e.user->inputs, std::vector{(ShownInput{"What is the new item?", ""})});
+        EXPECT_EQ(shown(e.editor), c.shown);
+        EXPECT_EQ(e.user->boxes.size(), c.refused ? 1u : 0u);
+        EXPECT_EQ(e.edits, shown(e.editor) == "A [B] C D" ? 0 : 1);
     }
 }
 
@@ -133,29 +133,24 @@ TEST(ChoiceEditor, PutsADraggedChoiceBeforeTheMark) {
     const struct {
         int from;
         int target; // 4: the empty place behind the last, 5: the room below it
-        Qt::DropAction effect;
         const char* shown;
-    } cases[] = {
-        {0, 2, Qt::MoveAction, "[B] A C D"},   {3, 0, Qt::MoveAction, "D A [B] C"},
-        {1, 4, Qt::MoveAction, "A C D [B]"},   {1, 5, Qt::MoveAction, "A C D [B]"},
-        {1, 1, Qt::IgnoreAction, "A [B] C D"}, {1, 2, Qt::MoveAction, "A [B] C D"},
-    };
+        const char* current = "A";
+    } cases[] = {{0, 2, "[B] A C D"},      {3, 0, "D A [B] C", "D"}, {1, 4, "A C D [B]", "B"},
+                 {1, 5, "A C D [B]", "B"}, {1, 1, "A [B] C D", "B"}, {1, 2, "A [B] C D", "B"}};
     for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.from << " to " << c.target);
         Editing e;
-        const std::string moved = e.editor.choices().at(c.from).toStdString();
         {
             Drag drag(e, c.from);
-            EXPECT_EQ(e.list().model()->rowCount(), 5) << "a place behind the last";
+            EXPECT_EQ(e.rows(), 5) << "a place behind the last";
             EXPECT_EQ(shown(e.editor), "A [B] C D") << "which is no choice";
             const QPoint point = c.target < 5 ? e.at(c.target) : e.list().viewport()->rect().bottomLeft();
-            EXPECT_EQ(drag.over(point), c.effect) << c.from << " to " << c.target;
+            EXPECT_EQ(drag.over(point), c.from == c.target ? Qt::IgnoreAction : Qt::MoveAction);
             drag.drop(point);
         }
-        EXPECT_EQ(shown(e.editor), c.shown) << c.from << " to " << c.target;
-        EXPECT_EQ(e.list().model()->rowCount(), 4);
-        EXPECT_EQ(e.list().currentIndex().data().toString().toStdString(),
-                  c.effect == Qt::MoveAction ? moved : "B")
-            << "the one that was moved is the current one";
+        EXPECT_EQ(shown(e.editor), c.shown);
+        EXPECT_EQ(e.rows(), 4);
+        EXPECT_EQ(e.list().currentIndex().data(), c.current) << "the one that was moved is the current one";
         EXPECT_EQ(e.edits, shown(e.editor) == "A [B] C D" ? 0 : 1);
     }
 }
@@ -174,16 +169,14 @@ TEST(ChoiceEditor, LeavesTheListAsItWasAfterADragThatIsGivenUp) {
         drag.over(e.at(3));
     }
     EXPECT_EQ(picture(e.list()), before);
-    Editing other;
     {
+        Editing other;
         Drag foreign(other, 0);
         QMimeData text;
         text.setText("A");
         QDropEvent drop(e.at(2), Qt::CopyAction, &text, {}, {});
         QCoreApplication::sendEvent(e.list().viewport(), &drop);
         EXPECT_FALSE(drop.isAccepted());
-    }
-    {
         Drag late(e, 0);
         e.editor.show({"X", "Y"}, -1);
         late.drop(e.at(1));
@@ -193,7 +186,7 @@ TEST(ChoiceEditor, LeavesTheListAsItWasAfterADragThatIsGivenUp) {
 }
 
 TEST(ChoiceEditor, LetsACopyWaitForATextOfItsOwn) {
-    for (const char* text : {"", "B", "B2"}) {
+    for (const QString text : {"", "B", "B2"}) {
         Editing e;
         {
             Drag drag(e, 1);
@@ -204,13 +197,13 @@ TEST(ChoiceEditor, LetsACopyWaitForATextOfItsOwn) {
         EXPECT_EQ(e.box()->text(), "B");
         EXPECT_EQ(shown(e.editor), "A [B] C D") << "it is none yet";
         e.box()->setText(text);
-        const bool differs = QString(text) == "B2";
+        const bool differs = text == "B2";
         EXPECT_EQ(e.editor.takeEdit(), differs);
         EXPECT_EQ(e.user->boxes.size(), differs ? 0u : 1u);
         if (e.box()) QTest::keyClick(e.box(), Qt::Key_Escape);
         EXPECT_EQ(shown(e.editor), differs ? "B2 A [B] C D" : "A [B] C D");
         EXPECT_EQ(e.edits, differs ? 1 : 0);
-        EXPECT_EQ(e.list().model()->rowCount(), differs ? 5 : 4);
+        EXPECT_EQ(e.rows(), differs ? 5 : 4);
     }
 }
 
@@ -221,48 +214,47 @@ TEST(ChoiceEditor, ScrollsWhileAChoiceIsHeldAtAnEdge) {
         many << QString("Choice %1").arg(i);
     e.editor.show(many, -1);
     Drag drag(e, 0);
-    QScrollBar* bar = e.list().verticalScrollBar();
-    drag.over({20, e.list().viewport()->height() / 2});
+    const QScrollBar& bar = *e.list().verticalScrollBar();
+    const int height = e.list().viewport()->height();
+    drag.over({20, height / 2});
     QTest::qWait(200);
-    EXPECT_EQ(bar->value(), 0);
-    drag.over({20, e.list().viewport()->height() - 2});
-    EXPECT_TRUE(QTest::qWaitFor([bar] { return bar->value() == bar->maximum(); }, 10000));
+    EXPECT_EQ(bar.value(), 0);
+    drag.over({20, height - 2});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() == bar.maximum(); }, 10000));
     drag.over({20, 2});
-    EXPECT_TRUE(QTest::qWaitFor([bar] { return bar->value() < bar->maximum(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() < bar.maximum(); }));
     drag.leave();
-    const int left = bar->value();
+    const int left = bar.value();
     QTest::qWait(200);
-    EXPECT_EQ(bar->value(), left);
+    EXPECT_EQ(bar.value(), left);
 }
 
 TEST(ChoiceEditor, IsWorkedByKeysAndButtons) {
     Editing e;
-    const auto key = [&](Qt::Key k, Qt::KeyboardModifiers with = {}) { QTest::keyClick(&e.list(), k, with); };
-    key(Qt::Key_Home);
-    key(Qt::Key_Up, Qt::AltModifier);
-    EXPECT_EQ(e.edits, 0) << "it is the first";
-    key(Qt::Key_Down, Qt::AltModifier);
-    key(Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(shown(e.editor), "[B] C A D");
-    key(Qt::Key_Space);
-    EXPECT_EQ(shown(e.editor), "B C [A] D") << "one default at most";
-    key(Qt::Key_Space);
-    EXPECT_EQ(shown(e.editor), "B C A D") << "and none again";
-    EXPECT_EQ(e.edits, 4);
-    key(Qt::Key_Delete);
-    EXPECT_EQ(shown(e.editor), "B C D");
-    e.press(1);
-    EXPECT_EQ(shown(e.editor), "B C") << "the next one is the current one then";
-    e.press(2);
-    EXPECT_EQ(shown(e.editor), "C B");
-    e.press(3);
-    EXPECT_EQ(shown(e.editor), "B C");
+    const auto key = [&](Qt::Key k, Qt::KeyboardModifiers with = {}) { return [=, &e] { e.key(k, with); }; };
+    const auto button = [&](int number) { return [=, &e] { e.press(number); }; };
+    const auto alt = Qt::AltModifier;
+    const std::tuple<std::function<void()>, const char*, int> steps[] = {
+        {key(Qt::Key_Home), "A [B] C D", 0},
+        {key(Qt::Key_Up, alt), "A [B] C D", 0}, // it is the first
+        {key(Qt::Key_Down, alt), "[B] A C D", 1},
+        {key(Qt::Key_Down, alt), "[B] C A D", 2},
+        {key(Qt::Key_Space), "B C [A] D", 3}, // one default at most
+        {key(Qt::Key_Space), "B C A D", 4},   // and none again
+        {key(Qt::Key_Delete), "B C D", 5},
+        {button(1), "B C", 6}, // the next one is the current one then
+        {button(2), "C B", 7},
+        {button(3), "B C", 8},
+        {key(Qt::Key_Delete), "B", 9},
+        {key(Qt::Key_Delete), "", 10},
+        {key(Qt::Key_Delete), "", 10},
+    };
+    for (const auto& [act, expected, edits] : steps) {
+        act();
+        EXPECT_EQ(shown(e.editor), expected);
+        EXPECT_EQ(e.edits, edits) << expected;
+    }
     EXPECT_TRUE(e.list().hasFocus()) << "not on a button that is no longer enabled";
-    key(Qt::Key_Delete);
-    key(Qt::Key_Delete);
-    key(Qt::Key_Delete);
-    EXPECT_EQ(shown(e.editor), "");
-    EXPECT_EQ(e.edits, 10);
 }
 
 TEST(ChoiceEditor, EditsAChoiceInPlaceAndKeepsARefusedTextInItsBox) {
@@ -270,12 +262,11 @@ TEST(ChoiceEditor, EditsAChoiceInPlaceAndKeepsARefusedTextInItsBox) {
     e.editor.show({"A", "B ", "b", "x\ny"}, 1);
     e.choose(1);
     e.retype("B ");
-    EXPECT_EQ(e.editor.choices(), (QStringList{"A", "B ", "b", "x\ny"})) << "as it was stored";
     e.choose(3);
-    QTest::keyClick(&e.list(), Qt::Key_F2);
+    e.key(Qt::Key_F2);
     QTest::keyClick(e.box(), Qt::Key_Return);
     QCoreApplication::processEvents();
-    EXPECT_EQ(e.editor.choices().last(), "x\ny");
+    EXPECT_EQ(e.editor.choices(), (QStringList{"A", "B ", "b", "x\ny"})) << "as it was stored";
     EXPECT_EQ(e.edits, 0);
     e.choose(1);
     e.retype(" Best ");
@@ -283,29 +274,32 @@ TEST(ChoiceEditor, EditsAChoiceInPlaceAndKeepsARefusedTextInItsBox) {
     EXPECT_EQ(e.editor.selected(), 1);
     e.user->whenShown = [&e] { e.list().setFocus(); };
     for (const char* refused : {"", "a", "A|B"}) {
+        SCOPED_TRACE(refused);
+        const auto expectBox = [&] {
+            ASSERT_TRUE(e.box());
+            EXPECT_TRUE(e.box()->hasFocus()) << "in the box that is open";
+            EXPECT_EQ(e.box()->text(), refused);
+        };
         e.user->clear();
         e.retype(refused);
-        EXPECT_EQ(e.user->boxes.size(), 1u) << refused;
-        ASSERT_TRUE(e.box()) << refused;
-        EXPECT_TRUE(e.box()->hasFocus());
-        EXPECT_EQ(e.box()->text(), refused);
+        EXPECT_EQ(e.user->boxes.size(), 1u);
+        expectBox();
         e.choose(0);
         EXPECT_FALSE(e.editor.takeEdit());
         e.list().setFocus();
         e.choose(1);
-        QTest::keyClick(&e.list(), Qt::Key_F2);
-        ASSERT_TRUE(e.box());
-        EXPECT_TRUE(e.box()->hasFocus()) << "back in the box that is open";
+        e.key(Qt::Key_F2);
+        expectBox();
         QTest::keyClick(e.box(), Qt::Key_Escape);
         EXPECT_TRUE(e.editor.takeEdit());
         e.choose(1);
     }
     EXPECT_EQ(e.edits, 1);
-    QTest::keyClick(&e.list(), Qt::Key_F2);
+    e.key(Qt::Key_F2);
     e.box()->setText("Better");
     e.press(3);
     EXPECT_EQ(e.editor.choices(), (QStringList{"A", "b", "Better", "x\ny"})) << "taken before the move";
-    QTest::keyClick(&e.list(), Qt::Key_F2);
+    e.key(Qt::Key_F2);
     e.box()->setText("A|B");
     e.editor.show({"X"}, -1);
     EXPECT_TRUE(e.editor.takeEdit()) << "the edit ended with what it was of";

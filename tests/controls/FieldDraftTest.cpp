@@ -3,19 +3,11 @@
 
 #include <gmock/gmock.h>
 
-#include <functional>
-
 namespace Korvane {
 
 using testing::HasSubstr;
 
 namespace {
-
-struct Case {
-    std::function<void(FieldDraft&)> change;
-    FieldDraft::Input input = FieldDraft::Name;
-    const char* message = ""; ///< a part of it; empty: nothing is wrong
-};
 
 FieldDraft listField(const char* type, const char* width) {
     FieldDraft draft;
@@ -30,51 +22,51 @@ FieldDraft listField(const char* type, const char* width) {
 
 TEST(FieldDraft, SaysWhatIsWrongAndWhere) {
     const StructureLimits limits{.groupName = 10, .fieldName = 64, .caption = 20, .choice = 5};
-    const auto width = [](const char* text) { return [=](FieldDraft& d) { d.width = text; }; };
-    const auto row = [](const char* text) { return [=](FieldDraft& d) { d.row = text; }; };
-    const auto name = [](const QString& text) { return [=](FieldDraft& d) { d.name = text; }; };
-    const auto choices = [](const QStringList& texts) { return [=](FieldDraft& d) { d.choices = texts; }; };
     QStringList many;
     for (int i = 0; i < 1000; ++i)
         many << QString::number(i);
-    const Case cases[] = {
-        {width("1")},
-        {width(" 32767 ")},
-        {width("0"), FieldDraft::Width, "1 to 32767"},
-        {width("-1"), FieldDraft::Width, "1 to 32767"},
-        {width("40000"), FieldDraft::Width, "1 to 32767"},
-        {width("99999999999999999999"), FieldDraft::Width, "1 to 32767"},
-        {width("ten"), FieldDraft::Width, "1 to 32767"},
-        {width("1.5"), FieldDraft::Width, "1 to 32767"},
-        {width(""), FieldDraft::Width, "1 to 32767"},
-        {row("")},
-        {row("9999999999999")},
-        {row("0"), FieldDraft::Row, "whole number from 1"},
-        {row("last"), FieldDraft::Row, "whole number from 1"},
-        {name(QString(63, u'a'))},
-        {name(QString(64, u'a')), FieldDraft::Name, "63 letters"},
-        {name(QString(32, u'ö')), FieldDraft::Name, "63 letters"},
-        {name(QString(300, u'a')), FieldDraft::Name, "63 letters"},
-        {[](FieldDraft& d) { d.caption = QString(20, u'ö'); }},
-        {[](FieldDraft& d) { d.caption = QString(21, u'c'); }, FieldDraft::Caption, "20 characters"},
-        {choices(many)},
-        {choices({"a", "b|c"}), FieldDraft::Choices, "\"|\""},
-        {choices({"a", ""}), FieldDraft::Choices, "empty"},
-        {choices({"a", "b", "a"}), FieldDraft::Choices, "the same"},
-        {choices({"toolong"}), FieldDraft::Choices, "5 characters"},
+    using Input = FieldDraft::Input;
+    const auto put = [](FieldDraft& draft, Input input, const QString& text) {
+        (input == Input::Width     ? draft.width
+         : input == Input::Row     ? draft.row
+         : input == Input::Caption ? draft.caption
+                                   : draft.name) = text;
     };
-    for (const Case& c : cases) {
-        FieldDraft draft;
-        draft.name = "Pulse";
-        c.change(draft);
-        SCOPED_TRACE(
-            utf8(draft.name + "," + draft.width + "," + draft.row + "," + draft.choices.join('/').left(9)));
-        const auto checked = definitionOf(draft, {}, limits);
-        const auto* fault = std::get_if<DraftFault>(&checked);
-        EXPECT_EQ(fault != nullptr, *c.message != 0);
-        if (!fault) continue;
-        EXPECT_EQ(fault->input, c.input);
-        EXPECT_THAT(utf8(fault->message), HasSubstr(c.message));
+    const struct {
+        Input input;
+        QStringList texts;   ///< choices: parted by slashes
+        const char* message; ///< a part of it; empty: nothing is wrong
+    } cases[] = {
+        {Input::Width, {"1", " 32767 "}, ""},
+        {Input::Width, {"0", "-1", "40000", "99999999999999999999", "ten", "1.5", ""}, "1 to 32767"},
+        {Input::Row, {"", "9999999999999"}, ""},
+        {Input::Row, {"0", "last"}, "whole number from 1"},
+        {Input::Name, {QString(63, u'a')}, ""},
+        {Input::Name, {QString(64, u'a'), QString(32, u'ö'), QString(300, u'a')}, "63 letters"},
+        {Input::Caption, {QString(20, u'ö')}, ""},
+        {Input::Caption, {QString(21, u'c')}, "20 characters"},
+        {Input::Choices, {many.join('/')}, ""},
+        {Input::Choices, {"a/b|c"}, "\"|\""},
+        {Input::Choices, {"a/"}, "empty"},
+        {Input::Choices, {"a/b/a"}, "the same"},
+        {Input::Choices, {"toolong"}, "5 characters"},
+    };
+    for (const auto& c : cases) {
+        for (const QString& text : c.texts) {
+            SCOPED_TRACE(utf8(text));
+            FieldDraft draft;
+            draft.name = "Pulse";
+            if (c.input == Input::Choices)
+                draft.choices = text.split('/');
+            else
+                put(draft, c.input, text);
+            const auto checked = definitionOf(draft, {}, limits);
+            const auto* fault = std::get_if<DraftFault>(&checked);
+            EXPECT_EQ(fault != nullptr, *c.message != 0);
+            if (!fault) continue;
+            EXPECT_EQ(fault->input, c.input);
+            EXPECT_THAT(utf8(fault->message), HasSubstr(c.message));
+        }
     }
 }
 
