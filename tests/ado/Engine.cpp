@@ -2,6 +2,17 @@
 
 #include "support/ScratchDir.h"
 #include "support/ScratchSchema.h"
+#ifdef KORVANE_HAS_POSTGRES
+#include "support/NativeHandle.h"
+
+#include <korvane/ado/postgres/Error.h>
+#include <korvane/ado/postgres/PostgresConnection.h>
+#endif
+#include <korvane/ado/sqlite/SqliteConnection.h>
+
+#include <sqlite3.h>
+
+#include <optional>
 
 namespace Korvane::ado::Testing {
 
@@ -24,7 +35,25 @@ namespace {
 
 class SqliteEngine : public Engine {
   public:
+    ~SqliteEngine() override { EXPECT_EQ(sqlite3_close(mHandle), SQLITE_OK); } // no statement may be left
+
     std::shared_ptr<Connection> connect() override { return open("sqlite:" + mDir.file("test.db")); }
+
+    std::string foreign(const std::string& statements) override {
+        std::optional<std::string> value;
+        const auto take = [](void* to, int, char** cells, char**) {
+            auto& first = *static_cast<std::optional<std::string>*>(to);
+            if (!first) first = cells[0] ? cells[0] : "";
+            return 0;
+        };
+        EXPECT_EQ(sqlite3_exec(handle(), statements.c_str(), take, &value, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(mHandle);
+        return value.value_or("");
+    }
+    std::shared_ptr<Connection> lend() override { return sqlite::adopt(handle()); }
+    std::string codeOf(const RuntimeError& error) const override {
+        return std::to_string(error.NativeCode());
+    }
 
     std::string declaration(DataType type, int size) const override {
         switch (type) {
@@ -40,12 +69,25 @@ class SqliteEngine : public Engine {
     }
 
   private:
+    sqlite3* handle() {
+        if (!mHandle) sqlite3_open(mDir.file("test.db").c_str(), &mHandle);
+        return mHandle;
+    }
+
     Korvane::Testing::ScratchDir mDir;
+    sqlite3* mHandle = nullptr;
 };
 
+#ifdef KORVANE_HAS_POSTGRES
 class PostgresEngine : public Engine {
   public:
     std::shared_ptr<Connection> connect() override { return open(mSchema.address()); }
+    std::string foreign(const std::string& statements) override { return mHandle.value(statements); }
+    std::shared_ptr<Connection> lend() override { return postgres::adopt(mHandle.get()); }
+    std::string codeOf(const RuntimeError& error) const override {
+        return postgres::sqlState(error.NativeCode());
+    }
+    std::string schema() const override { return mSchema.name(); }
 
     std::string declaration(DataType type, int size) const override {
         switch (type) {
@@ -67,11 +109,15 @@ class PostgresEngine : public Engine {
 
   private:
     Korvane::Testing::ScratchSchema mSchema;
+    Korvane::Testing::NativeHandle mHandle{mSchema.address()};
 };
+#endif
 
 std::unique_ptr<Engine> postgresEngine() {
-    if (!Korvane::Testing::ScratchSchema::hasServer()) return nullptr;
-    return std::make_unique<PostgresEngine>();
+#ifdef KORVANE_HAS_POSTGRES
+    if (Korvane::Testing::ScratchSchema::hasServer()) return std::make_unique<PostgresEngine>();
+#endif
+    return nullptr;
 }
 
 } // namespace
@@ -110,25 +156,6 @@ std::string OnEveryEngine::one(std::string_view statement) {
     if (rs->Eof()) return "(none)";
     const Variant value = rs->Value(0);
     return value.isNull() ? "(null)" : value.text();
-}
-
-int errorOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
-RuntimeError raised(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error;
-    }
-    ADD_FAILURE() << "no error";
-    return RuntimeError(0, "");
 }
 
 std::string one(const std::shared_ptr<Connection>& db, std::string_view statement) {

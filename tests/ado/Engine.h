@@ -1,7 +1,8 @@
 #pragma once
 
+#include "support/Errors.h"
+
 #include <korvane/ado/Recordset.h>
-#include <korvane/runtime/RuntimeError.h>
 
 #include <gtest/gtest.h>
 
@@ -22,6 +23,16 @@ class Engine {
 
     /// A connection to the engine's test database, which is empty at first. Every call opens another one.
     virtual std::shared_ptr<Connection> connect() = 0;
+
+    /// Runs statements by a handle of the engine's own library, as another program would; the first value
+    /// that the last of them gives, if it gives any.
+    virtual std::string foreign(const std::string& statements) = 0;
+    /// A connection to which that handle is lent.
+    virtual std::shared_ptr<Connection> lend() = 0;
+    /// The engine's code of a failure as its manual has it.
+    virtual std::string codeOf(const RuntimeError& error) const = 0;
+    /// The schema in which the tables are; empty where there are none.
+    virtual std::string schema() const { return {}; }
 
     /// How a column of that type is declared; here what every engine takes.
     virtual std::string declaration(DataType type, int size = 0) const;
@@ -65,10 +76,8 @@ class OnEveryEngine : public testing::TestWithParam<EngineChoice> {
     std::shared_ptr<Connection> mDb;
 };
 
-/// The number of the RuntimeError that an action raises; 0 when it raises none.
-int errorOf(const std::function<void()>& action);
-/// The RuntimeError that an action raises; a failure of the test when it raises none.
-RuntimeError raised(const std::function<void()>& action);
+using Korvane::Testing::errorOf;
+using Korvane::Testing::raised;
 /// The first value of the first row, as text; empty for null and "(none)" when there is no row.
 std::string one(const std::shared_ptr<Connection>& db, std::string_view statement);
 

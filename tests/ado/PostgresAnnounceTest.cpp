@@ -1,8 +1,7 @@
 #include <korvane/ado/postgres/PostgresConnection.h>
 
 #include "ado/Engine.h"
-#include "support/NativeHandle.h"
-#include "support/ScratchSchema.h"
+#include "support/ServerTest.h"
 
 #include <korvane/ado/Transaction.h>
 
@@ -15,18 +14,14 @@
 namespace Korvane::ado::Testing {
 
 using Korvane::Testing::NativeHandle;
-using Korvane::Testing::ScratchSchema;
 
 /// Twenty tables of groups, and a connection whose round trips are counted.
-class Announced : public testing::Test {
+class Announced : public Korvane::Testing::ServerTest {
   protected:
-    void SetUp() override {
-        if (!ScratchSchema::hasServer()) GTEST_SKIP() << ScratchSchema::noServer;
-        mSchema = std::make_unique<ScratchSchema>();
-        mHandle = std::make_unique<NativeHandle>(mSchema->address());
+    void prepare() override {
+        mHandle.emplace(mSchema->address());
         for (int group = 1; group <= groups; ++group)
-            mHandle->run(
-                ("create table " + table(group) + " (ID Integer Primary Key, Value SmallInt)").c_str());
+            mHandle->run("create table " + table(group) + " (ID Integer Primary Key, Value SmallInt)");
         mDb = postgres::adopt(mHandle->get());
         mTrace = std::tmpfile();
         PQtrace(mHandle->get(), mTrace);
@@ -97,8 +92,7 @@ class Announced : public testing::Test {
     }
 
     static constexpr int groups = 20;
-    std::unique_ptr<ScratchSchema> mSchema;
-    std::unique_ptr<NativeHandle> mHandle;
+    std::optional<NativeHandle> mHandle;
     std::shared_ptr<Connection> mDb;
     std::FILE* mTrace = nullptr;
     int mSyncs = 0;

@@ -1,38 +1,22 @@
 #include <korvane/ado/Catalog.h>
 
 #include "ado/Engine.h"
-#include "support/NativeHandle.h"
-#include "support/ScratchSchema.h"
+#include "support/ServerTest.h"
 
 #include <gmock/gmock.h>
 
-#include <optional>
-
 namespace Korvane::ado::Testing {
 
-using Korvane::Testing::NativeHandle;
 using Korvane::Testing::ScratchSchema;
 using testing::HasSubstr;
 
-class PostgresCatalog : public testing::Test {
-  protected:
-    void SetUp() override {
-        if (!ScratchSchema::hasServer()) GTEST_SKIP() << ScratchSchema::noServer;
-        mSchema.emplace();
-        mForeign.emplace(mSchema->address());
-        mDb = open(mSchema->address());
-    }
-
-    std::optional<ScratchSchema> mSchema;
-    std::optional<NativeHandle> mForeign;
-    std::shared_ptr<Connection> mDb;
-};
+class PostgresCatalog : public Korvane::Testing::SharedServerTest {};
 
 TEST_F(PostgresCatalog, MakesTablesInTheCurrentSchemaAndFindsThemOnTheSearchPath) {
     ScratchSchema later;
-    mForeign->run("create table " + later.name() + ".Shared (a integer)");
-    mForeign->run("create table " + later.name() + ".\"Both\" (a integer)");
-    mForeign->run("create table \"Both\" (b integer)");
+    mOther->run("create table " + later.name() + ".Shared (a integer)");
+    mOther->run("create table " + later.name() + ".\"Both\" (a integer)");
+    mOther->run("create table \"Both\" (b integer)");
     EXPECT_EQ(Catalog(mDb).Tables().Count(), 1);
     mDb->Execute("Set search_path To " + mSchema->name() + "," + later.name());
     const Catalog catalog(mDb);
@@ -44,21 +28,27 @@ TEST_F(PostgresCatalog, MakesTablesInTheCurrentSchemaAndFindsThemOnTheSearchPath
     Table made("Made");
     made.Columns().Append(Column("A"));
     catalog.Tables().Append(made);
-    EXPECT_EQ(mForeign->value("select count(\"A\") from " + mSchema->name() + ".\"Made\""), "0");
+    EXPECT_EQ(mOther->value("select count(\"A\") from " + mSchema->name() + ".\"Made\""), "0");
     catalog.Tables().Item("Shared").Columns().Append(Column("C"));
-    EXPECT_EQ(mForeign->value("select count(\"C\") from " + later.name() + ".shared"), "0");
+    EXPECT_EQ(mOther->value("select count(\"C\") from " + later.name() + ".shared"), "0");
 }
 
 TEST_F(PostgresCatalog, TellsNamesApartThatOthersMadeAlike) {
-    mForeign->run("create table alike (\"pulse\" integer, \"Pulse\" integer)");
-    mForeign->run("create table \"ALIKE\" (b integer)");
-    mForeign->run("create view \"Seen\" as select pulse from alike");
+    mOther->run("create table alike (\"pulse\" integer, \"Pulse\" integer)");
+    mOther->run("create table \"ALIKE\" (b integer)");
+    mOther->run("create view \"Seen\" as select pulse from alike");
     const Catalog catalog(mDb);
     EXPECT_EQ(catalog.Tables().Item("Alike").Name(), "alike");
     EXPECT_EQ(catalog.Tables().Item("ALIKE").Name(), "ALIKE");
+    mOther->run("insert into alike values (1, 2)");
+    const auto rs = Recordset::create();
+    rs->Open("Select [pulse],[Pulse] From Alike", mDb);
+    EXPECT_EQ(rs->Value("Pulse").text() + rs->Value("pulse").text(), "21");
+    rs->Close();
+    mOther->run("delete from alike");
     const Table table = catalog.Tables().Item("alike");
     table.Columns().Rename("Pulse", "Rate");
-    EXPECT_EQ(mForeign->value("select count(pulse)+count(\"Rate\") from alike"), "0");
+    EXPECT_EQ(mOther->value("select count(pulse)+count(\"Rate\") from alike"), "0");
     Table view("SEEN");
     view.Columns().Append(Column("A"));
     EXPECT_THAT(raised([&] { catalog.Tables().Append(view); }).Description(), HasSubstr("a view \"Seen\""));
@@ -67,9 +57,9 @@ TEST_F(PostgresCatalog, TellsNamesApartThatOthersMadeAlike) {
 }
 
 TEST_F(PostgresCatalog, ChangesNoRowForANewColumnAWiderOneOrANewName) {
-    mForeign->run("create table big (id integer primary key, name varchar(10), code varchar(5) unique)");
-    mForeign->run("insert into big select n, 'n', n from generate_series(1, 1000) n");
-    const auto storage = [&] { return mForeign->value("select pg_relation_filenode('big')"); };
+    mOther->run("create table big (id integer primary key, name varchar(10), code varchar(5) unique)");
+    mOther->run("insert into big select n, 'n', n from generate_series(1, 1000) n");
+    const auto storage = [&] { return mOther->value("select pg_relation_filenode('big')"); };
     const std::string before = storage();
     const Table table = Catalog(mDb).Tables().Item("Big");
     table.Columns().Append(Column("Note", DataType::LongVarWChar));

@@ -1,21 +1,15 @@
 #include <korvane/ado/postgres/PostgresConnection.h>
 
 #include "ado/Engine.h"
-#include "support/NativeHandle.h"
-#include "support/ScratchSchema.h"
+#include "support/ServerTest.h"
 
 namespace Korvane::ado::Testing {
 
-using Korvane::Testing::NativeHandle;
-using Korvane::Testing::ScratchSchema;
-
 /// A handle that is lent with settings of its owner's.
-class PostgresSettings : public testing::Test {
+class PostgresSettings : public Korvane::Testing::ServerTest {
   protected:
-    void SetUp() override {
-        if (!ScratchSchema::hasServer()) GTEST_SKIP() << ScratchSchema::noServer;
-        mSchema = std::make_unique<ScratchSchema>();
-        mHandle = std::make_unique<NativeHandle>(mSchema->address("client_encoding=LATIN1"));
+    void prepare() override {
+        mHandle.emplace(mSchema->address("client_encoding=LATIN1"));
         mHandle->run("set datestyle to 'SQL, DMY'; set extra_float_digits to -10;"
                      "set standard_conforming_strings to off; set statement_timeout to 5000");
         mHandle->run(
@@ -36,8 +30,7 @@ class PostgresSettings : public testing::Test {
     }
 
     static constexpr const char* owners = "LATIN1 SQL, DMY -10 off 5s";
-    std::unique_ptr<ScratchSchema> mSchema;
-    std::unique_ptr<NativeHandle> mHandle;
+    std::optional<Korvane::Testing::NativeHandle> mHandle;
 };
 
 TEST_F(PostgresSettings, HoldWhateverTheOwnerRollsBack) {
@@ -59,6 +52,7 @@ TEST_F(PostgresSettings, HoldWhateverTheOwnerRollsBack) {
 }
 
 TEST_F(PostgresSettings, AreTheOwnersAgainInTheEnd) {
+    mHandle->run("prepare theirs as select 7");
     auto db = postgres::adopt(mHandle->get());
     postgres::setLimits(*db, {.statement = std::chrono::milliseconds(777)});
     expectToHold(db);
@@ -66,6 +60,10 @@ TEST_F(PostgresSettings, AreTheOwnersAgainInTheEnd) {
     db->Close();
     mHandle->run("commit");
     EXPECT_EQ(ofTheOwner(), owners);
+    EXPECT_EQ(mHandle->value("select substr(name,1,1) from T"), "\xE9");
+    EXPECT_EQ(mHandle->value("execute theirs"), "7");
+    EXPECT_EQ(mHandle->value("select count(*) from pg_prepared_statements"), "1");
+    EXPECT_EQ(errorOf([&] { postgres::adopt(nullptr); }), RuntimeError::InvalidConnection);
     // In a transaction that has failed nothing could be put back.
     db = postgres::adopt(mHandle->get());
     mHandle->run("begin");
@@ -75,33 +73,6 @@ TEST_F(PostgresSettings, AreTheOwnersAgainInTheEnd) {
     mHandle->run("rollback");
     db->Close();
     EXPECT_EQ(ofTheOwner(), owners);
-}
-
-TEST_F(PostgresSettings, AndWhatWasPreparedMayBeDiscardedInATransactionOfTheOwners) {
-    const auto db = postgres::adopt(mHandle->get());
-    EXPECT_EQ(one(db, "Select Count(*) From T Where A=1"), "0");
-    db->Execute("Alter Table T Add Column B Integer"); // what was prepared is to be given up
-    mHandle->run("discard all");
-    mHandle->run("begin");
-    mHandle->run("insert into T (A) values (1)");
-    EXPECT_EQ(one(db, "Select Count(*) From T Where A=1"), "1");
-    db->Execute("Insert into T (A) values (2)");
-    mHandle->run("commit");
-    EXPECT_EQ(mHandle->value("select count(*) from T"), "2");
-}
-
-TEST_F(PostgresSettings, AndTransactionsMayBeBegunByAStatement) {
-    const auto db = open(mSchema->address());
-    db->Execute("Begin");
-    db->Execute("Insert into T (A) values (1)");
-    db->Execute("Savepoint Here");
-    db->Execute("Insert into T (A) values (2)");
-    db->Execute("Rollback To Savepoint Here");
-    db->Execute("Commit");
-    db->Execute("Begin");
-    db->Execute("Delete From T");
-    db->Execute("Rollback");
-    EXPECT_EQ(one(db, "Select Sum(A) From T"), "1");
 }
 
 } // namespace Korvane::ado::Testing

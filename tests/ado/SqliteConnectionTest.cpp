@@ -28,18 +28,6 @@ class SqliteFile : public testing::Test {
     Korvane::Testing::ScratchDir mDir;
 };
 
-TEST_F(SqliteFile, IsOpenedForAClinicOnALocalDisk) {
-    const auto db = connect();
-    EXPECT_EQ(one(db, "Pragma journal_mode"), "wal");
-    EXPECT_EQ(one(db, "Pragma synchronous"), "2");
-    EXPECT_EQ(one(db, "Pragma foreign_keys"), "1");
-    db->Execute("Create Table T (A Integer Primary Key, [a b] Text)");
-    // A misspelled "name" is an error, not a text.
-    EXPECT_NE(errorOf([&] { db->Execute("Update T Set [a b]=\"nobody\""); }), 0);
-    EXPECT_EQ(raised([&] { open("sqlite:" + mDir.file("no/such/folder.db")); }).Number(),
-              RuntimeError::FileNotFound);
-}
-
 TEST_F(SqliteFile, ThatIsLockedIsWaitedForThenReported) {
     const auto db = connect();
     db->Execute("Create Table T (A Integer)");
@@ -77,24 +65,6 @@ TEST_F(SqliteFile, ThatIsFullLosesNothingAndLeavesNoTransaction) {
     EXPECT_EQ(db->Execute("Insert into T (A,B) values (2,'" + big + "')"), 1);
 }
 
-TEST_F(SqliteFile, WhoseEngineRolledBackByItselfRunsNothingUntilThatIsDoneHereToo) {
-    const auto db = connect();
-    db->Execute("Create Table T (A Integer Primary Key On Conflict Rollback)");
-    db->Execute("Insert into T (A) values (1)");
-    db->BeginTrans(TransactionFor::Writing);
-    db->BeginTrans(TransactionFor::Writing);
-    db->Execute("Insert into T (A) values (2)");
-    EXPECT_EQ(errorOf([&] { db->Execute("Insert into T (A) values (1)"); }), RuntimeError::DuplicateKey);
-    EXPECT_NE(errorOf([&] { db->Execute("Insert into T (A) values (3)"); }), 0); // would stand alone
-    EXPECT_NE(errorOf([&] { db->BeginTrans(); }), 0);
-    EXPECT_NE(errorOf([&] { db->CommitTrans(); }), 0);
-    EXPECT_EQ(db->transactionLevel(), 2);
-    db->RollbackTrans();
-    db->RollbackTrans();
-    EXPECT_EQ(db->transactionLevel(), 0);
-    EXPECT_EQ(one(db, "Select Count(*) From T"), "1");
-}
-
 TEST_F(SqliteFile, OpenedReadOnlyIsReadOnly) {
     connect()->Execute("Create Table T (A Integer)");
     const auto db = connect("?mode=ro");
@@ -106,6 +76,7 @@ TEST_F(SqliteFile, OpenedReadOnlyIsReadOnly) {
     db->CommitTrans();
     EXPECT_NE(errorOf([&] { open("sqlite:" + mDir.file("missing.db") + "?mode=ro"); }), 0);
     EXPECT_FALSE(mDir.has("missing.db"));
+    EXPECT_EQ(errorOf([&] { open("sqlite:" + mDir.file("no/such/folder.db")); }), RuntimeError::FileNotFound);
 }
 
 TEST_F(SqliteFile, ThatIsNoneOrDamagedIsReported) {
@@ -131,28 +102,6 @@ TEST_F(SqliteFile, ThatIsNoneOrDamagedIsReported) {
     EXPECT_EQ(damaged.NativeCode() & 0xFF, SQLITE_CORRUPT);
 }
 
-TEST_F(SqliteFile, HandsOutWhatAForeignWriterStored) {
-    const auto db = connect();
-    db->Execute("Create Table T (D DateTime, B Boolean, I SmallInt, N Integer, C Currency, S Single, X "
-                "Decimal(10,2))");
-    sqlite3* foreign = nullptr;
-    ASSERT_EQ(sqlite3_open(path().c_str(), &foreign), SQLITE_OK);
-    sqlite3_exec(foreign,
-                 "insert into T values ('soon', 7, 70000, 5000000000, 1.23456, 0.123456789012, 12.25),"
-                 "('2026-11-15', 'yes', 'few', 'none', 'x', 'y', 'z')",
-                 nullptr, nullptr, nullptr);
-    sqlite3_close(foreign);
-    const auto rs = Recordset::create();
-    rs->Open("Select * From T", db);
-    const char* rows[][7] = {{"soon", "7", "70000", "5000000000", "1.23456", "0.123456789012", "12.25"},
-                             {"11/15/2026", "yes", "few", "none", "x", "y", "z"}};
-    for (const auto& row : rows) {
-        for (int i = 0; i < 7; ++i)
-            EXPECT_EQ(rs->Value(i).text(), row[i]) << i;
-        rs->MoveNext();
-    }
-}
-
 TEST_F(SqliteFile, KeepsABoundedNumberOfCompiledStatements) {
     const auto db = connect();
     sqlite::setShapeLimit(*db, 2);
@@ -166,57 +115,14 @@ TEST_F(SqliteFile, KeepsABoundedNumberOfCompiledStatements) {
     }
 }
 
-class LentHandle : public SqliteFile {
-  protected:
-    void SetUp() override {
-        ASSERT_EQ(sqlite3_open(path().c_str(), &mHandle), SQLITE_OK);
-        run("create table T (A Integer Primary Key)");
-    }
-    void TearDown() override {
-        EXPECT_EQ(sqlite3_close(mHandle), SQLITE_OK);
-    } // not while a statement is left
-    void run(const char* statement) {
-        ASSERT_EQ(sqlite3_exec(mHandle, statement, nullptr, nullptr, nullptr), SQLITE_OK) << statement;
-    }
-    sqlite3* mHandle = nullptr;
-};
-
-TEST_F(LentHandle, KeepsItsSettingsAndIsNeverClosed) {
-    auto db = sqlite::adopt(mHandle);
-    EXPECT_EQ(one(db, "Pragma journal_mode"), "delete");
-    db->Execute("Insert into T (A) values (1)");
-    const RuntimeError duplicate = raised([&] { db->Execute("Insert into T (A) values (1)"); });
-    EXPECT_EQ(duplicate.Number(), RuntimeError::DuplicateKey);
-    EXPECT_EQ(duplicate.NativeCode(), SQLITE_CONSTRAINT_PRIMARYKEY);
-    const auto rs = Recordset::create();
-    rs->Open("Select * From T", db);
-    db->Close();
-    db = sqlite::adopt(mHandle);
-    db->BeginTrans(TransactionFor::Writing);
-    db->Execute("Insert into T (A) values (2)");
-    db.reset(); // left open: rolled back, and the handle goes on
-    run("begin");
-    run("commit");
-    EXPECT_EQ(one(sqlite::adopt(mHandle), "Select Count(*) From T"), "1");
-}
-
-TEST_F(LentHandle, JoinsTheTransactionOfItsOwner) {
-    const auto db = sqlite::adopt(mHandle);
-    run("begin");
-    run("insert into T values (1)");
-    EXPECT_EQ(db->BeginTrans(TransactionFor::Writing), 1);
-    db->Execute("Insert into T (A) values (2)");
-    db->RollbackTrans();
-    EXPECT_EQ(db->BeginTrans(TransactionFor::Writing), 1);
-    db->Execute("Insert into T (A) values (3)");
-    db->CommitTrans();
-    EXPECT_EQ(sqlite3_get_autocommit(mHandle), 0); // still the owner's
-    run("commit");
-    EXPECT_EQ(one(db, "Select Sum(A) From T"), "4");
-}
-
-TEST_F(LentHandle, ShowsTheColumnsThatItsOwnerMadeMeanwhile) {
-    const auto db = sqlite::adopt(mHandle);
+TEST_F(SqliteFile, WhoseHandleIsLentShowsTheColumnsThatItsOwnerMadeMeanwhile) {
+    sqlite3* handle = nullptr;
+    ASSERT_EQ(sqlite3_open(path().c_str(), &handle), SQLITE_OK);
+    const auto run = [&](const char* statement) {
+        ASSERT_EQ(sqlite3_exec(handle, statement, nullptr, nullptr, nullptr), SQLITE_OK) << statement;
+    };
+    run("create table T (A Integer Primary Key)");
+    const auto db = sqlite::adopt(handle);
     db->Execute("Insert into T (A) values (1),(2)");
     const auto open = [&](const char* statement) {
         auto rs = Recordset::create();
@@ -245,6 +151,8 @@ TEST_F(LentHandle, ShowsTheColumnsThatItsOwnerMadeMeanwhile) {
         work.commit();
     }
     EXPECT_EQ(one(db, "Select Count(*) From T Where B=#1/2/2026#"), "1");
+    db->Close();
+    EXPECT_EQ(sqlite3_close(handle), SQLITE_OK);
 }
 
 } // namespace Korvane::ado::Testing

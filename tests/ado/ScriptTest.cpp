@@ -1,0 +1,199 @@
+#include "ado/Engine.h"
+#include "support/ScratchSchema.h"
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+namespace Korvane::ado::Testing {
+
+namespace {
+
+/// Statements and what is to come of them, as the files in ado/scripts tell it.
+struct Scene {
+    EngineChoice engine;
+    std::string title;
+    std::vector<std::string> lines{};
+
+    friend void PrintTo(const Scene& scene, std::ostream* out) { *out << scene.title; }
+};
+
+void readScenes(std::vector<Scene>& scenes, const EngineChoice& engine, const std::string& file) {
+    std::ifstream text(KORVANE_TESTS_DIR "/ado/scripts/" + file);
+    for (std::string line; std::getline(text, line);) {
+        if (line.empty() || line.starts_with("# ")) continue;
+        if (line.starts_with("== "))
+            scenes.push_back({engine, line.substr(3)});
+        else if (line.starts_with(" ")) // goes on
+            scenes.back().lines.back() += line.substr(line.find_first_not_of(' ') - 1);
+        else
+            scenes.back().lines.push_back(line);
+    }
+}
+
+std::vector<Scene> scenes() {
+    std::vector<Scene> all;
+    for (const EngineChoice& engine : engines()) {
+        readScenes(all, engine, "Everywhere.txt");
+        readScenes(all, engine, engine.name + ".txt");
+    }
+    return all;
+}
+
+/// Somebody who works at the database.
+struct Actor {
+    std::shared_ptr<Connection> db;
+    std::shared_ptr<Recordset> rs{};
+};
+
+std::string rowOf(const Recordset& rs) {
+    std::string row;
+    for (int i = 0; i < rs.FieldCount(); ++i) {
+        const Variant value = rs.Value(i);
+        row += (i > 0 ? "|" : "") + (value.isNull() ? "NULL" : value.text());
+    }
+    return row;
+}
+
+std::shared_ptr<Recordset> opened(const Actor& actor, const std::string& statement, LockType lock) {
+    auto rs = Recordset::create();
+    if (lock == LockType::Optimistic) rs->CursorType(CursorType::Keyset);
+    rs->LockType(lock);
+    rs->Open(statement, actor.db);
+    return rs;
+}
+
+std::string rowsOf(const Actor& actor, const std::string& statement) {
+    std::string rows;
+    for (const auto rs = opened(actor, statement, LockType::ReadOnly); !rs->Eof(); rs->MoveNext())
+        rows += (rows.empty() ? "" : " ") + rowOf(*rs);
+    return rows;
+}
+
+std::string typesOf(const Actor& actor, const std::string& statement) {
+    const auto rs = opened(actor, statement, LockType::ReadOnly);
+    std::string types;
+    for (int i = 0; i < rs->FieldCount(); ++i)
+        types += (i > 0 ? " " : "") + rs->Fields(i).Name() + ":" +
+                 std::to_string(static_cast<int>(rs->FieldType(i)));
+    return types;
+}
+
+/// What an actor can do, with the text that comes of it.
+using Verb = std::function<std::string(Actor&, const std::string&)>;
+
+std::string begin(const Actor& actor, TransactionFor use) {
+    return std::to_string(actor.db->BeginTrans(use));
+}
+
+const std::map<std::string, Verb>& verbs() {
+    static const std::map<std::string, Verb> all{
+        {"does", [](Actor& a, const auto& text) { return std::to_string(a.db->Execute(text)); }},
+        {"asks", [](Actor& a, const auto& text) { return rowsOf(a, text); }},
+        {"types", [](Actor& a, const auto& text) { return typesOf(a, text); }},
+        {"begins", [](Actor& a, const auto&) { return begin(a, TransactionFor::Writing); }},
+        {"reads", [](Actor& a, const auto&) { return begin(a, TransactionFor::Reading); }},
+        {"commits", [](Actor& a, const auto&) { return a.db->CommitTrans(), ""; }},
+        {"undoes", [](Actor& a, const auto&) { return a.db->RollbackTrans(), ""; }},
+        {"level", [](Actor& a, const auto&) { return std::to_string(a.db->transactionLevel()); }},
+        {"closes", [](Actor& a, const auto&) { return a.db->Close(), ""; }},
+        {"leaves", [](Actor& a, const auto&) { return a.db.reset(), ""; }},
+        {"opens",
+         [](Actor& a, const auto& text) {
+             a.rs = opened(a, text, LockType::Optimistic);
+             return rowOf(*a.rs);
+         }},
+        {"puts",
+         [](Actor& a, const auto& text) {
+             a.rs->SetValue(0, text == "NULL" ? Variant::null() : Variant(text));
+             return a.rs->Update(), rowOf(*a.rs);
+         }},
+    };
+    return all;
+}
+
+/// The next word of a line, which is taken off it.
+std::string word(std::string& line) {
+    const std::string first = line.substr(0, line.find(' '));
+    line.erase(0, first.size() + 1);
+    return first;
+}
+
+} // namespace
+
+class Script : public testing::TestWithParam<Scene> {
+  protected:
+    void SetUp() override {
+        mEngine = GetParam().engine.make();
+        if (!mEngine) GTEST_SKIP() << Korvane::Testing::ScratchSchema::noServer;
+        mNames = {{"{schema}", mEngine->schema()}};
+        for (const auto& [name, type] : {std::pair("{Date}", DataType::Date),
+                                         {"{Double}", DataType::Double},
+                                         {"{Currency}", DataType::Currency}})
+            mNames.emplace_back(name, mEngine->declaration(type));
+    }
+
+    void perform(std::string line) {
+        for (const auto& [name, meaning] : mNames)
+            for (std::size_t at; (at = line.find(name)) != std::string::npos;)
+                line.replace(at, name.size(), meaning);
+        const std::size_t mark = std::min(line.find(" => "), line.find(" !! "));
+        const bool fails = line.substr(std::min(mark, line.size())).starts_with(" !!");
+        std::string expected = mark == std::string::npos ? "" : line.substr(mark + 4);
+        line.resize(std::min(mark, line.size()));
+        try {
+            const std::string result = done(line);
+            EXPECT_FALSE(fails) << "no error";
+            if (mark != std::string::npos && !fails) {
+                EXPECT_EQ(result, expected);
+            }
+        } catch (const RuntimeError& error) {
+            ASSERT_TRUE(fails) << error.Number() << " " << error.Description();
+            expectError(error, word(expected), expected);
+        }
+    }
+
+  private:
+    std::string done(std::string line) {
+        const std::string who = word(line);
+        const std::string what = word(line);
+        if (who == "raw") return mEngine->foreign(line);
+        Actor& actor = mActors[who];
+        if (!actor.db) actor.db = who == "lent" ? mEngine->lend() : mEngine->connect();
+        return verbs().at(what)(actor, line);
+    }
+
+    /// "number", or "number/code", and what is said, in any order, with " & " between.
+    void expectError(const RuntimeError& error, const std::string& number, const std::string& says) const {
+        const std::string code = "/" + mEngine->codeOf(error);
+        const std::string actual = std::to_string(error.Number());
+        if (number != "*") {
+            EXPECT_EQ(actual + (number.find('/') == std::string::npos ? "" : code), number)
+                << error.Description();
+        }
+        std::string part;
+        for (std::size_t at = 0; at < says.size(); at += part.size() + 3) {
+            part = says.substr(at, says.find(" & ", at) - at);
+            EXPECT_NE(error.Description().find(part), std::string::npos) << part << "\n"
+                                                                         << error.Description();
+        }
+    }
+
+    std::unique_ptr<Engine> mEngine;
+    std::map<std::string, Actor> mActors; // gone before the engine
+    std::vector<std::pair<std::string, std::string>> mNames;
+};
+
+TEST_P(Script, ComesTrue) {
+    for (const std::string& line : GetParam().lines) {
+        SCOPED_TRACE(line);
+        perform(line);
+        if (HasFatalFailure()) return;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, Script, testing::ValuesIn(scenes()),
+                         [](const auto& scene) { return scene.param.engine.name + "_" + scene.param.title; });
+
+} // namespace Korvane::ado::Testing
