@@ -1,12 +1,11 @@
 #include <korvane/data/ArrayExtremes.h>
 
-#include <korvane/runtime/RuntimeError.h>
-
-#include <gtest/gtest.h>
+#include "support/Errors.h"
 
 #include <vector>
 
 using namespace Korvane;
+using Korvane::Testing::errorOf;
 
 namespace {
 
@@ -16,13 +15,8 @@ Variant array(std::int32_t lowerBound, std::vector<Variant> elements) {
 
 const Variant kNone = std::int16_t{-1};
 
-int errorOf(const Variant& values) {
-    try {
-        ArrayMax(values);
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
+int errorOfMax(const Variant& values) {
+    return errorOf([&] { ArrayMax(values); });
 }
 
 } // namespace
@@ -43,10 +37,10 @@ TEST(ArrayExtremes, FindTheLargestAndSmallestByVariantComparison) {
 }
 
 TEST(ArrayExtremes, RaiseForWhatIsNoArrayOfSixteenBitBounds) {
-    EXPECT_EQ(errorOf(array(32767, {1})), 0);
-    EXPECT_EQ(errorOf(array(32767, {1, 2})), RuntimeError::Overflow);
-    EXPECT_EQ(errorOf(array(-32769, {1, 2})), RuntimeError::Overflow);
-    EXPECT_EQ(errorOf(array(2147483647, {1, 2})), RuntimeError::Overflow);
-    EXPECT_EQ(errorOf(Variant(3)), RuntimeError::TypeMismatch);
-    EXPECT_EQ(errorOf(array(0, {})), RuntimeError::SubscriptOutOfRange);
+    EXPECT_EQ(errorOfMax(array(32767, {1})), 0);
+    EXPECT_EQ(errorOfMax(array(32767, {1, 2})), RuntimeError::Overflow);
+    EXPECT_EQ(errorOfMax(array(-32769, {1, 2})), RuntimeError::Overflow);
+    EXPECT_EQ(errorOfMax(array(2147483647, {1, 2})), RuntimeError::Overflow);
+    EXPECT_EQ(errorOfMax(Variant(3)), RuntimeError::TypeMismatch);
+    EXPECT_EQ(errorOfMax(array(0, {})), RuntimeError::SubscriptOutOfRange);
 }

@@ -1,5 +1,7 @@
 #include <korvane/data/SQLData.h>
 
+#include "support/CaseTable.h"
+#include "support/CaseValue.h"
 #include "support/RecordingInteraction.h"
 #include "support/ScratchDir.h"
 
@@ -9,40 +11,18 @@ using namespace Korvane;
 using namespace Korvane::Testing;
 
 TEST(SQLDataLists, QuoteAndConvertByTheKindOfTheValue) {
-    const struct {
-        Variant value;
-        std::int32_t quoting, settled;
-        std::string inserted, updated;
-    } cases[] = {
-        {Variant(), -1, 1, "''", "=''"},
-        {Variant::null(), -1, 0, "0", "="},
-        {Variant::null(), 1, 1, "''", "=''"},
-        {std::int16_t{-7}, -1, 0, "-7", "=-7"},
-        {-2147483647 - 1, -1, 0, "-2147483648", "=-2147483648"},
-        {12, 1, 1, "'12'", "='12'"},
-        {2.5f, -1, 0, "2.5", "=2.5"},
-        {2.5, -1, 1, "'2.5'", "='2.5'"},
-        {2.5, 0, 0, "2.5", "=2.5"},
-        {true, -1, 0, "True", "=True"},
-        {false, 1, 1, "'False'", "='False'"},
-        {Currency{12500}, -1, 1, "'1.25'", "='1.25'"},
-        {std::uint8_t{9}, -1, 1, "'9'", "='9'"},
-        {Date::of(2026, 11, 15, 17, 21, 51), -1, 1, "'11/15/2026 5:21:51 PM'", "='11/15/2026 5:21:51 PM'"},
-        {"it's", -1, 1, "'it''s'", "='it''s'"},
-        {"'a''b'", -1, 1, "'''a''''b'''", "='''a''''b'''"},
-        {"Now()", 0, 0, "Now()", "=Now()"},
-        {"kept out", 2, 2, "", ""},
-    };
-    for (const auto& c : cases) {
+    for (const auto& row : readCases("sqllists.tsv")) {
+        SCOPED_TRACE(row[0] + ' ' + row[1]);
+        const Variant value = caseValue(row[0], row[1]);
         SQLData query;
-        std::int32_t quoting = c.quoting;
-        query.InsertListAdd("Dose.mg", c.value, quoting);
-        EXPECT_EQ(quoting, c.settled) << c.inserted;
-        EXPECT_EQ(query.InsertListGet(), "([Dose.mg])  values (" + c.inserted + ")");
-        quoting = c.quoting;
-        query.UpdateListAdd("Dose.mg", c.value, quoting);
-        EXPECT_EQ(quoting, c.settled) << c.updated;
-        EXPECT_EQ(query.UpdateListGet(), "[Dose.mg]" + c.updated);
+        std::int32_t quoting = std::stoi(row[2]);
+        query.InsertListAdd("Dose.mg", value, quoting);
+        EXPECT_EQ(std::to_string(quoting), row[3]);
+        EXPECT_EQ(query.InsertListGet(), "([Dose.mg])  values (" + row[4] + ")");
+        quoting = std::stoi(row[2]);
+        query.UpdateListAdd("Dose.mg", value, quoting);
+        EXPECT_EQ(std::to_string(quoting), row[3]);
+        EXPECT_EQ(query.UpdateListGet(), "[Dose.mg]" + row[5]);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <korvane/runtime/RuntimeError.h>
 
 #include "support/CaseTable.h"
+#include "support/StoppedClock.h"
 
 #include <gtest/gtest.h>
 
@@ -13,13 +14,6 @@ using namespace Korvane;
 using namespace Korvane::Testing;
 
 namespace {
-
-struct FixedYear : testing::Test {
-    FixedYear() {
-        Clock::set([] { return Date::of(2026, 11, 15, 17, 21, 51); });
-    }
-    ~FixedYear() override { Clock::set(nullptr); }
-};
 
 std::string partsText(double dayNumber, bool withDays) {
     try {
@@ -67,7 +61,8 @@ TEST(Date, CountsSecondsForwardAlsoBeforeDayZero) {
     EXPECT_THROW((void)Date(1e300).seconds(), RuntimeError);
 }
 
-TEST_F(FixedYear, ReadsDatesAsTheTableSays) {
+TEST(Date, ReadsDatesAsTheTableSays) {
+    const StoppedClock clock;
     for (const auto& row : readCases("isdate.tsv")) {
         std::string expected = row[1];
         if (expected.starts_with("{Y}")) expected.replace(0, 3, "2026");
@@ -89,15 +84,10 @@ TEST(Date, EveryMomentSurvivesBothOfItsTexts) {
 }
 
 TEST(Date, ReadsTheIsoFormAndNothingElse) {
-    const Date moment = Date::of(2026, 11, 15, 17, 21, 51);
-    EXPECT_EQ(parseIsoDate("2026-11-15"), Date::of(2026, 11, 15));
-    for (const char* same : {"2026-11-15 17:21:51", "2026-11-15T17:21:51", "2026-11-15 17:21:51.999"})
-        EXPECT_EQ(parseIsoDate(same), moment) << same;
-    for (const char* other :
-         {"", "2026-11-1", "2026-13-15", "2026-02-30", "2026/11/15", "2026-11-15 ", "0026-11-15",
-          "2026-11-15 17:21", "2026-11-15 17:21:5x", "2026-11-15 24:00:00", "2026-11-15X17:21:51",
-          "2026-11-15 17:21:51.", "2026-11-15 17:21:51Z", "+026-11-15", "2026-1-115"})
-        EXPECT_FALSE(parseIsoDate(other)) << other;
+    for (const auto& row : readCases("isodate.tsv")) {
+        const auto date = parseIsoDate(quotedText(row[0]));
+        EXPECT_EQ(date ? date->isoText() : "no", row[1]) << row[0];
+    }
 }
 
 TEST(Date, RejectsWhateverBytesItIsGiven) {
@@ -123,8 +113,9 @@ TEST(Date, RejectsWhateverBytesItIsGiven) {
 }
 
 TEST(Clock, AsksItsSourceUntilTheSystemsIsWantedAgain) {
-    Clock::set([] { return Date::of(1999, 1, 2); });
-    EXPECT_EQ(Clock::now().text(), "1/2/1999");
-    Clock::set(nullptr);
+    {
+        const StoppedClock clock(Date::of(1999, 1, 2));
+        EXPECT_EQ(Clock::now().text(), "1/2/1999");
+    }
     EXPECT_GT(Clock::now(), Date::of(2024, 1, 1));
 }

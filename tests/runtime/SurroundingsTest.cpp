@@ -2,12 +2,11 @@
 #include <korvane/runtime/Interaction.h>
 #include <korvane/runtime/RuntimeError.h>
 
-#include "support/RecordingInteraction.h"
+#include "support/Environment.h"
 #include "support/ScratchDir.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <functional>
 #include <new>
 
@@ -17,27 +16,6 @@ using namespace Korvane::Testing;
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Sets an environment variable for as long as it lives.
-class Environment {
-  public:
-    Environment(const char* name, const std::string& value) : mName(name) {
-        if (const char* old = std::getenv(name)) mOld = old;
-        setenv(name, value.c_str(), 1);
-    }
-    ~Environment() {
-        if (mOld)
-            setenv(mName, mOld->c_str(), 1);
-        else
-            unsetenv(mName);
-    }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-
-  private:
-    const char* mName;
-    std::optional<std::string> mOld;
-};
 
 RuntimeError caught(const std::function<void()>& action) {
     try {
@@ -86,21 +64,6 @@ TEST(Interaction, TheDefaultWritesToStandardErrorAndAnswersForNobody) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "Saved\nGo?\nNip: Delete?\n");
     EXPECT_EQ(standard.InputBox("Name?", "Nip"), std::nullopt);
     Interaction::install(before);
-}
-
-TEST(Interaction, OneInstalledIsInForceUntilTheOneBeforeIsBack) {
-    Interaction* before = &Interaction::current();
-    {
-        RecordedInteraction user;
-        user->answers = {Answer::Yes};
-        user->texts = {"Vitals"};
-        EXPECT_EQ(Interaction::current().MsgBox("Delete?", MsgBoxStyle::YesNo, "Nip"), Answer::Yes);
-        EXPECT_EQ(Interaction::current().MsgBox("Delete?", MsgBoxStyle::YesNo, "Nip"), Answer::No);
-        EXPECT_EQ(Interaction::current().InputBox("Name?", "Nip"), "Vitals");
-        EXPECT_EQ(user->boxes.at(1), (ShownBox{"Delete?", MsgBoxStyle::YesNo, "Nip"}));
-        EXPECT_EQ(user->inputs.at(0), (ShownInput{"Name?", "Nip"}));
-    }
-    EXPECT_EQ(&Interaction::current(), before);
 }
 
 TEST(RuntimeError, TellsWhatAnyExceptionSays) {

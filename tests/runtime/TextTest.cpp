@@ -30,27 +30,10 @@ TEST(Text, ReadsVeryLongNumbers) {
 }
 
 TEST(Text, KeepsEveryDigitOfANumber) {
-    const struct {
-        const char* text;
-        const char* digits;
-        const char* decimal; ///< null: no decimal holds it
-    } cases[] = {
-        {" ($1,234.50) ", "-1234.50", "-1234.5"},
-        {"+12345678901234567890.123", "12345678901234567890.123", "12345678901234567890.123"},
-        {"-0.000", "-0.000", "0"},
-        {".5D+2", ".5e2", "50"},
-        {"1e-28", "1e-28", "0.0000000000000000000000000001"},
-        {"1e-29", "1e-29", nullptr},
-        {"79228162514264337593543950335", "79228162514264337593543950335", "79228162514264337593543950335"},
-        {"79228162514264337593543950336", "79228162514264337593543950336", nullptr},
-        {"1e9999999", "1e9999999", nullptr},
-        {"&H1F", "31", "31"},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(numberDigits(c.text), c.digits);
-        const auto decimal = parseDecimal(c.text);
-        ASSERT_EQ(decimal.has_value(), c.decimal != nullptr) << c.text;
-        EXPECT_EQ(decimal ? fixedPointText(*decimal) : "", c.decimal ? c.decimal : "");
+    for (const auto& row : readCases("digits.tsv")) {
+        EXPECT_EQ(numberDigits(quotedText(row[0])), row[1]);
+        const auto decimal = parseDecimal(quotedText(row[0]));
+        EXPECT_EQ(decimal ? fixedPointText(*decimal) : "none", row[2]) << row[0];
     }
     EXPECT_FALSE(numberDigits("12 abc"));
     EXPECT_EQ(toCurrency(*parseDecimal("-922337203685477.5807")), Currency{-9223372036854775807});
@@ -59,13 +42,8 @@ TEST(Text, KeepsEveryDigitOfANumber) {
 }
 
 TEST(Text, TakesTheNumberThatATextBeginsWith) {
-    const std::pair<const char*, double> cases[] = {{"12abc", 12},    {" 1 6 15 198th Street", 1615198},
-                                                    {"-2.5e1x", -25}, {"1e", 1},
-                                                    {"2.5.7", 2.5},   {"abc", 0},
-                                                    {"", 0},          {"+", 0},
-                                                    {".", 0},         {"\t07", 7}};
-    for (const auto& [text, number] : cases)
-        EXPECT_EQ(leadingNumber(text), number) << text;
+    for (const auto& row : readCases("leadingnumber.tsv"))
+        EXPECT_EQ(leadingNumber(quotedText(row[0])), std::stod(row[1])) << row[0];
 }
 
 TEST(Text, WritesExtremeNumbers) {

@@ -108,24 +108,4 @@ void PrivateServer::run(const std::string& program, const std::string& arguments
         throw std::runtime_error(program + ": " + mDir.read("said") + mDir.read("log"));
 }
 
-ServerInForce::ServerInForce(const std::string& address) {
-    put("KORVANE_TEST_POSTGRES", address);
-    put("KORVANE_TEST_ENGINE", "postgresql");
-}
-
-ServerInForce::~ServerInForce() {
-    for (const auto& [name, value] : mBefore) {
-        if (value)
-            ::setenv(name, value->c_str(), 1);
-        else
-            ::unsetenv(name);
-    }
-}
-
-void ServerInForce::put(const char* name, const std::string& value) {
-    const char* before = std::getenv(name);
-    mBefore.emplace_back(name, before ? std::optional<std::string>(before) : std::nullopt);
-    ::setenv(name, value.c_str(), 1);
-}
-
 } // namespace Korvane::Testing

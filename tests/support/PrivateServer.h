@@ -1,12 +1,10 @@
 #pragma once
 
+#include "support/Environment.h"
 #include "support/ScratchDir.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace Korvane::Testing {
 
@@ -59,17 +57,12 @@ class PrivateServer {
 ///
 ///     const ServerInForce here(server.address());
 ///     ScratchClinic clinic;
-class ServerInForce {
-  public:
-    explicit ServerInForce(const std::string& address);
-    ~ServerInForce();
-    ServerInForce(const ServerInForce&) = delete;
-    ServerInForce& operator=(const ServerInForce&) = delete;
+struct ServerInForce {
+    explicit ServerInForce(const std::string& address) : mAddress("KORVANE_TEST_POSTGRES", address) {}
 
   private:
-    void put(const char* name, const std::string& value);
-
-    std::vector<std::pair<const char*, std::optional<std::string>>> mBefore;
+    Environment mAddress;
+    Environment mEngine{"KORVANE_TEST_ENGINE", "postgresql"};
 };
 
 } // namespace Korvane::Testing
