@@ -1,5 +1,6 @@
 #include <korvane/nip/cNIP.h>
 
+#include "support/KilledSteps.h"
 #include "support/NipDatabase.h"
 
 #include <korvane/ado/Catalog.h>
@@ -7,19 +8,13 @@
 
 #include <gmock/gmock.h>
 
-#include <csignal>
 #include <functional>
-#include <memory>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace Korvane {
 
 using namespace Testing;
 using testing::AllOf;
 using testing::Contains;
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 namespace {
@@ -316,35 +311,26 @@ TEST_F(CustomizingStructure, ChangesAllOrNothingWhereverItFails) {
     }
 }
 
-// Every process is killed one step further than the one before it, until one comes to the end.
 TEST_F(CustomizingStructure, LeavesTheOldStructureOrTheNewOneWhenTheProcessIsKilled) {
     nips.group(4, "Later", "NIP_Custom9");
     nips.db->quietly("Drop Table NIP_Custom9");
     const auto before = stored();
-    nips.db->Close(); // a process of its own opens the database below
-    const auto saveUpTo = [&](int steps) {
-        const auto db = std::make_shared<RecordingConnection>(ado::open(nips.address()));
-        bool done = nip.LoadStructure(db) && nip.CreateField(1, temperature) &&
-                    nip.CreateField(3, temperature) &&
-                    nip.EditField(1, 3, {.fieldName = "Humour", .maxLength = 90, .values = {"a", "b"}});
-        db->insteadOfFailing = [] { kill(getpid(), SIGKILL); };
-        db->failAfter = steps;
-        return done && nip.SaveStructure();
+    nips.db->Close();
+    const auto save = [](const auto& db, const auto& begin) {
+        cNIP other;
+        return other.LoadStructure(db) && other.CreateField(1, temperature) &&
+               other.CreateField(3, temperature) &&
+               other.EditField(1, 3, {.fieldName = "Humour", .maxLength = 90, .values = {"a", "b"}}) &&
+               begin() && other.SaveStructure();
     };
-    int steps = 0;
-    for (int status = -1; status != 0; ++steps) {
-        ASSERT_LT(steps, 100);
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) _exit(saveUpTo(steps) ? 0 : 1);
-        waitpid(child, &status, 0);
-        ASSERT_TRUE(status == 0 || WIFSIGNALED(status)) << "it failed by itself: " << nips.errorLog();
-        nips.db = std::make_shared<RecordingConnection>(ado::open(nips.address()));
-        if (status == 0) break;
-        ASSERT_EQ(stored(), before) << "killed at step " << steps;
+    const auto open = [&] { nips.db = std::make_shared<RecordingConnection>(ado::open(nips.address())); };
+    killAtEachStep(nips.address(), save, [&] {
+        open();
+        const bool isOld = stored() == before;
         nips.db->Close();
-    }
-    EXPECT_GT(steps, 20);
+        return isOld;
+    });
+    open();
     reload();
     EXPECT_EQ(modelled(),
               "Vitals(4): Pulse/The Pulse Weight/The Weight Humour/ Temp-1/The patient's temperature "
@@ -356,28 +342,34 @@ TEST_F(CustomizingStructure, LeavesTheOldStructureOrTheNewOneWhenTheProcessIsKil
 
 // Another desk has customized since the structure was loaded.
 struct CustomizedElsewhere : CustomizingStructure {
-    cNIP other;
     std::vector<LostEntry> lost;
 
-    /// A Nip in which every field has been typed into.
+    /// A Nip in which fields have been typed into.
     void enter() {
         ASSERT_TRUE(nip.Load(7, "P1", false));
         nip.value(1, 1, "99");
         nip.value(1, 2, "81");
-        ASSERT_TRUE(other.LoadStructure(nips.db));
+    }
+    /// What the other desk does, with the structure as it stands now.
+    void elsewhere(const std::function<bool(cNIP&)>& change) const {
+        cNIP other;
+        ASSERT_TRUE(other.LoadStructure(nips.db) && change(other) && other.SaveStructure())
+            << nips.errorLog();
+    }
+    void makeElsewhere(std::int16_t group, const FieldDefinition& field) const {
+        elsewhere([&](cNIP& other) { return other.CreateField(group, field) && other.SaveStructure(); });
     }
 };
 
 TEST_F(CustomizedElsewhere, IsNoticedBeforeAnythingIsWrittenAndKeepsTheEntries) {
     enter();
     // "Pulse" becomes another field's name, and the column of the old name holds something else.
-    ASSERT_TRUE(other.EditField(1, 1, {.fieldName = "HeartRate", .caption = "The Pulse", .maxLength = 50}));
-    ASSERT_TRUE(other.SaveStructure()) << nips.errorLog();
-    ASSERT_TRUE(other.LoadStructure(nips.db));
-    ASSERT_TRUE(other.DeleteField(1, 2));
-    ASSERT_TRUE(other.LoadStructure(nips.db));
-    ASSERT_TRUE(other.CreateField(1, {.fieldName = "Pulse", .caption = "Foot pulse", .maxLength = 50}));
-    ASSERT_TRUE(other.SaveStructure()) << nips.errorLog();
+    elsewhere([](cNIP& other) {
+        return other.EditField(1, 1, {.fieldName = "HeartRate", .caption = "The Pulse", .maxLength = 50}) &&
+               other.SaveStructure();
+    });
+    elsewhere([](cNIP& other) { return other.DeleteField(1, 2); });
+    makeElsewhere(1, {.fieldName = "Pulse", .caption = "Foot pulse", .maxLength = 50});
     const auto before = stored();
 
     EXPECT_FALSE(nip.Save());
@@ -397,19 +389,17 @@ TEST_F(CustomizedElsewhere, IsNoticedBeforeAnythingIsWrittenAndKeepsTheEntries) 
 TEST_F(CustomizedElsewhere, PutsNothingIntoAFieldOfTheSameNameThatMeansSomethingElse) {
     ASSERT_TRUE(nip.Load(7, "P1", false));
     nip.value(2, 1, "hello");
-    ASSERT_TRUE(other.LoadStructure(nips.db));
-    ASSERT_TRUE(other.DeleteField(2, 1));
-    ASSERT_TRUE(other.LoadStructure(nips.db));
-    ASSERT_TRUE(other.CreateField(2, {.fieldName = "Text", .caption = "Allergies", .maxLength = 50}));
-    ASSERT_TRUE(other.SaveStructure());
+    elsewhere([](cNIP& other) { return other.DeleteField(2, 1); });
+    makeElsewhere(2, {.fieldName = "Text", .caption = "Allergies", .maxLength = 50});
     EXPECT_FALSE(nip.Load(7, "P1", false));
     EXPECT_TRUE(nip.StructureChanged());
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    reload();
     ASSERT_TRUE(nip.Load(7, "P1", false));
     nip.value(2, 1, "penicillin");
-    ASSERT_TRUE(other.LoadStructure(nips.db));
-    ASSERT_TRUE(other.EditField(2, 1, {.fieldName = "Text", .caption = "Diet", .maxLength = 50}));
-    ASSERT_TRUE(other.SaveStructure());
+    elsewhere([](cNIP& other) {
+        return other.EditField(2, 1, {.fieldName = "Text", .caption = "Diet", .maxLength = 50}) &&
+               other.SaveStructure();
+    });
     EXPECT_FALSE(nip.Save());
     ASSERT_TRUE(nip.ReloadStructure(lost));
     ASSERT_EQ(lost.size(), 1U);
@@ -417,29 +407,22 @@ TEST_F(CustomizedElsewhere, PutsNothingIntoAFieldOfTheSameNameThatMeansSomething
     EXPECT_EQ(nip.value(2, 1), Variant(""));
 }
 
-TEST_F(CustomizedElsewhere, IsNoticedAlsoWhereNobodyCounts) {
-    nips.db->quietly("Delete From DBFieldGroups Where DBFieldGroupID=1");
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
-    enter();
-    ASSERT_TRUE(other.CreateField(1, {.fieldName = "New", .maxLength = 50}));
-    ASSERT_TRUE(other.SaveStructure());
-    EXPECT_FALSE(nip.Save());
-    EXPECT_TRUE(nip.StructureChanged());
-    ASSERT_TRUE(nip.ReloadStructure(lost));
-    EXPECT_TRUE(nip.Save());
-    EXPECT_EQ(nips.rows("Select Pulse From NIP_Custom1"), "99");
-}
-
-TEST_F(CustomizedElsewhere, TakesOverWhatOthersHaveStoredMeanwhile) {
-    enter();
-    ASSERT_TRUE(other.CreateField(1, {.fieldName = "New", .caption = "New", .maxLength = 50}));
-    ASSERT_TRUE(other.SaveStructure());
-    nips.db->quietly("Update NIP_Custom1 Set New='theirs',Mood='Good'");
-    EXPECT_FALSE(nip.Save());
-    ASSERT_TRUE(nip.ReloadStructure(lost));
-    EXPECT_TRUE(lost.empty());
-    ASSERT_TRUE(nip.Save());
-    EXPECT_EQ(nips.rows("Select Pulse,Weight,Mood,New From NIP_Custom1"), "99|81|Good|theirs");
+TEST_F(CustomizedElsewhere, TakesOverWhatOthersHaveStoredMeanwhileAlsoWhereNobodyCounts) {
+    for (const bool counts : {true, false}) {
+        const std::string name = counts ? "New" : "Newer";
+        if (!counts) nips.db->quietly("Delete From DBFieldGroups Where DBFieldGroupID=1");
+        reload();
+        enter();
+        makeElsewhere(1, {.fieldName = name, .caption = name, .maxLength = 50});
+        nips.db->quietly("Update NIP_Custom1 Set [" + name + "]='theirs',Mood='Good'");
+        EXPECT_FALSE(nip.Save());
+        EXPECT_TRUE(nip.StructureChanged());
+        ASSERT_TRUE(nip.ReloadStructure(lost));
+        EXPECT_TRUE(lost.empty());
+        ASSERT_TRUE(nip.Save());
+        EXPECT_EQ(nips.rows("Select Pulse,Weight,Mood,[" + name + "] From NIP_Custom1"), "99|81|Good|theirs");
+        nips.db->quietly("Update NIP_Custom1 Set Pulse='72',Mood='Poor'");
+    }
 }
 
 TEST_F(CustomizedElsewhere, IsNotSuspectedOfATableThatIsNoneOfTheNips) {

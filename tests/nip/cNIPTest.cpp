@@ -1,10 +1,7 @@
 #include <korvane/nip/cNIP.h>
 
+#include "support/Errors.h"
 #include "support/NipDatabase.h"
-
-#include <korvane/runtime/RuntimeError.h>
-
-#include <gtest/gtest.h>
 
 namespace Korvane {
 
@@ -12,14 +9,8 @@ using namespace Testing;
 
 namespace {
 
-template <typename Call>
-void expectOutOfRange(Call&& call, const char* what) {
-    try {
-        call();
-        ADD_FAILURE() << what << " raised nothing";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), RuntimeError::SubscriptOutOfRange) << what;
-    }
+void expectOutOfRange(const std::function<void()>& call, const char* what) {
+    EXPECT_EQ(errorOf(call), RuntimeError::SubscriptOutOfRange) << what;
 }
 
 } // namespace
