@@ -137,6 +137,22 @@ TEST_F(FaultsOfAServer, OfTheNetworkAreNeverWaitedOutForEver) {
             db->Execute("Update T Set A=3");
         },
     };
+    for (const Relay::Fate fate : {Relay::LoseRequest, Relay::LoseAnswer}) {
+        network.on("Commit", fate);
+        const RuntimeError cut = raised([&] {
+            Transaction work(*db);
+            db->Execute("Insert into T (A) values (7)");
+            work.commit();
+        });
+        EXPECT_THAT(cut.Description(), HasSubstr("was lost"));
+        EXPECT_TRUE(network.sprung());
+        EXPECT_EQ(db->State(), 0);
+        EXPECT_EQ(db->transactionLevel(), 0);
+        EXPECT_EQ(errorOf([&] { db->Execute("Insert into T (A) values (8)"); }), RuntimeError::ObjectClosed);
+        db->Reset();
+        EXPECT_EQ(one(db, "Select Count(*) From T"), fate == Relay::LoseAnswer ? "1" : "0");
+    }
+    other->Execute("Truncate Table T");
     for (const auto& ask : asks) {
         const auto begun = std::chrono::steady_clock::now();
         EXPECT_THAT(raised(ask).Description(), HasSubstr("not answered in time"));

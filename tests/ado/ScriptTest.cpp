@@ -1,10 +1,9 @@
-#include "ado/Engine.h"
+#include "ado/ScriptVerbs.h"
 #include "support/ScratchSchema.h"
 
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <sstream>
 
 namespace Korvane::ado::Testing {
 
@@ -41,85 +40,6 @@ std::vector<Scene> scenes() {
     return all;
 }
 
-/// Somebody who works at the database.
-struct Actor {
-    std::shared_ptr<Connection> db;
-    std::shared_ptr<Recordset> rs{};
-};
-
-std::string rowOf(const Recordset& rs) {
-    std::string row;
-    for (int i = 0; i < rs.FieldCount(); ++i) {
-        const Variant value = rs.Value(i);
-        row += (i > 0 ? "|" : "") + (value.isNull() ? "NULL" : value.text());
-    }
-    return row;
-}
-
-std::shared_ptr<Recordset> opened(const Actor& actor, const std::string& statement, LockType lock) {
-    auto rs = Recordset::create();
-    if (lock == LockType::Optimistic) rs->CursorType(CursorType::Keyset);
-    rs->LockType(lock);
-    rs->Open(statement, actor.db);
-    return rs;
-}
-
-std::string rowsOf(const Actor& actor, const std::string& statement) {
-    std::string rows;
-    for (const auto rs = opened(actor, statement, LockType::ReadOnly); !rs->Eof(); rs->MoveNext())
-        rows += (rows.empty() ? "" : " ") + rowOf(*rs);
-    return rows;
-}
-
-std::string typesOf(const Actor& actor, const std::string& statement) {
-    const auto rs = opened(actor, statement, LockType::ReadOnly);
-    std::string types;
-    for (int i = 0; i < rs->FieldCount(); ++i)
-        types += (i > 0 ? " " : "") + rs->Fields(i).Name() + ":" +
-                 std::to_string(static_cast<int>(rs->FieldType(i)));
-    return types;
-}
-
-/// What an actor can do, with the text that comes of it.
-using Verb = std::function<std::string(Actor&, const std::string&)>;
-
-std::string begin(const Actor& actor, TransactionFor use) {
-    return std::to_string(actor.db->BeginTrans(use));
-}
-
-const std::map<std::string, Verb>& verbs() {
-    static const std::map<std::string, Verb> all{
-        {"does", [](Actor& a, const auto& text) { return std::to_string(a.db->Execute(text)); }},
-        {"asks", [](Actor& a, const auto& text) { return rowsOf(a, text); }},
-        {"types", [](Actor& a, const auto& text) { return typesOf(a, text); }},
-        {"begins", [](Actor& a, const auto&) { return begin(a, TransactionFor::Writing); }},
-        {"reads", [](Actor& a, const auto&) { return begin(a, TransactionFor::Reading); }},
-        {"commits", [](Actor& a, const auto&) { return a.db->CommitTrans(), ""; }},
-        {"undoes", [](Actor& a, const auto&) { return a.db->RollbackTrans(), ""; }},
-        {"level", [](Actor& a, const auto&) { return std::to_string(a.db->transactionLevel()); }},
-        {"closes", [](Actor& a, const auto&) { return a.db->Close(), ""; }},
-        {"leaves", [](Actor& a, const auto&) { return a.db.reset(), ""; }},
-        {"opens",
-         [](Actor& a, const auto& text) {
-             a.rs = opened(a, text, LockType::Optimistic);
-             return rowOf(*a.rs);
-         }},
-        {"puts",
-         [](Actor& a, const auto& text) {
-             a.rs->SetValue(0, text == "NULL" ? Variant::null() : Variant(text));
-             return a.rs->Update(), rowOf(*a.rs);
-         }},
-    };
-    return all;
-}
-
-/// The next word of a line, which is taken off it.
-std::string word(std::string& line) {
-    const std::string first = line.substr(0, line.find(' '));
-    line.erase(0, first.size() + 1);
-    return first;
-}
-
 } // namespace
 
 class Script : public testing::TestWithParam<Scene> {
@@ -134,7 +54,7 @@ class Script : public testing::TestWithParam<Scene> {
             mNames.emplace_back(name, mEngine->declaration(type));
     }
 
-    void perform(std::string line) {
+    void play(std::string line) {
         for (const auto& [name, meaning] : mNames)
             for (std::size_t at; (at = line.find(name)) != std::string::npos;)
                 line.replace(at, name.size(), meaning);
@@ -161,7 +81,7 @@ class Script : public testing::TestWithParam<Scene> {
         if (who == "raw") return mEngine->foreign(line);
         Actor& actor = mActors[who];
         if (!actor.db) actor.db = who == "lent" ? mEngine->lend() : mEngine->connect();
-        return verbs().at(what)(actor, line);
+        return perform(actor, what, line);
     }
 
     /// "number", or "number/code", and what is said, in any order, with " & " between.
@@ -188,7 +108,7 @@ class Script : public testing::TestWithParam<Scene> {
 TEST_P(Script, ComesTrue) {
     for (const std::string& line : GetParam().lines) {
         SCOPED_TRACE(line);
-        perform(line);
+        play(line);
         if (HasFatalFailure()) return;
     }
 }

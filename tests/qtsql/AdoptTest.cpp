@@ -1,5 +1,6 @@
 #include <korvane/qtsql/Adopt.h>
 
+#include "support/Errors.h"
 #include "support/HostDatabase.h"
 #include "support/PanelDesk.h"
 
@@ -14,23 +15,12 @@
 #include <sqlite3.h>
 
 #include <filesystem>
-#include <functional>
 
 namespace Korvane::Testing {
 
 using testing::HasSubstr;
 
 namespace {
-
-RuntimeError raised(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error;
-    }
-    ADD_FAILURE() << "no error";
-    return RuntimeError(0, "");
-}
 
 // How often this process has the file open.
 int timesOpen(const std::string& file) {

@@ -1,9 +1,9 @@
 #include <korvane/records/Attachment.h>
 
+#include "support/Errors.h"
 #include "support/ScratchClinic.h"
 
 #include <korvane/data/MessageLog.h>
-#include <korvane/runtime/RuntimeError.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -124,12 +124,7 @@ TEST_F(AttachmentTest, NumbersItsCategoriesFromZeroAndListsThemFromOne) {
     EXPECT_EQ(attachment.Category(), "Audio");
     for (const char* outside : {"7", "-1", "", "Image", "40000"}) {
         attachment.CategoryID(outside);
-        try {
-            attachment.Category();
-            FAIL() << outside;
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.Number(), RuntimeError::SubscriptOutOfRange) << outside;
-        }
+        EXPECT_EQ(errorOf([&] { attachment.Category(); }), RuntimeError::SubscriptOutOfRange) << outside;
     }
     const Variant pairs = attachment.ListCategories();
     std::string text;

@@ -1,8 +1,7 @@
 #include <korvane/records/Encounter.h>
 
+#include "support/Errors.h"
 #include "support/ScratchClinic.h"
-
-#include <korvane/runtime/RuntimeError.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -366,12 +365,7 @@ TEST_F(EncounterTest, HoldsItsAttachmentsByTheirIdentifiers) {
     std::shared_ptr<Attachment> attachment;
     EXPECT_FALSE(encounter.AttachmentGet(2, attachment));
     EXPECT_EQ(attachment->Description(), "nine");
-    try {
-        encounter.AttachmentLet(attachment);
-        FAIL() << "took the same attachment twice";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), RuntimeError::DuplicateKey);
-    }
+    EXPECT_EQ(errorOf([&] { encounter.AttachmentLet(attachment); }), RuntimeError::DuplicateKey);
     encounter.AttachmentLet(std::make_shared<Attachment>());
     EXPECT_EQ(encounter.AttachmentCount(), 3);
     EXPECT_TRUE(encounter.AttachmentGet(4, attachment));
