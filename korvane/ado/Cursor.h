@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace Korvane::ado {
@@ -27,6 +28,10 @@ struct FieldChange {
     Variant value;
 };
 
+/// A cell where it is, without a copy: a whole number (True is -1), a text, or nothing for any other value,
+/// Null included, and where it is not to be had so.
+using CellView = std::variant<std::monostate, std::int64_t, std::string_view>;
+
 /// How a result may be walked and written; the codes are those of a recordset's `CursorType` and `LockType`.
 enum class CursorType : int { ForwardOnly = 0, Keyset = 1, Dynamic = 2, Static = 3 };
 enum class LockType : int { ReadOnly = 1, Pessimistic = 2, Optimistic = 3, BatchOptimistic = 4 };
@@ -38,17 +43,19 @@ class Cursor {
     virtual ~Cursor() = default;
 
     /// False once its connection was closed; nothing but this may be asked then.
-    virtual bool isOpen() const = 0;
+    bool isOpen() const { return mIsOpen; }
 
     virtual std::span<const ColumnInfo> columns() const = 0;
     /// The ordinal of the column of that name (case does not count); -1 when there is none.
     virtual int columnIndex(std::string_view name) const = 0;
 
-    virtual bool atEnd() const = 0;
+    bool atEnd() const { return mAtEnd; }
     /// To the next row. Only while not `atEnd`. Engine failures are raised.
     virtual void moveNext() = 0;
     /// The value of a column of the current row, Null included, into `value` (whose storage is reused).
     virtual void value(int ordinal, Variant& value) const = 0;
+    /// The same value to be looked at: stands until the connection is used again.
+    virtual CellView peek(int ordinal) const = 0;
 
     /// The number of rows; -1 when it is not known without walking them.
     virtual std::int32_t rowCount() const = 0;
@@ -60,6 +67,11 @@ class Cursor {
     /// then shows them. ReadOnlyRecordset when the result cannot be traced to the key of one table, or was
     /// not opened for writing.
     virtual void update(std::span<const FieldChange> changes) = 0;
+
+  protected:
+    // Asked for with every cell.
+    bool mIsOpen = true;
+    bool mAtEnd = false;
 };
 
 } // namespace Korvane::ado

@@ -14,10 +14,15 @@ struct Recordset::Opened {
     int columns; ///< how many there are
     std::vector<FieldChange> pending{};
 
+    /// -1 when it is not there.
+    int find(const FieldKey& key) const {
+        const int ordinal = key.isOrdinal() ? key.ordinal() : cursor->columnIndex(key.name());
+        return ordinal < columns ? ordinal : -1;
+    }
     /// Of a field that is there; raises ItemNotFound.
     int ordinalOf(const FieldKey& key) const {
-        const int ordinal = key.isOrdinal() ? key.ordinal() : cursor->columnIndex(key.name());
-        if (ordinal < 0 || ordinal >= columns) throw RuntimeError(RuntimeError::ItemNotFound);
+        const int ordinal = find(key);
+        if (ordinal < 0) throw RuntimeError(RuntimeError::ItemNotFound);
         return ordinal;
     }
 
@@ -147,6 +152,12 @@ std::optional<int> Recordset::ValueUnlessEof(const FieldKey& key, Variant& value
     else
         open.cursor->value(ordinal, value);
     return ordinal;
+}
+
+CellView Recordset::Peek(const FieldKey& key) const {
+    if (State() == 0 || mOpened->cursor->atEnd() || !mOpened->pending.empty()) return {};
+    const int ordinal = mOpened->find(key);
+    return ordinal < 0 ? CellView() : mOpened->cursor->peek(ordinal);
 }
 
 void Recordset::SetValue(const FieldKey& key, const Variant& value) {

@@ -98,6 +98,9 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     /// The same, and the field's ordinal; at the end nothing, with `value` left alone. The key may be a view
     /// of the text in `value`: it is done with by then.
     std::optional<int> ValueUnlessEof(const FieldKey& key, Variant& value) const;
+    /// The value to be looked at, for walking very many rows: stands until the connection is used again.
+    /// Nothing where it is not to be had so; what is wrong then, the others say.
+    CellView Peek(const FieldKey& key) const;
     /// Changes the current row; written by `Update`. ReadOnlyRecordset unless opened for writing.
     void SetValue(const FieldKey& key, const Variant& value);
 

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstdint>
-#include <cstring>
 #include <utility>
 
 namespace Korvane::ado {
@@ -20,26 +18,6 @@ ResultColumns::ResultColumns(std::vector<ColumnInfo> columns)
             mHasTwins = true;
     }
 }
-
-namespace {
-
-// Letters that differ in case only give the same value; eight characters at a time.
-std::size_t nameHash(std::string_view name) {
-    constexpr std::uint64_t lowerCaseBits = 0x2020202020202020U;
-    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15U;
-    std::uint64_t hash = name.size();
-    while (!name.empty()) {
-        std::uint64_t part = 0;
-        const std::size_t length = std::min(name.size(), sizeof part);
-        std::memcpy(&part, name.data(), length);
-        hash = (hash ^ (part | lowerCaseBits)) * factor;
-        hash ^= hash >> 32;
-        name.remove_prefix(length);
-    }
-    return static_cast<std::size_t>(hash);
-}
-
-} // namespace
 
 // The slot that holds the name, or the free one where it would be.
 std::size_t ResultColumns::slotOf(std::string_view name) const {

@@ -123,12 +123,27 @@ const Variant& SQLData::DataView(const ado::FieldKey& key) {
 }
 
 void SQLData::DataInto(const ado::FieldKey& key, Variant& value) {
+    const ado::CellView cell = Peek(key);
+    if (const auto* text = std::get_if<std::string_view>(&cell)) return value.setText(*text);
     try {
         if (readable(kNothingToRead)) return readField(key, value);
     } catch (...) {
         ReportError(currentError());
     }
     value = Variant();
+}
+
+std::string_view SQLData::DataText(const ado::FieldKey& key) {
+    const ado::CellView cell = Peek(key);
+    if (const auto* text = std::get_if<std::string_view>(&cell)) return *text;
+    const Variant& value = DataView(key);
+    if (value.isText()) return value.asText();
+    mTextOfValue = value.textOrEmpty();
+    return mTextOfValue;
+}
+
+ado::CellView SQLData::Peek(const ado::FieldKey& key) const {
+    return mRecordset ? mRecordset->Peek(key) : ado::CellView();
 }
 
 void SQLData::readField(const ado::FieldKey& key, Variant& value) const {

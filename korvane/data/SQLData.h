@@ -61,6 +61,14 @@ class SQLData {
     ///
     ///     query.DataInto(0, kept);
     void DataInto(const ado::FieldKey& key, Variant& value);
+    /// The text of the same value, Empty as "": stands until the next use of this object or its connection.
+    ///
+    ///     kept = query.DataText(0);
+    std::string_view DataText(const ado::FieldKey& key);
+    /// The same value when it is a whole number (True is -1) or a text that can be had without a copy, for
+    /// reading very many cells; else nothing, and the members above have it, or say what is wrong. Stands as
+    /// long.
+    ado::CellView Peek(const ado::FieldKey& key) const;
     /// Changes the field in the current row; only in mode 2. A value equal to the current one changes
     /// nothing.
     void Data(const ado::FieldKey& key, const Variant& value);
@@ -127,6 +135,7 @@ class SQLData {
     std::string mCachedKey;
     std::optional<int> mCachedOrdinal; ///< in place of the key, when the field was asked for by ordinal
     Variant mCachedValue;
+    std::string mTextOfValue; ///< what `DataText` has handed out
     std::string mInsertColumns;
     std::string mInsertValues;
     std::string mUpdateList;

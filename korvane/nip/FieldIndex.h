@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace Korvane {
@@ -16,83 +16,74 @@ namespace Korvane {
 /// Fields are added once their record is filled; groups and fields must not be removed while it is used.
 class FieldIndex {
   public:
-    explicit FieldIndex(const std::vector<GroupRecord>& groups)
-        : mGroups(&groups), mPlaces(16, Hash{&groups}, Same{&groups}) {}
+    explicit FieldIndex(const std::vector<GroupRecord>& groups) : mGroups(groups), mSlots(1024) {}
 
-    void add(FieldPlace place) { mPlaces.insert(place); }
+    void add(FieldPlace place) {
+        if (++mCount * 2 > mSlots.size()) grow();
+        const FieldRecord& field = fieldAt(place);
+        put({hashOf(field.groupID, field.fieldName), place});
+    }
 
-    /// Every field of that name, in no particular order.
-    auto find(std::int32_t groupID, std::string_view name) const {
-        const auto [first, last] = mPlaces.equal_range(Key{groupID, name});
-        return Found<decltype(first)>{first, last};
+    /// Calls `visit(place)` for every field of that name, in no particular order.
+    template <typename Visit>
+    void forEach(std::int32_t groupID, std::string_view name, Visit&& visit) const {
+        const std::uint32_t hash = hashOf(groupID, name);
+        const std::size_t mask = mSlots.size() - 1;
+        for (std::size_t at = hash & mask; mSlots[at].place != free; at = (at + 1) & mask) {
+            if (mSlots[at].hash != hash) continue;
+            const FieldRecord& field = fieldAt(mSlots[at].place);
+            if (field.groupID == groupID && sameName(field.fieldName, name)) visit(mSlots[at].place);
+        }
     }
 
     /// The first field of exactly that name (case counts); null when there is none.
     const FieldRecord* first(std::int32_t groupID, std::string_view name) const {
         const FieldRecord* found = nullptr;
         std::int16_t lowest = 0;
-        for (const FieldPlace place : find(groupID, name)) {
-            const FieldRecord& field = fieldAt(place, *mGroups);
-            if (field.fieldName != name || (found && place.field > lowest)) continue;
+        forEach(groupID, name, [&](FieldPlace place) {
+            const FieldRecord& field = fieldAt(place);
+            if (field.fieldName != name || (found && place.field > lowest)) return;
             found = &field;
             lowest = place.field;
-        }
+        });
         return found;
     }
 
   private:
-    template <typename Iterator>
-    struct Found {
-        Iterator first;
-        Iterator last;
-        Iterator begin() const { return first; }
-        Iterator end() const { return last; }
-        bool empty() const { return first == last; }
+    static constexpr FieldPlace free{}; ///< no field has it: they are counted from 1
+
+    struct Slot {
+        std::uint32_t hash = 0;
+        FieldPlace place = free;
     };
 
-    struct Key {
-        std::int32_t groupID;
-        std::string_view name;
-    };
-
-    static Key keyOf(const Key& key, const std::vector<GroupRecord>*) { return key; }
-    static const FieldRecord& fieldAt(FieldPlace place, const std::vector<GroupRecord>& groups) {
-        return groups[static_cast<std::size_t>(place.group)].fields[static_cast<std::size_t>(place.field)];
-    }
-    static Key keyOf(FieldPlace place, const std::vector<GroupRecord>* groups) {
-        const FieldRecord& field = fieldAt(place, *groups);
-        return {field.groupID, field.fieldName};
+    const FieldRecord& fieldAt(FieldPlace place) const {
+        return mGroups[static_cast<std::size_t>(place.group)].fields[static_cast<std::size_t>(place.field)];
     }
 
-    struct Hash {
-        using is_transparent = void;
-        const std::vector<GroupRecord>* groups;
+    static std::uint32_t hashOf(std::int32_t groupID, std::string_view name) {
+        constexpr std::uint32_t factor = 0x9E3779B1U;
+        return static_cast<std::uint32_t>(nameHash(name)) ^ static_cast<std::uint32_t>(groupID) * factor;
+    }
 
-        std::size_t operator()(const auto& place) const {
-            const Key key = keyOf(place, groups);
-            std::size_t hash = 1469598103934665603u ^ static_cast<std::uint32_t>(key.groupID);
-            for (const char c : key.name) {
-                const auto byte = static_cast<unsigned char>(c);
-                const bool capital = byte >= 'A' && byte <= 'Z';
-                hash = (hash ^ (capital ? byte + 32u : byte)) * 1099511628211u;
-            }
-            return hash;
+    void put(const Slot& slot) {
+        const std::size_t mask = mSlots.size() - 1;
+        std::size_t at = slot.hash & mask;
+        while (mSlots[at].place != free)
+            at = (at + 1) & mask;
+        mSlots[at] = slot;
+    }
+
+    void grow() {
+        const std::vector<Slot> former = std::exchange(mSlots, std::vector<Slot>(mSlots.size() * 2));
+        for (const Slot& slot : former) {
+            if (slot.place != free) put(slot);
         }
-    };
+    }
 
-    struct Same {
-        using is_transparent = void;
-        const std::vector<GroupRecord>* groups;
-
-        bool operator()(const auto& a, const auto& b) const {
-            const Key left = keyOf(a, groups);
-            const Key right = keyOf(b, groups);
-            return left.groupID == right.groupID && sameName(left.name, right.name);
-        }
-    };
-
-    const std::vector<GroupRecord>* mGroups;
-    std::unordered_multiset<FieldPlace, Hash, Same> mPlaces;
+    const std::vector<GroupRecord>& mGroups;
+    std::vector<Slot> mSlots; ///< open addressing, at most half of them taken; a power of 2
+    std::size_t mCount = 0;
 };
 
 } // namespace Korvane

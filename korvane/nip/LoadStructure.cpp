@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 #include <unordered_map>
 #include <utility>
 
@@ -49,23 +50,30 @@ enum ValueColumn { allowedValue, isDefault, valueFieldName, valueGroupID };
 
 constexpr std::string_view commentSuffix = "_COMMENTS";
 
-void setText(std::string& text, const Variant& value) {
-    if (value.isText())
-        text = value.asText();
+/// Whether a whole number becomes one of the model's as it is.
+template <typename Number>
+bool holds(std::int64_t whole) {
+    if constexpr (std::is_same_v<Number, bool>)
+        return true;
+    else if constexpr (std::is_integral_v<Number>)
+        return std::in_range<Number>(whole);
     else
-        text = value.textOrEmpty();
+        return std::in_range<std::int32_t>(whole);
 }
 
 /// A cell as the number that the model keeps; a failure says which cell of which field it was.
 template <typename Number>
-Number numberAt(SQLData& row, int column, Number (Variant::*convert)() const, const std::string& fieldName) {
+Number numberAt(SQLData& row, int column, Number (Variant::*convert)() const, std::string_view fieldName) {
+    const ado::CellView plain = row.Peek(column);
+    if (const auto* whole = std::get_if<std::int64_t>(&plain); whole && holds<Number>(*whole))
+        return static_cast<Number>(*whole);
     Variant cell;
     row.DataInto(column, cell);
     try {
         return (cell.*convert)();
     } catch (const RuntimeError& error) {
-        throw RuntimeError(error.Number(), row.Fields(column)->Name() + " of the field " + fieldName + ": " +
-                                               error.Description());
+        throw RuntimeError(error.Number(), row.Fields(column)->Name() + " of the field " +
+                                               std::string(fieldName) + ": " + error.Description());
     }
 }
 
@@ -75,10 +83,10 @@ void fillField(FieldRecord& field, SQLData& row) {
         return numberAt(row, column, convert, field.fieldName);
     };
     field.id = number(fieldID, &Variant::toInt32);
-    setText(field.caption, row.DataView(fieldCaption));
-    setText(field.groupName, row.DataView(fieldGroupName));
+    field.caption = row.DataText(fieldCaption);
+    field.groupName = row.DataText(fieldGroupName);
     field.groupID = number(fieldGroupID, &Variant::toInt32);
-    setText(field.displayType, row.DataView(fieldDisplayType));
+    field.displayType = row.DataText(fieldDisplayType);
     field.maxLength = number(fieldMaxLength, &Variant::toInt16);
     field.storedLength = field.maxLength;
     field.initialValueRule = number(fieldInitialValueRule, &Variant::toInt16);
@@ -96,12 +104,13 @@ Variant roomyList() {
     return list;
 }
 
-void addAllowedValue(FieldRecord& field, const Variant& value, bool byDefault) {
+void addAllowedValue(FieldRecord& field, SQLData& row, std::string_view fieldName) {
+    const bool byDefault = numberAt(row, isDefault, &Variant::toBoolean, fieldName);
     if (field.valueListCount == 0) field.valueList = roomyList();
     std::vector<Variant>& values = field.valueList.array().elements;
     field.valueListCount = countedUp(field.valueListCount, "values of the field ", field.fieldName);
-    values.push_back(value);
-    if (byDefault) field.defaultValue = value;
+    row.DataInto(allowedValue, values.emplace_back());
+    if (byDefault) field.defaultValue = values.back();
 }
 
 } // namespace
@@ -125,8 +134,7 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
         statements.push_back(mConnection->schemaMarkStatement());
         mConnection->Announce(statements);
         FieldIndex index(mGroups);
-        loadGroups();
-        former.clear(); // takes its time: the server is at work on the fields meanwhile
+        loadGroups(former);
         loadFields(index);
         loadAllowedValues(index);
         mRevision = readCell(revisionStatement);
@@ -137,16 +145,22 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
     });
 }
 
-void cNIP::loadGroups() {
+/// What was loaded before goes here, where a server is at work on the fields; the room of its fields is used
+/// again.
+void cNIP::loadGroups(std::vector<GroupRecord>& former) {
     SQLData row;
     for (run(row, mConnection, structureStatements[0]); !row.Eof(); row.NextRow()) {
         countedUp(GroupCount(), "groups");
         GroupRecord& group = mGroups.emplace_back();
-        setText(group.tableName, row.DataView(groupTable));
-        setText(group.groupName, row.DataView(groupName));
-        setText(group.groupID, row.DataView(groupIdentifier));
+        group.tableName = row.DataText(groupTable);
+        group.groupName = row.DataText(groupName);
+        group.groupID = row.DataText(groupIdentifier);
         raiseFailure(row);
+        if (mGroups.size() > former.size()) continue;
+        group.fields = std::move(former[mGroups.size() - 1].fields);
+        group.fields.clear();
     }
+    former.clear();
 }
 
 void cNIP::loadFields(FieldIndex& index) {
@@ -156,22 +170,19 @@ void cNIP::loadFields(FieldIndex& index) {
         groupOfTable.try_emplace(groupAt(i).tableName, i);
 
     std::int16_t place = 0;
-    std::string name;
-    std::string table;
     SQLData row;
     for (run(row, mConnection, structureStatements[1]); !row.Eof(); row.NextRow()) {
-        setText(name, row.DataView(fieldFieldName));
         // The statement leaves out the key column as the engine compares texts, perhaps by their case.
-        if (sameName(name, "EncounterID")) continue;
-        setText(table, row.DataView(fieldTable));
+        if (sameName(row.DataText(fieldFieldName), "EncounterID")) continue;
+        const std::string_view table = row.DataText(fieldTable);
         if (table != groupAt(place).tableName) {
             const auto found = groupOfTable.find(table);
             place = found == groupOfTable.end() ? GroupCount() : found->second;
         }
         GroupRecord& group = mGroups[static_cast<std::size_t>(place)];
         FieldRecord& field = appendField(group);
-        field.fieldName = name;
         field.tableName = table;
+        field.fieldName = row.DataText(fieldFieldName);
         fillField(field, row);
         raiseFailure(row);
         placeInGrid(group, field, index);
@@ -212,18 +223,12 @@ void cNIP::beginRow(GroupRecord& group, FieldRecord& field) {
 
 void cNIP::loadAllowedValues(const FieldIndex& index) {
     std::string name;
-    Variant nameCell;
-    Variant value;
     SQLData row;
     for (run(row, mConnection, structureStatements[2]); !row.Eof(); row.NextRow()) {
-        row.DataInto(valueFieldName, nameCell);
-        setText(name, nameCell);
-        const auto fields = index.find(numberAt(row, valueGroupID, &Variant::toInt32, name), name);
-        if (fields.empty()) continue;
-        const bool byDefault = numberAt(row, isDefault, &Variant::toBoolean, name);
-        row.DataInto(allowedValue, value);
-        for (const FieldPlace& place : fields)
-            addAllowedValue(at(place.group, place.field), value, byDefault);
+        name = row.DataText(valueFieldName);
+        const std::int32_t groupID = numberAt(row, valueGroupID, &Variant::toInt32, name);
+        index.forEach(groupID, name,
+                      [&](FieldPlace place) { addAllowedValue(at(place.group, place.field), row, name); });
         raiseFailure(row);
     }
 }

@@ -181,7 +181,7 @@ class cNIP {
     FieldRecord& at(std::int16_t group, std::int16_t field);
     const GroupRecord& groupAt(std::int16_t group) const;
 
-    void loadGroups();
+    void loadGroups(std::vector<GroupRecord>& former);
     void loadFields(FieldIndex& index);
     void loadAllowedValues(const FieldIndex& index);
     FieldRecord& appendField(GroupRecord& group);

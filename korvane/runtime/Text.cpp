@@ -1,6 +1,8 @@
 #include <korvane/runtime/Text.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace Korvane {
 
@@ -29,6 +31,22 @@ std::string lowerCase(std::string_view text) {
 
 bool sameName(std::string_view a, std::string_view b) {
     return a == b || (a.size() == b.size() && std::ranges::equal(a, b, {}, lower, lower));
+}
+
+// Letters that differ in case only give the same value; eight characters at a time.
+std::size_t nameHash(std::string_view name) {
+    constexpr std::uint64_t lowerCaseBits = 0x2020202020202020U;
+    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15U;
+    std::uint64_t hash = name.size();
+    while (!name.empty()) {
+        std::uint64_t part = 0;
+        const std::size_t length = std::min(name.size(), sizeof part);
+        std::memcpy(&part, name.data(), length);
+        hash = (hash ^ (part | lowerCaseBits)) * factor;
+        hash ^= hash >> 32;
+        name.remove_prefix(length);
+    }
+    return static_cast<std::size_t>(hash);
 }
 
 std::string_view trim(std::string_view text) {

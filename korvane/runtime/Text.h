@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,6 +13,8 @@ std::string lowerCase(std::string_view text);
 
 /// Equal without regard to the case of ASCII letters, as names of tables, columns and fields are compared.
 bool sameName(std::string_view a, std::string_view b);
+/// A number that names have in common when they are the same.
+std::size_t nameHash(std::string_view name);
 
 /// Without blanks at both ends (blanks only: line breaks and tabs stay).
 std::string_view trim(std::string_view text);

@@ -131,6 +131,40 @@ TEST_P(Recordsets, WriteChangedFieldsBackByTheKeyOfTheTable) {
     EXPECT_EQ(one("Select Name From Visit Where ID=1"), "a");
 }
 
+TEST_P(Recordsets, LetTextsAndWholeNumbersBeSeenAsTheyAre) {
+    mDb->Execute("Insert into Visit ([ID],[Name],[Note],[Day],[Done],[Size],[Amount],[Price]) values "
+                 "(-4,'it''s ','','1/4/2026',True,-32768,1,1),(2000000000,'5','6','1/4/2026',False,0,7,8)");
+    const auto rs = query("Select * From Visit Order By ID");
+    int seen = 0;
+    for (; !rs->Eof(); rs->MoveNext()) {
+        for (int i = 0; i < rs->FieldCount(); ++i) {
+            const CellView cell = rs->Peek(i);
+            const Variant value = rs->Value(i);
+            if (const auto* text = std::get_if<std::string_view>(&cell)) {
+                EXPECT_EQ(value, Variant(*text));
+            } else if (const auto* whole = std::get_if<std::int64_t>(&cell)) {
+                EXPECT_EQ(value.toInt32(), *whole) << i;
+            }
+            seen += cell.index() != 0 && rs->FieldType(i) != DataType::Boolean ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(seen, 3 * 3 + 2 * 4) << "numbers and names of all, notes of those that have one";
+    EXPECT_EQ(rs->Peek(0).index(), 0u) << "at the end";
+
+    const auto written = writable("Select Name From Visit Where ID=1");
+    const auto looksAs = [&](std::string_view text) {
+        const CellView cell = written->Peek("Name");
+        return cell.index() == 0 || cell == CellView(text);
+    };
+    written->SetValue("Name", "new");
+    EXPECT_TRUE(looksAs("new"));
+    written->Update();
+    EXPECT_TRUE(looksAs("new"));
+    EXPECT_EQ(written->Peek("Size").index(), 0u) << "no such field";
+    written->Close();
+    EXPECT_EQ(written->Peek("Name").index(), 0u);
+}
+
 TEST_P(Recordsets, KeepChangesThatCannotBeWritten) {
     const auto rs = writable("Select * From Visit Order By ID");
     rs->SetValue("Day", "not a day");

@@ -128,6 +128,31 @@ TEST(LoadStructure, GivesEveryFieldItsOwnAllowedValues) {
     EXPECT_TRUE(nip.DefaultValue(2, 1).isEmpty());
 }
 
+TEST(LoadStructure, TellsTheFieldsOfALargeNipApart) {
+    constexpr std::int16_t fields = 400;
+    NipDatabase nips;
+    for (const std::int32_t id : {2, 3}) {
+        nips.group(id, "Group", "NIP_Custom" + std::to_string(id));
+        for (int field = 1; field <= fields; ++field) {
+            const std::string name = "Field" + std::to_string(field);
+            nips.define(id, name);
+            if (field % 25 == 0) nips.allowed(id, name, std::to_string(id) + "/" + std::to_string(field), 1);
+        }
+    }
+    cNIP nip;
+    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    for (const std::int16_t group : {std::int16_t{1}, std::int16_t{2}}) {
+        ASSERT_EQ(nip.FieldCount(group), fields);
+        for (std::int16_t field = 1; field <= fields; ++field) {
+            const std::string own = std::to_string(group + 1) + "/" + std::to_string(field);
+            ASSERT_EQ(nip.ValueListCount(group, field), field % 25 == 0 ? 1 : 0) << own;
+            if (field % 25 == 0) {
+                ASSERT_EQ(nip.ValueList(group, field).array().at(1), Variant(own));
+            }
+        }
+    }
+}
+
 TEST(LoadStructure, EndsWithFalseAndALineWhenAStatementFails) {
     NipDatabase nips;
     nips.group(2, "Vitals", "NIP_Custom1");

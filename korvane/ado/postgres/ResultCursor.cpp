@@ -15,7 +15,9 @@ ResultCursor::ResultCursor(Session& session, std::shared_ptr<const pg_result> ro
                            ado::LockType lockType, Writeback writeback)
     : mSession(&session), mRows(std::move(rows)), mColumns(std::move(columns)),
       mRowCount(PQntuples(mRows.get())), mCursorType(cursorType), mLockType(lockType),
-      mWriteback(std::move(writeback)) {}
+      mWriteback(std::move(writeback)) {
+    mAtEnd = mRowCount == 0;
+}
 
 ResultCursor::~ResultCursor() {
     close();
@@ -24,6 +26,7 @@ ResultCursor::~ResultCursor() {
 void ResultCursor::close() noexcept {
     if (mSession) mSession->forget(*this);
     mSession = nullptr;
+    mIsOpen = false;
 }
 
 std::span<const ColumnInfo> ResultCursor::columns() const {
@@ -39,12 +42,18 @@ std::int32_t ResultCursor::rowCount() const {
     return mCursorType == ado::CursorType::ForwardOnly ? -1 : mRowCount;
 }
 
-// Blanks behind a text of fixed length mean nothing to the engine.
+void ResultCursor::moveNext() {
+    mAtEnd = ++mRow >= mRowCount;
+    constexpr int many = 128;
+    if (mRow % many == 0) mSession->takeIn();
+}
+
+// Blanks behind a text of fixed length mean nothing to the engine. No text of it holds a NUL.
 std::string_view ResultCursor::stored(int column) const {
-    const std::string_view text(PQgetvalue(mRows.get(), mRow, column),
-                                static_cast<std::size_t>(PQgetlength(mRows.get(), mRow, column)));
+    const std::string_view text(PQgetvalue(mRows.get(), mRow, column));
+    if (!text.ends_with(' ') || PQftype(mRows.get(), column) != types::blankPadded) return text;
     const bool isText = mColumns->all()[static_cast<std::size_t>(column)].type == DataType::VarWChar;
-    if (!isText || PQftype(mRows.get(), column) != types::blankPadded) return text;
+    if (!isText) return text;
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
@@ -69,6 +78,13 @@ void ResultCursor::value(int ordinal, Variant& value) const {
         value = Variant::null();
     else
         read(text, type, value);
+}
+
+CellView ResultCursor::peek(int ordinal) const {
+    if (!mWritten.empty()) return {};
+    const std::string_view text = stored(ordinal);
+    if (text.empty() && PQgetisnull(mRows.get(), mRow, ordinal)) return {};
+    return postgres::peek(text, mColumns->all()[static_cast<std::size_t>(ordinal)].type);
 }
 
 // The table's columns behind the fields to be changed; none when one of them is no such column.

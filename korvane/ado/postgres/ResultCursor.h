@@ -40,12 +40,11 @@ class ResultCursor final : public Cursor {
 
     void close() noexcept;
 
-    bool isOpen() const override { return mSession != nullptr; }
     std::span<const ColumnInfo> columns() const override;
     int columnIndex(std::string_view name) const override;
-    bool atEnd() const override { return mRow >= mRowCount; }
-    void moveNext() override { ++mRow; }
+    void moveNext() override;
     void value(int ordinal, Variant& value) const override;
+    CellView peek(int ordinal) const override;
     std::int32_t rowCount() const override;
     ado::CursorType cursorType() const override { return mCursorType; }
     ado::LockType lockType() const override { return mLockType; }

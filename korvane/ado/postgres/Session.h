@@ -59,6 +59,8 @@ class Session final : public Connection {
     void rereadSchema();
     Answer runForWriting(Command command);
     void forget(const ResultCursor& cursor);
+    /// The same, now and then while they walk their rows: keeps what is on its way behind them coming.
+    void takeIn() { mWire->takeIn(); }
 
   private:
     /// Announced statements on their way.

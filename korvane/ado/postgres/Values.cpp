@@ -150,4 +150,23 @@ void read(std::string_view cell, DataType type, Variant& value) {
     value.setText(cell);
 }
 
+CellView peek(std::string_view cell, DataType type) {
+    switch (type) {
+    case DataType::VarWChar:
+    case DataType::LongVarWChar:
+        return cell;
+    case DataType::Boolean:
+        if (cell == "t") return std::int64_t{-1};
+        if (cell == "f") return std::int64_t{0};
+        return {};
+    case DataType::SmallInt:
+    case DataType::Integer:
+    case DataType::BigInt:
+        if (const auto number = readAs<std::int64_t>(cell)) return *number;
+        return {};
+    default:
+        return {};
+    }
+}
+
 } // namespace Korvane::ado::postgres

@@ -27,4 +27,7 @@ TypeId parameterType(const sql::ParameterRule& rule, const sql::ColumnValue& val
 /// out as text.
 void read(std::string_view cell, DataType type, Variant& value);
 
+/// The same value to be looked at.
+CellView peek(std::string_view cell, DataType type);
+
 } // namespace Korvane::ado::postgres

@@ -195,6 +195,10 @@ Answer Wire::next() {
     }
 }
 
+void Wire::takeIn() {
+    if (mUnderWay && PQconsumeInput(mHandle) != 0) PQisBusy(mHandle);
+}
+
 Answer Wire::end() {
     Answer failure;
     for (;;) {

@@ -56,6 +56,9 @@ class Wire {
     void begin(std::span<const Command> commands);
     Answer next();
     Answer end();
+    /// Takes in what has come of the answers, without waiting for more: a server whose answers nobody takes
+    /// stops at some time and waits. A failure is found out by whoever asks for the answer.
+    void takeIn();
 
     bool isUp() const;
     bool isLent() const { return !mOwned; }

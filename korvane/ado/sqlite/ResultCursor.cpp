@@ -14,8 +14,9 @@
 namespace Korvane::ado::sqlite {
 
 ResultCursor::ResultCursor(Session& session, Lease lease, bool atEnd)
-    : mSession(&session), mLease(std::move(lease)), mColumns(mLease.shape->columns), mLive(!atEnd),
-      mAtEnd(atEnd) {}
+    : mSession(&session), mLease(std::move(lease)), mColumns(mLease.shape->columns), mLive(!atEnd) {
+    mAtEnd = atEnd;
+}
 
 ResultCursor::~ResultCursor() {
     close();
@@ -26,6 +27,7 @@ void ResultCursor::close() noexcept {
     mSession->giveBack(std::move(mLease));
     mSession->forget(*this);
     mSession = nullptr;
+    mIsOpen = false;
     mLive = false;
     mAtEnd = true;
 }
@@ -68,6 +70,12 @@ void ResultCursor::value(int ordinal, Variant& value) const {
     } else {
         value = mCells[mRow * width() + place];
     }
+}
+
+CellView ResultCursor::peek(int ordinal) const {
+    if (!mLive) return {};
+    return sqlite::peek(mLease.statement.get(), ordinal,
+                        mColumns->all()[static_cast<std::size_t>(ordinal)].type);
 }
 
 void ResultCursor::spool() {

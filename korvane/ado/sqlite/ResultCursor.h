@@ -37,12 +37,11 @@ class ResultCursor final : public Cursor {
     void become(CursorType cursorType, LockType lockType, Writeback writeback = {});
     void close() noexcept;
 
-    bool isOpen() const override { return mSession != nullptr; }
     std::span<const ColumnInfo> columns() const override;
     int columnIndex(std::string_view name) const override;
-    bool atEnd() const override { return mAtEnd; }
     void moveNext() override;
     void value(int ordinal, Variant& value) const override;
+    CellView peek(int ordinal) const override;
     std::int32_t rowCount() const override { return mRowCount; }
     ado::CursorType cursorType() const override { return mCursorType; }
     ado::LockType lockType() const override { return mLockType; }
@@ -60,8 +59,7 @@ class ResultCursor final : public Cursor {
     Session* mSession;
     Lease mLease;
     std::shared_ptr<const ResultColumns> mColumns;
-    bool mLive = false; ///< the statement stands on the current row
-    bool mAtEnd = false;
+    bool mLive = false;          ///< the statement stands on the current row
     std::vector<Variant> mCells; ///< rows in memory, the current one at mRow
     std::size_t mRow = 0;
     std::int32_t mRowCount = -1;

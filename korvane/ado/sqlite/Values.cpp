@@ -81,4 +81,18 @@ void read(sqlite3_stmt* statement, int column, DataType type, Variant& value) {
     value.setText(text);
 }
 
+CellView peek(sqlite3_stmt* statement, int column, DataType type) {
+    switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_TEXT:
+        if (type != DataType::Date) return textOf(statement, column);
+        return {};
+    case SQLITE_INTEGER:
+        if (type == DataType::SmallInt || type == DataType::Integer || type == DataType::BigInt)
+            return std::int64_t{sqlite3_column_int64(statement, column)};
+        return {};
+    default:
+        return {};
+    }
+}
+
 } // namespace Korvane::ado::sqlite

@@ -22,4 +22,7 @@ int bind(sqlite3_stmt* statement, int parameter, const sql::ColumnValue& value, 
 /// decimal.
 void read(sqlite3_stmt* statement, int column, DataType type, Variant& value);
 
+/// The same value to be looked at.
+CellView peek(sqlite3_stmt* statement, int column, DataType type);
+
 } // namespace Korvane::ado::sqlite
