@@ -1,0 +1,139 @@
+#include <korvane/voice/pocketsphinx/Grammar.h>
+
+#include <algorithm>
+#include <set>
+
+namespace Korvane::voice {
+
+namespace {
+
+constexpr std::string_view months =
+    "january february march april may june july august september october november december";
+constexpr std::string_view ones = "one two three four five six seven eight nine";
+constexpr std::string_view teens =
+    "ten eleven twelve thirteen fourteen fifteen sixteen seventeen eighteen nineteen";
+constexpr std::string_view tens = "twenty thirty forty fifty sixty seventy eighty ninety";
+constexpr std::string_view ordinals = "first second third fourth fifth sixth seventh eighth ninth";
+constexpr std::string_view laterOrdinals = "tenth eleventh twelfth thirteenth fourteenth fifteenth sixteenth "
+                                           "seventeenth eighteenth nineteenth twentieth thirtieth";
+constexpr std::string_view zeros = "oh zero";
+
+/// The likeliest words of the language, without those that sound like a number.
+constexpr std::string_view commonWords = "the i and a of you that in it is but know was have they on like be "
+                                         "not it's so with are this he yeah just my we as "
+                                         "what if do at or don't about i'm all think there would from me "
+                                         "people can your get out no that's said up more when an "
+                                         "had right well really has will because how time them she been by "
+                                         "some who their his were now then go good mean than "
+                                         "going her see could much other you're got even only want did him "
+                                         "something very where here way lot make say years "
+                                         "back any new our also";
+
+// Costs, in nats; sound itself is overconfident, so they are large. Chosen by measuring, see docs/voice.md.
+constexpr double otherSentence = 25, otherWord = 30, command = 25;
+constexpr double year = 2, rareYear = 30, digits = 15, restOfDate = 10;
+
+void addDay(WordGraph& graph, int from, int to, double cost) {
+    for (const auto words : {ones, teens, ordinals, laterOrdinals})
+        graph.either(from, to, words, cost);
+    graph.either(from, to, "twenty thirty", cost);
+    const int twenty = graph.state(), thirty = graph.state();
+    graph.either(from, twenty, "twenty", cost);
+    for (const auto words : {ones, ordinals})
+        graph.either(twenty, to, words);
+    graph.either(from, thirty, "thirty", cost);
+    graph.either(thirty, to, "one first");
+}
+
+/// Ten to ninety nine; the ones need their zero: "oh five".
+void addPair(WordGraph& graph, int from, int to, double zeroCost) {
+    graph.either(from, to, teens);
+    graph.either(from, to, tens);
+    const int ten = graph.state();
+    graph.either(from, ten, tens);
+    graph.either(ten, to, ones);
+    const int zero = graph.state();
+    graph.either(from, zero, zeros, zeroCost);
+    graph.either(zero, to, ones);
+}
+
+void addYear(WordGraph& graph, int from, int to, double cost) {
+    const int nineteen = graph.state(), twenty = graph.state();
+    graph.either(from, nineteen, "nineteen", cost);
+    graph.either(from, nineteen, "eighteen", cost + rareYear / 2);
+    graph.either(nineteen, to, "hundred", year);
+    addPair(graph, nineteen, to, year);
+    // Years after two thousand are seldom said with a zero.
+    graph.either(from, twenty, "twenty", cost);
+    addPair(graph, twenty, to, rareYear);
+
+    const int two = graph.state(), thousand = graph.state(), rest = graph.state(), ten = graph.state();
+    graph.either(from, two, "two", cost);
+    graph.either(two, to, "thousand");
+    graph.either(two, thousand, "thousand");
+    graph.either(thousand, rest, "and");
+    graph.skip(thousand, rest);
+    graph.either(rest, to, ones);
+    graph.either(rest, to, teens);
+    graph.either(rest, to, "twenty thirty");
+    graph.either(rest, ten, "twenty thirty");
+    graph.either(ten, to, ones);
+}
+
+/// "one nine eight four", "two oh oh five".
+void addDigits(WordGraph& graph, int from, int to) {
+    const int one = graph.state(), two = graph.state(), century = graph.state(), decade = graph.state();
+    graph.either(from, one, "one", digits);
+    graph.either(one, century, "eight nine");
+    graph.either(from, two, "two", digits);
+    graph.either(two, century, zeros);
+    for (const auto words : {ones, zeros}) {
+        graph.either(century, decade, words);
+        graph.either(decade, to, words);
+    }
+}
+
+void addDates(WordGraph& graph) {
+    constexpr int from = WordGraph::start, to = WordGraph::end;
+    graph.either(from, to, months);
+    addDay(graph, from, to, 0);
+    addYear(graph, from, to, year);
+    addDigits(graph, from, to);
+
+    const int month = graph.state(), day = graph.state();
+    graph.either(from, month, months, restOfDate);
+    addDay(graph, month, day, 0);
+    graph.skip(day, to);
+    addYear(graph, day, to, year);
+}
+
+} // namespace
+
+WordGraph wantedSentences(const Wanted& wanted) {
+    WordGraph graph;
+    // A command counts as an exact sentence, a value against it as one of many.
+    for (const auto& phrase : wanted.commands)
+        graph.sequence(WordGraph::start, WordGraph::end, phrase, wanted.dates ? command : 0);
+    if (wanted.dates) addDates(graph);
+    return graph;
+}
+
+void addOtherSentences(WordGraph& graph) {
+    WordGraph all = graph;
+    for (const auto some : {commonWords, months, ones, teens, tens, ordinals, laterOrdinals, zeros})
+        all.either(0, 0, some);
+    all.either(0, 0, "hundred thousand");
+    std::set<std::string> words;
+    for (const auto& arc : all.arcs())
+        words.insert(arc.word);
+    words.erase("");
+
+    const int before = graph.state(), behind = graph.state();
+    graph.skip(WordGraph::start, before, otherSentence);
+    for (const auto& word : words)
+        graph.either(before, behind, word, otherWord);
+    graph.skip(behind, before);
+    graph.skip(behind, WordGraph::end);
+}
+
+} // namespace Korvane::voice

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace Korvane::Testing {
+
+using Sound = std::vector<std::int16_t>;
+
+/// Who speaks: a voice of espeak-ng ("en-us+f2") or of flite ("flite slt"), words a minute and pitch.
+struct Speaker {
+    std::string voice;
+    int speed = 150;
+    int pitch = 50;
+};
+
+/// Whether espeak-ng and sox are there; without them nobody speaks.
+bool canSpeak();
+/// Whether flite is there, too, whose voices are put together from recordings of people.
+bool hasRecordedVoices();
+
+/// A speaker by chance, of espeak-ng or of flite.
+Speaker anySpeaker(std::mt19937& chance, bool recorded);
+
+/// What somebody says, without silence around it, at a level of -9 dB. Empty when the program failed.
+Sound speak(const Speaker& speaker, const std::string& words);
+
+/// Half a minute of "white", "pink" or "babble".
+const Sound& noise(const std::string& kind);
+
+/// The sound with silence around it, in noise that lies `decibels` below it; no noise for an empty kind.
+Sound amid(const Sound& sound, const std::string& kind, double decibels, std::mt19937& chance);
+
+/// How long the silence before and behind is, in samples.
+constexpr std::size_t silenceBefore = 8000, silenceBehind = 8000;
+
+} // namespace Korvane::Testing
