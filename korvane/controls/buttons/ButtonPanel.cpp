@@ -73,12 +73,8 @@ void ButtonPanel::writeCaptions(PropertyBag& bag, const QStringList& defaults) c
         bag.WriteProperty(nameOf(i), caption(i), defaults[i]);
 }
 
-/// The button that has the focus comes last: it would pass the focus from one to the other otherwise.
 void ButtonPanel::enableParts(bool on) {
-    const auto hasFocus = [this](const PanelButton* each) { return window()->focusWidget() == each; };
-    auto order = mButtons;
-    std::stable_partition(order.begin(), order.end(), [&](const auto* each) { return !hasFocus(each); });
-    for (PanelButton* each : order)
+    for (PanelButton* each : mButtons)
         each->setEnabled(on);
     frame1->setEnabled(on);
 }
