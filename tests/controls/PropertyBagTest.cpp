@@ -1,19 +1,19 @@
 #include <korvane/controls/container/PropertyBag.h>
 
+#include <korvane/controls/buttons/funcPanel.h>
+#include <korvane/runtime/RuntimeError.h>
+
+#include <QJsonDocument>
+#include <QSettings>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
-namespace Korvane {
+#include <optional>
+#include <utility>
+#include <vector>
 
-TEST(PropertyBag, GivesTheDefaultForWhatIsMissingOrOfAnotherType) {
-    PropertyBag bag;
-    EXPECT_EQ(bag.ReadProperty("Count", 5), 5);
-    bag.WriteProperty("Count", "many", 5);
-    EXPECT_EQ(bag.ReadProperty("Count", 5), 5);
-    bag.WriteProperty("Count", "7", 5);
-    EXPECT_EQ(bag.ReadProperty("Count", 5), 7) << "a text that reads as the number is one";
-    bag.WriteProperty("Shown", "False", true);
-    EXPECT_EQ(bag.ReadProperty("Shown", true), false);
-}
+namespace Korvane {
 
 TEST(PropertyBag, KeepsOnlyWhatDiffersFromItsDefault) {
     PropertyBag bag;
@@ -22,6 +22,89 @@ TEST(PropertyBag, KeepsOnlyWhatDiffersFromItsDefault) {
     EXPECT_EQ(bag.values().keys(), QStringList{"Shown"});
     bag.WriteProperty("Shown", true, true);
     EXPECT_TRUE(bag.values().isEmpty()) << "back at its default it takes no room";
+}
+
+namespace {
+
+PropertyBag sample() {
+    PropertyBag bag;
+    bag.WriteProperty("Count", -3, 5);
+    bag.WriteProperty("Shown", false, true);
+    bag.WriteProperty("Title", "Grüße, \"&Print\"; 100 %\n@next", "");
+    bag.WriteProperty("Empty", "", "Function Btn");
+    return bag;
+}
+
+/// As a control would find it.
+QVariantList readFrom(const PropertyBag& bag) {
+    return {bag.ReadProperty("Count", 5), bag.ReadProperty("Shown", true), bag.ReadProperty("Title", "?"),
+            bag.ReadProperty("Empty", "Function Btn")};
+}
+
+} // namespace
+
+TEST(PropertyBag, ComesBackFromJsonFromBytesAndFromSettings) {
+    const PropertyBag bag = sample();
+    const QVariantList expected = readFrom(bag);
+    EXPECT_EQ(readFrom(PropertyBag::fromJson(bag.toJson())), expected);
+    PropertyBag bytes;
+    bytes.Contents(bag.Contents());
+    EXPECT_EQ(readFrom(bytes), expected);
+    const QTemporaryDir dir;
+    const QString file = dir.filePath("host.ini");
+    {
+        QSettings settings(file, QSettings::IniFormat);
+        settings.setValue("Form/panel/Stale", 1);
+        settings.setValue("Form/other", 2);
+        bag.save(settings, "Form/panel");
+    }
+    QSettings settings(file, QSettings::IniFormat);
+    const auto loaded = PropertyBag::load(settings, "Form/panel");
+    EXPECT_EQ(readFrom(loaded), expected);
+    EXPECT_EQ(loaded.values().keys(), bag.values().keys()) << "a value that is back at its default is gone";
+    EXPECT_EQ(loaded.problems(), QStringList());
+    EXPECT_EQ(settings.value("Form/other"), 2) << "what is beside the group is not the bag's";
+    EXPECT_THROW(bag.save(settings, ""), RuntimeError);
+}
+
+TEST(PropertyBag, WrittenByHandLoadsWithDefaultsAndSaysWhatIsWrong) {
+    const auto bag = PropertyBag::fromJson(QJsonDocument::fromJson(R"({
+        "BackColor": 2147483663, "FrameCaption": null, "btnText1": 1, "btnText2": ["a", "b"],
+        "buttonCount": 9, "buttonStyle": 70000, "FrameFontSize": 1.5, "ButtonFontsize": 0, "ButtonFontSize": "2"
+    })")
+                                               .object());
+    funcPanel panel;
+    panel.ReadProperties(bag);
+    EXPECT_EQ(panel.FrameCaption(), "Function Btn");
+    EXPECT_EQ(panel.btnText1() + panel.btnText2() + panel.btnText3(), "123");
+    EXPECT_EQ(panel.buttonCount(), 5);
+    EXPECT_EQ(panel.buttonStyle(), 1);
+    EXPECT_EQ(panel.FrameFontSize(), 1);
+    EXPECT_EQ(panel.ButtonFontSize(), 2);
+    EXPECT_EQ(bag.problems().join('\n').toStdString(),
+              "ButtonFontsize is not the name of a property that is kept\n"
+              "FrameCaption holds nothing: that is no text, \"Function Btn\" is used\n"
+              "FrameFontSize holds 1.5: that is no whole number of 16 bits, 1 is used\n"
+              "btnText2 holds [\"a\",\"b\"]: that is no text, \"2\" is used\n"
+              "buttonCount holds 9: buttonCount must not be greater than 5. 5 is used\n"
+              "buttonStyle holds 70000: that is no whole number of 16 bits, 1 is used");
+}
+
+TEST(PropertyBag, TakesOnlyABooleanForABoolean) {
+    const std::vector<std::pair<QVariant, std::optional<bool>>> rows{
+        {"False", false}, {"true", true}, {"0", false}, {0, false}, {-1, true}, {"perhaps", {}}, {"", {}}};
+    for (const auto& [value, taken] : rows) {
+        SCOPED_TRACE(value.toString().toStdString());
+        PropertyBag bag;
+        bag.WriteProperty("Shown", value, {});
+        for (const bool byDefault : {false, true})
+            EXPECT_EQ(bag.ReadProperty("Shown", byDefault).toBool(), taken.value_or(byDefault));
+        EXPECT_EQ(bag.problems().isEmpty(), taken.has_value());
+    }
+    PropertyBag none;
+    none.Contents("{\"Shown\": ");
+    EXPECT_TRUE(none.ReadProperty("Shown", true).toBool());
+    EXPECT_EQ(none.problems().size(), 1);
 }
 
 } // namespace Korvane

@@ -16,35 +16,33 @@ TEST(movebtn, DividesItsFrameAmongFourButtonsThatTouch) {
     for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         SizedPanel<movebtn> made(3000, 1000);
         made.panel.setLayoutDirection(direction);
-        const int top = made.button(0).y();
+        const bool mirrored = direction == Qt::RightToLeft;
         for (const Row& row : rows) {
             SCOPED_TRACE(row.width);
             made.resize(row.width, row.height);
-            EXPECT_THAT(made.frame().width(), made.px(row.frameWidth));
-            EXPECT_THAT(made.frame().height(), made.px(row.frameHeight));
+            const int frameLeft = mirrored ? row.width - 75 - row.frameWidth : 75;
+            EXPECT_TRUE(made.isAt(made.frame(), frameLeft, 50, row.frameWidth, row.frameHeight));
             for (int i = 0; i < 4; ++i) {
-                EXPECT_THAT(made.button(i).width(), made.px(row.buttonWidth));
-                EXPECT_THAT(made.button(i).height(), made.px(row.buttonHeight));
-                EXPECT_EQ(made.button(i).y(), top);
-                if (i == 0 || row.buttonWidth == 0) continue;
-                const QRect before = made.button(i - 1).geometry(), here = made.button(i).geometry();
-                EXPECT_EQ(direction == Qt::LeftToRight ? here.left() - before.right()
-                                                       : before.left() - here.right(),
-                          1);
+                const int left = 87 + i * row.buttonWidth;
+                const int at = mirrored ? row.frameWidth - left - row.buttonWidth : left;
+                EXPECT_TRUE(made.isAt(made.button(i), at, 280, row.buttonWidth, row.buttonHeight));
             }
+            const QRect first = made.button(0).geometry(), second = made.button(1).geometry();
+            if (row.buttonWidth == 0) continue;
+            EXPECT_EQ(mirrored ? second.right() : first.right(),
+                      (mirrored ? first.left() : second.left()) - 1);
         }
     }
 }
 
 TEST(movebtn, ComesBackFromTheBagDisabledToo) {
     movebtn saved;
-    QStringList marked;
-    QObject::connect(&saved, &movebtn::PropertyChanged, [&](const QString& name) { marked << name; });
+    const Marks marked(saved);
     const QStringList texts{"Caption", "btnText1", "btnText2", "btnText3", "btnText4"};
     for (const QString& name : texts)
         EXPECT_TRUE(saved.setProperty(name.toUtf8(), "my " + name));
     saved.Enabled(false);
-    EXPECT_EQ(marked, texts + QStringList{"Enabled"});
+    EXPECT_EQ(marked.names, texts + QStringList{"Enabled"});
     PropertyBag bag, again;
     saved.WriteProperties(bag);
     movebtn read;
@@ -61,17 +59,14 @@ TEST(movebtn, ComesBackFromTheBagDisabledToo) {
 TEST(movebtn, HasOneCaptionWhenNewAndAnotherFromAnEmptyBag) {
     movebtn made, read;
     EXPECT_EQ(made.Caption(), "Move Buttons");
-    made.Caption("Patients");
-    made.Enabled(false);
-    made.InitProperties();
-    EXPECT_EQ(made.Caption(), "Move Buttons");
     read.ReadProperties(PropertyBag());
     EXPECT_EQ(read.Caption(), "Mover Buttons");
-    for (const movebtn* each : {&made, &read}) {
-        EXPECT_EQ(each->btnText1() + ' ' + each->btnText2() + ' ' + each->btnText3() + ' ' + each->btnText4(),
-                  "|< < > >|");
-        EXPECT_TRUE(each->Enabled());
-    }
+    EXPECT_EQ((QStringList{read.btnText1(), read.btnText2(), read.btnText3(), read.btnText4()}),
+              (QStringList{"|<", "<", ">", ">|"}));
+    read.Enabled(false);
+    read.InitProperties();
+    EXPECT_EQ(read.Caption(), "Move Buttons");
+    EXPECT_TRUE(read.Enabled());
 }
 
 TEST(movebtn, PointsToTheOtherSideWhereOneReadsFromTheRight) {

@@ -16,6 +16,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -76,7 +77,7 @@ class ButtonForm {
     Clicks mClicks;
 };
 
-/// A panel of its own, of a size in twips, and where its parts are, in twips that are right to a pixel.
+/// A panel of its own, of a size in twips.
 template <typename Panel>
 class SizedPanel {
   public:
@@ -91,9 +92,26 @@ class SizedPanel {
     QAbstractButton& button(int index) const { return ButtonForm<Panel>::buttonOf(panel, index); }
     QGroupBox& frame() const { return *panel.template findChild<QGroupBox*>("frame1"); }
     Twips twips() const { return Twips(panel); }
-    /// In whole pixels, for a length in twips.
-    auto px(int length) const {
-        return testing::AllOf(testing::Ge(twips().px(length) - 1), testing::Le(twips().px(length) + 1));
+    /// Whether a part is where it belongs in its parent, in twips that are right to a pixel.
+    testing::AssertionResult isAt(const QWidget& part, int left, int top, int width, int height) const {
+        const QRect here = part.geometry();
+        const Twips scale = twips();
+        const QRect place(scale.px(left), scale.px(top), scale.px(width), scale.px(height));
+        const auto near = [](int one, int other) { return std::abs(one - other) <= 1; };
+        if (near(here.x(), place.x()) && near(here.y(), place.y()) && near(here.width(), place.width()) &&
+            near(here.height(), place.height()))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure()
+               << QTest::toString(here) << " instead of " << QTest::toString(place);
+    }
+};
+
+/// The properties of a control that were marked as changed, in their order.
+struct Marks {
+    QStringList names;
+    explicit Marks(const UserControl& control) {
+        QObject::connect(&control, &UserControl::PropertyChanged,
+                         [this](const QString& name) { names << name; });
     }
 };
 

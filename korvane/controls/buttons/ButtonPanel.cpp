@@ -8,8 +8,6 @@
 #include <QEvent>
 #include <QStyle>
 
-#include <algorithm>
-
 namespace Korvane {
 
 namespace {
@@ -89,7 +87,7 @@ void ButtonPanel::place(QWidget& part, const QRect& twips) const {
     const Twips scale(*this);
     const QPoint from(scale.px(twips.left()), scale.px(twips.top()));
     const QPoint to(scale.px(twips.left() + twips.width()), scale.px(twips.top() + twips.height()));
-    const QRect pixels(from, QSize(std::max(0, to.x() - from.x()), std::max(0, to.y() - from.y())));
+    const QRect pixels(from, QSize(to.x() - from.x(), to.y() - from.y()));
     part.setGeometry(QStyle::visualRect(layoutDirection(), part.parentWidget()->rect(), pixels));
 }
 

@@ -1,6 +1,7 @@
 #include <korvane/controls/buttons/funcPanel.h>
 
 #include <korvane/controls/buttons/PanelButton.h>
+#include <korvane/controls/container/Text.h>
 #include <korvane/controls/container/Twips.h>
 #include <korvane/runtime/Interaction.h>
 #include <korvane/runtime/RuntimeError.h>
@@ -11,6 +12,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <utility>
 
 namespace Korvane {
 
@@ -45,8 +47,12 @@ funcPanel::funcPanel(QWidget* parent) : ButtonPanel(most, QStringLiteral("cmdBut
 
 void funcPanel::setButtonCount(int count) {
     if (size() != mArranged) arrange();
-    const int before = mCount;
-    if (!takeCount(count)) return;
+    const QString why = refusal(count);
+    if (!why.isEmpty()) {
+        Interaction::current().MsgBox(utf8(why), MsgBoxStyle::OkOnly, {});
+        return;
+    }
+    const int before = std::exchange(mCount, static_cast<qint16>(count));
     if (count > before) {
         mColumn.divide(count);
         for (int i = 0; i < count; ++i)
@@ -61,15 +67,11 @@ void funcPanel::setButtonCount(int count) {
     emit PropertyChanged(QStringLiteral("buttonCount"));
 }
 
-bool funcPanel::takeCount(int count) {
-    const char* refusal = count < 1      ? "buttonCount must be at least 1."
-                          : count > most ? "buttonCount must not be greater than 5."
-                                         : nullptr;
-    if (refusal)
-        Interaction::current().MsgBox(refusal, MsgBoxStyle::OkOnly, {});
-    else
-        mCount = static_cast<qint16>(count);
-    return !refusal;
+/// Empty for a count that will do.
+QString funcPanel::refusal(int count) {
+    if (count < 1) return QStringLiteral("buttonCount must be at least 1.");
+    if (count > most) return QStringLiteral("buttonCount must not be greater than 5.");
+    return {};
 }
 
 void funcPanel::setButtonEnabled(int index, bool on) {

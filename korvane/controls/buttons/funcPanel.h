@@ -132,7 +132,8 @@ class funcPanel : public ButtonPanel {
 
     void setButtonEnabled(int index, bool on);
     void setBold(int index, bool bold);
-    bool takeCount(int count);
+    static QString refusal(int count);
+    void readCount(const PropertyBag& bag);
     void showBackColour();
     void showStyle();
     void showFonts();

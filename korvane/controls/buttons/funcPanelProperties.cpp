@@ -4,6 +4,8 @@
 
 #include <QGroupBox>
 
+#include <algorithm>
+
 namespace Korvane {
 
 namespace {
@@ -13,9 +15,13 @@ const QStringList& captions() {
     return texts;
 }
 
+qint16 readCode(const PropertyBag& bag, const char* name, qint16 byDefault) {
+    return bag.ReadProperty(QLatin1String(name), QVariant::fromValue(byDefault)).value<qint16>();
+}
+
 /// What a code is taken for, where it is one.
-void takeSize(qint16& size, int code) {
-    if (code >= 0) size = static_cast<qint16>(qMin<int>(code, funcPanel::TwelvePoints));
+void takeSize(qint16& size, qint16 code) {
+    if (code >= 0) size = std::min<qint16>(code, funcPanel::TwelvePoints);
 }
 
 } // namespace
@@ -79,15 +85,23 @@ void funcPanel::InitProperties() {
     buttonCount(most);
 }
 
+/// A count that would be refused is one of the bag's problems: no form opens with a message box.
+void funcPanel::readCount(const PropertyBag& bag) {
+    const qint16 count = readCode(bag, "buttonCount", most);
+    const QString why = refusal(count);
+    if (!why.isEmpty()) bag.addProblem(QStringLiteral("buttonCount"), why + QStringLiteral(" 5 is used"));
+    mCount = why.isEmpty() ? count : qint16{most};
+}
+
 /// The control keeps its size, which is the host's to restore.
 void funcPanel::ReadProperties(const PropertyBag& bag) {
     mBackColor = static_cast<qint32>(bag.ReadProperty("BackColor", qlonglong{buttonFace}).toLongLong());
     readCaptions(bag, captions());
-    mStyle = static_cast<qint16>(bag.ReadProperty("buttonStyle", ThreeDimensional).toInt());
+    mStyle = readCode(bag, "buttonStyle", ThreeDimensional);
     frame().setTitle(bag.ReadProperty("FrameCaption", "Function Btn").toString());
-    takeSize(mFrameFontSize, bag.ReadProperty("FrameFontSize", TenPoints).toInt());
-    takeSize(mButtonFontSize, bag.ReadProperty("ButtonFontSize", TenPoints).toInt());
-    takeCount(bag.ReadProperty("buttonCount", most).toInt());
+    takeSize(mFrameFontSize, readCode(bag, "FrameFontSize", TenPoints));
+    takeSize(mButtonFontSize, readCode(bag, "ButtonFontSize", TenPoints));
+    readCount(bag);
     showBackColour();
     showStyle();
     showFonts();

@@ -82,9 +82,9 @@ void movebtn::WriteProperties(PropertyBag& bag) const {
 }
 
 void movebtn::arrange() {
-    const QRect around(framePlace, inTwips() - aroundFrame);
-    place(frame(), around);
-    const QSize inside = around.size() - aroundButtons;
+    const QSize nothing(0, 0), around = (inTwips() - aroundFrame).expandedTo(nothing);
+    const QSize inside = (around - aroundButtons).expandedTo(nothing);
+    place(frame(), QRect(framePlace, around));
     for (int i = 0; i < count(); ++i) {
         const int from = i * inside.width() / count(), to = (i + 1) * inside.width() / count();
         place(button(i), QRect(firstButton + QPoint(from, 0), QSize(to - from, inside.height())));

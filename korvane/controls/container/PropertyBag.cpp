@@ -1,12 +1,19 @@
 #include <korvane/controls/container/PropertyBag.h>
 
+#include <korvane/controls/container/PropertyValue.h>
+
 namespace Korvane {
 
 QVariant PropertyBag::ReadProperty(const QString& name, const QVariant& defaultValue) const {
-    QVariant value = mValues.value(name);
+    mAskedFor.insert(name);
+    const QVariant value = mValues.value(name);
     if (!value.isValid()) return defaultValue;
     if (!defaultValue.isValid()) return value;
-    return value.convert(defaultValue.metaType()) ? value : defaultValue;
+    QVariant taken = propertyValue(value, defaultValue.metaType());
+    if (taken.isValid()) return taken;
+    addProblem(name, QStringLiteral("that is no %1, %2 is used")
+                         .arg(kindOfValue(defaultValue.metaType()), shownValue(defaultValue)));
+    return defaultValue;
 }
 
 void PropertyBag::WriteProperty(const QString& name, const QVariant& value, const QVariant& defaultValue) {
@@ -15,6 +22,18 @@ void PropertyBag::WriteProperty(const QString& name, const QVariant& value, cons
     } else {
         mValues.insert(name, value);
     }
+}
+
+void PropertyBag::addProblem(const QString& name, const QString& why) const {
+    mProblems[name] = QStringLiteral("%1 holds %2: %3").arg(name, shownValue(mValues.value(name)), why);
+}
+
+QStringList PropertyBag::problems() const {
+    auto found = mProblems;
+    for (auto each = mValues.keyBegin(); each != mValues.keyEnd(); ++each)
+        if (!mAskedFor.contains(*each))
+            found[*each] = QStringLiteral("%1 is not the name of a property that is kept").arg(*each);
+    return found.values();
 }
 
 } // namespace Korvane

@@ -1,8 +1,14 @@
 #pragma once
 
+#include <QByteArray>
+#include <QJsonObject>
 #include <QMap>
+#include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
+
+class QSettings;
 
 namespace Korvane {
 
@@ -10,17 +16,53 @@ namespace Korvane {
 ///
 ///     bag.WriteProperty("AllowClosePanel", AllowClosePanel(), true);
 ///     AllowClosePanel(bag.ReadProperty("AllowClosePanel", true).toBool());
+///
+/// A host keeps a bag as JSON, in a group of its settings, or as bytes:
+///
+///     PropertyBag bag;
+///     panel->WriteProperties(bag);
+///     bag.save(settings, "OrderForm/panel");
+///
+///     const auto bag = PropertyBag::load(settings, "OrderForm/panel");
+///     panel->ReadProperties(bag);
+///     for (const QString& problem : bag.problems())
+///         qWarning() << problem;
+///
+/// A bag may be written by hand: what is missing or cannot be used is taken at its default, and what was
+/// wrong with it is told by `problems`. Nothing is raised for it.
 class PropertyBag {
   public:
-    /// The default when the bag has no such name, or holds something that cannot be turned into the default's
-    /// type.
+    /// The value in the type of the default. The default itself when the bag has no such name, or holds
+    /// something that is not of that type: a text that reads as a number is one, so is "True" or "False" a
+    /// Boolean; a number with a fraction, or one that is too large, is no whole number.
     QVariant ReadProperty(const QString& name, const QVariant& defaultValue) const;
     void WriteProperty(const QString& name, const QVariant& value, const QVariant& defaultValue);
 
     const QMap<QString, QVariant>& values() const { return mValues; }
 
+    /// What was wrong with the bag, a line each, by name, once a control has read it: values that were not
+    /// used, and names that it did not ask for (misspelled ones, most likely).
+    QStringList problems() const;
+    /// For a control that cannot use what it has read: `why` completes the line "<name> holds <value>: ".
+    void addProblem(const QString& name, const QString& why) const;
+
+    QJsonObject toJson() const;
+    static PropertyBag fromJson(const QJsonObject& object);
+
+    /// The bag as bytes (JSON in UTF-8). Bytes that are none give an empty bag that has that for its problem.
+    QByteArray Contents() const;
+    void Contents(const QByteArray& bytes);
+
+    /// The group is the bag's alone: what was in it goes. An empty name raises
+    /// `RuntimeError::InvalidProcedureCall`. Whether it could be written, `settings.status()` tells after a
+    /// `sync()`.
+    void save(QSettings& settings, const QString& group) const;
+    static PropertyBag load(QSettings& settings, const QString& group);
+
   private:
     QMap<QString, QVariant> mValues;
+    mutable QSet<QString> mAskedFor;
+    mutable QMap<QString, QString> mProblems;
 };
 
 } // namespace Korvane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
+
+namespace Korvane {
+
+/// A value of a property bag in the type that a control expects; invalid when it is not of that type. Nothing
+/// is lost or made up: a fraction is not rounded, any text is not "true".
+QVariant propertyValue(const QVariant& value, QMetaType type);
+
+/// For a message: "whole number", and the value as it reads, a text in quotes.
+QString kindOfValue(QMetaType type);
+QString shownValue(const QVariant& value);
+
+} // namespace Korvane
