@@ -54,8 +54,9 @@ class Cursor {
     virtual void moveNext() = 0;
     /// The value of a column of the current row, Null included, into `value` (whose storage is reused).
     virtual void value(int ordinal, Variant& value) const = 0;
-    /// The same value to be looked at: stands until the connection is used again.
-    virtual CellView peek(int ordinal) const = 0;
+    /// The same values, of as many columns from `first` on, to be looked at: stands until the connection is
+    /// used again.
+    virtual void peek(int first, std::span<CellView> cells) const = 0;
 
     /// The number of rows; -1 when it is not known without walking them.
     virtual std::int32_t rowCount() const = 0;

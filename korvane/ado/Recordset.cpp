@@ -155,9 +155,21 @@ std::optional<int> Recordset::ValueUnlessEof(const FieldKey& key, Variant& value
 }
 
 CellView Recordset::Peek(const FieldKey& key) const {
-    if (State() == 0 || mOpened->cursor->atEnd() || !mOpened->pending.empty()) return {};
+    CellView cell;
+    if (!isAsRead()) return cell;
     const int ordinal = mOpened->find(key);
-    return ordinal < 0 ? CellView() : mOpened->cursor->peek(ordinal);
+    if (ordinal >= 0) mOpened->cursor->peek(ordinal, {&cell, 1});
+    return cell;
+}
+
+void Recordset::Peek(std::span<CellView> cells) const {
+    const std::size_t there = isAsRead() ? std::min(cells.size(), std::size_t(mOpened->columns)) : 0;
+    if (there > 0) mOpened->cursor->peek(0, cells.first(there));
+    std::ranges::fill(cells.subspan(there), CellView());
+}
+
+bool Recordset::isAsRead() const {
+    return State() == 1 && !mOpened->cursor->atEnd() && mOpened->pending.empty();
 }
 
 void Recordset::SetValue(const FieldKey& key, const Variant& value) {

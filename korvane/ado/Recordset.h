@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -101,6 +102,8 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     /// The value to be looked at, for walking very many rows: stands until the connection is used again.
     /// Nothing where it is not to be had so; what is wrong then, the others say.
     CellView Peek(const FieldKey& key) const;
+    /// The same of the first fields, as many as `cells` has room for; nothing behind the last.
+    void Peek(std::span<CellView> cells) const;
     /// Changes the current row; written by `Update`. ReadOnlyRecordset unless opened for writing.
     void SetValue(const FieldKey& key, const Variant& value);
 
@@ -116,6 +119,7 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     Opened& opened() const;  ///< raises ObjectClosed
     Opened& current() const; ///< raises NoCurrentRecord as well
     const ColumnInfo& columnInfo(const FieldKey& key) const;
+    bool isAsRead() const; ///< stands on a row in which nothing is pending
     ado::CursorType mCursorType = ado::CursorType::ForwardOnly;
     ado::LockType mLockType = ado::LockType::ReadOnly;
     std::unique_ptr<Opened> mOpened;

@@ -5,6 +5,7 @@
 #include <korvane/runtime/Clock.h>
 #include <korvane/runtime/Interaction.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace Korvane {
@@ -144,6 +145,13 @@ std::string_view SQLData::DataText(const ado::FieldKey& key) {
 
 ado::CellView SQLData::Peek(const ado::FieldKey& key) const {
     return mRecordset ? mRecordset->Peek(key) : ado::CellView();
+}
+
+void SQLData::Peek(std::span<ado::CellView> cells) const {
+    if (mRecordset)
+        mRecordset->Peek(cells);
+    else
+        std::ranges::fill(cells, ado::CellView());
 }
 
 void SQLData::readField(const ado::FieldKey& key, Variant& value) const {

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -69,6 +70,8 @@ class SQLData {
     /// reading very many cells; else nothing, and the members above have it, or say what is wrong. Stands as
     /// long.
     ado::CellView Peek(const ado::FieldKey& key) const;
+    /// The same of the first fields of the row, as many as `cells` has room for.
+    void Peek(std::span<ado::CellView> cells) const;
     /// Changes the field in the current row; only in mode 2. A value equal to the current one changes
     /// nothing.
     void Data(const ado::FieldKey& key, const Variant& value);

@@ -61,32 +61,61 @@ bool holds(std::int64_t whole) {
         return std::in_range<std::int32_t>(whole);
 }
 
-/// A cell as the number that the model keeps; a failure says which cell of which field it was.
-template <typename Number>
-Number numberAt(SQLData& row, int column, Number (Variant::*convert)() const, std::string_view fieldName) {
-    const ado::CellView plain = row.Peek(column);
-    if (const auto* whole = std::get_if<std::int64_t>(&plain); whole && holds<Number>(*whole))
-        return static_cast<Number>(*whole);
-    Variant cell;
-    row.DataInto(column, cell);
-    try {
-        return (cell.*convert)();
-    } catch (const RuntimeError& error) {
-        throw RuntimeError(error.Number(), row.Fields(column)->Name() + " of the field " +
-                                               std::string(fieldName) + ": " + error.Description());
+/// The first cells of a query's row, as the model keeps them. They are looked at together: there are very
+/// many rows.
+template <std::size_t count>
+class Row {
+  public:
+    explicit Row(SQLData& query) : mQuery(query) { query.Peek(mCells); }
+
+    /// Stands until the query is asked for anything else.
+    std::string_view text(int column) const {
+        const auto* text = std::get_if<std::string_view>(&cell(column));
+        return text ? *text : mQuery.DataText(column);
     }
-}
+
+    void value(int column, Variant& value) const {
+        if (const auto* text = std::get_if<std::string_view>(&cell(column)))
+            value.setText(*text);
+        else
+            mQuery.DataInto(column, value);
+    }
+
+    /// A failure says which cell of which field it was.
+    template <typename Number>
+    Number number(int column, Number (Variant::*convert)() const, std::string_view fieldName) const {
+        const auto* whole = std::get_if<std::int64_t>(&cell(column));
+        if (whole && holds<Number>(*whole)) return static_cast<Number>(*whole);
+        Variant value;
+        mQuery.DataInto(column, value);
+        try {
+            return (value.*convert)();
+        } catch (const RuntimeError& error) {
+            throw RuntimeError(error.Number(), mQuery.Fields(column)->Name() + " of the field " +
+                                                   std::string(fieldName) + ": " + error.Description());
+        }
+    }
+
+  private:
+    const ado::CellView& cell(int column) const { return mCells[static_cast<std::size_t>(column)]; }
+
+    SQLData& mQuery;
+    std::array<ado::CellView, count> mCells;
+};
+using GroupRow = Row<groupTable + 1>;
+using FieldRow = Row<fieldOrdinal + 1>;
+using ValueRow = Row<valueGroupID + 1>;
 
 /// All but its name and its table, which decide where it belongs.
-void fillField(FieldRecord& field, SQLData& row) {
+void fillField(FieldRecord& field, const FieldRow& row) {
     const auto number = [&](int column, auto convert) {
-        return numberAt(row, column, convert, field.fieldName);
+        return row.number(column, convert, field.fieldName);
     };
     field.id = number(fieldID, &Variant::toInt32);
-    field.caption = row.DataText(fieldCaption);
-    field.groupName = row.DataText(fieldGroupName);
+    field.caption = row.text(fieldCaption);
+    field.groupName = row.text(fieldGroupName);
     field.groupID = number(fieldGroupID, &Variant::toInt32);
-    field.displayType = row.DataText(fieldDisplayType);
+    field.displayType = row.text(fieldDisplayType);
     field.maxLength = number(fieldMaxLength, &Variant::toInt16);
     field.storedLength = field.maxLength;
     field.initialValueRule = number(fieldInitialValueRule, &Variant::toInt16);
@@ -104,12 +133,12 @@ Variant roomyList() {
     return list;
 }
 
-void addAllowedValue(FieldRecord& field, SQLData& row, std::string_view fieldName) {
-    const bool byDefault = numberAt(row, isDefault, &Variant::toBoolean, fieldName);
+void addAllowedValue(FieldRecord& field, const ValueRow& row, std::string_view fieldName) {
+    const bool byDefault = row.number(isDefault, &Variant::toBoolean, fieldName);
     if (field.valueListCount == 0) field.valueList = roomyList();
     std::vector<Variant>& values = field.valueList.array().elements;
     field.valueListCount = countedUp(field.valueListCount, "values of the field ", field.fieldName);
-    row.DataInto(allowedValue, values.emplace_back());
+    row.value(allowedValue, values.emplace_back());
     if (byDefault) field.defaultValue = values.back();
 }
 
@@ -148,14 +177,15 @@ bool cNIP::LoadStructure(const std::shared_ptr<ado::Connection>& connection) {
 /// What was loaded before goes here, where a server is at work on the fields; the room of its fields is used
 /// again.
 void cNIP::loadGroups(std::vector<GroupRecord>& former) {
-    SQLData row;
-    for (run(row, mConnection, structureStatements[0]); !row.Eof(); row.NextRow()) {
+    SQLData query;
+    for (run(query, mConnection, structureStatements[0]); !query.Eof(); query.NextRow()) {
+        const GroupRow row(query);
         countedUp(GroupCount(), "groups");
         GroupRecord& group = mGroups.emplace_back();
-        group.tableName = row.DataText(groupTable);
-        group.groupName = row.DataText(groupName);
-        group.groupID = row.DataText(groupIdentifier);
-        raiseFailure(row);
+        group.tableName = row.text(groupTable);
+        group.groupName = row.text(groupName);
+        group.groupID = row.text(groupIdentifier);
+        raiseFailure(query);
         if (mGroups.size() > former.size()) continue;
         group.fields = std::move(former[mGroups.size() - 1].fields);
         group.fields.clear();
@@ -170,11 +200,12 @@ void cNIP::loadFields(FieldIndex& index) {
         groupOfTable.try_emplace(groupAt(i).tableName, i);
 
     std::int16_t place = 0;
-    SQLData row;
-    for (run(row, mConnection, structureStatements[1]); !row.Eof(); row.NextRow()) {
+    SQLData query;
+    for (run(query, mConnection, structureStatements[1]); !query.Eof(); query.NextRow()) {
+        const FieldRow row(query);
         // The statement leaves out the key column as the engine compares texts, perhaps by their case.
-        if (sameName(row.DataText(fieldFieldName), "EncounterID")) continue;
-        const std::string_view table = row.DataText(fieldTable);
+        if (sameName(row.text(fieldFieldName), "EncounterID")) continue;
+        const std::string_view table = row.text(fieldTable);
         if (table != groupAt(place).tableName) {
             const auto found = groupOfTable.find(table);
             place = found == groupOfTable.end() ? GroupCount() : found->second;
@@ -182,9 +213,9 @@ void cNIP::loadFields(FieldIndex& index) {
         GroupRecord& group = mGroups[static_cast<std::size_t>(place)];
         FieldRecord& field = appendField(group);
         field.tableName = table;
-        field.fieldName = row.DataText(fieldFieldName);
+        field.fieldName = row.text(fieldFieldName);
         fillField(field, row);
-        raiseFailure(row);
+        raiseFailure(query);
         placeInGrid(group, field, index);
         index.add({place, group.fieldCount});
     }
@@ -223,13 +254,14 @@ void cNIP::beginRow(GroupRecord& group, FieldRecord& field) {
 
 void cNIP::loadAllowedValues(const FieldIndex& index) {
     std::string name;
-    SQLData row;
-    for (run(row, mConnection, structureStatements[2]); !row.Eof(); row.NextRow()) {
-        name = row.DataText(valueFieldName);
-        const std::int32_t groupID = numberAt(row, valueGroupID, &Variant::toInt32, name);
+    SQLData query;
+    for (run(query, mConnection, structureStatements[2]); !query.Eof(); query.NextRow()) {
+        const ValueRow row(query);
+        name = row.text(valueFieldName);
+        const std::int32_t groupID = row.number(valueGroupID, &Variant::toInt32, name);
         index.forEach(groupID, name,
                       [&](FieldPlace place) { addAllowedValue(at(place.group, place.field), row, name); });
-        raiseFailure(row);
+        raiseFailure(query);
     }
 }
 

@@ -80,11 +80,15 @@ void ResultCursor::value(int ordinal, Variant& value) const {
         read(text, type, value);
 }
 
-CellView ResultCursor::peek(int ordinal) const {
-    if (!mWritten.empty()) return {};
-    const std::string_view text = stored(ordinal);
-    if (text.empty() && PQgetisnull(mRows.get(), mRow, ordinal)) return {};
-    return postgres::peek(text, mColumns->all()[static_cast<std::size_t>(ordinal)].type);
+void ResultCursor::peek(int first, std::span<CellView> cells) const {
+    const bool isAsRead = mWritten.empty();
+    for (CellView& cell : cells) {
+        const std::string_view text = stored(first);
+        const bool isNull = text.empty() && PQgetisnull(mRows.get(), mRow, first);
+        const DataType type = mColumns->all()[static_cast<std::size_t>(first)].type;
+        cell = isAsRead && !isNull ? postgres::peek(text, type) : CellView();
+        ++first;
+    }
 }
 
 // The table's columns behind the fields to be changed; none when one of them is no such column.

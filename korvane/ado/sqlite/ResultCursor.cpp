@@ -72,10 +72,12 @@ void ResultCursor::value(int ordinal, Variant& value) const {
     }
 }
 
-CellView ResultCursor::peek(int ordinal) const {
-    if (!mLive) return {};
-    return sqlite::peek(mLease.statement.get(), ordinal,
-                        mColumns->all()[static_cast<std::size_t>(ordinal)].type);
+void ResultCursor::peek(int first, std::span<CellView> cells) const {
+    for (CellView& cell : cells) {
+        const DataType type = mColumns->all()[static_cast<std::size_t>(first)].type;
+        cell = mLive ? sqlite::peek(mLease.statement.get(), first, type) : CellView();
+        ++first;
+    }
 }
 
 void ResultCursor::spool() {

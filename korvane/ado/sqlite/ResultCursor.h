@@ -41,7 +41,7 @@ class ResultCursor final : public Cursor {
     int columnIndex(std::string_view name) const override;
     void moveNext() override;
     void value(int ordinal, Variant& value) const override;
-    CellView peek(int ordinal) const override;
+    void peek(int first, std::span<CellView> cells) const override;
     std::int32_t rowCount() const override { return mRowCount; }
     ado::CursorType cursorType() const override { return mCursorType; }
     ado::LockType lockType() const override { return mLockType; }
