@@ -115,7 +115,7 @@ void DateVoice::focusMoved() {
 
 /// Once the host has shown its form. The next control that has its voice on is not another reason.
 void DateVoice::tellAbsence() {
-    const auto tell = [this] {
+    const auto tell = [] {
         static std::string told;
         const std::string why = voice::whyAbsent();
         if (why.empty() || std::exchange(told, why) == why) return;
