@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dateform/Speaker.h"
 #include "dateform/TestForm.h"
 #include "shared/Album.h"
 #include "shared/Failure.h"
@@ -10,7 +11,8 @@ namespace DateForm {
 
 /// What a tour of the form has at hand.
 struct Journey {
-    Journey(TestForm& window, const QString& directory) : form(window), album(window, directory) {}
+    Journey(TestForm& window, Speaker& voice, const QString& directory)
+        : form(window), speaker(voice), album(window, directory) {}
 
     /// A part of the form, by its object name. Fails when there is none in view.
     template <typename Widget = QWidget>
@@ -38,6 +40,7 @@ struct Journey {
     void closeDateError(const std::function<void()>& deed, const QString& message, const QString& picture);
 
     TestForm& form;
+    Speaker& speaker;
     Apps::Hand hand;
     Apps::Album album;
 };

@@ -1,5 +1,7 @@
 #include "dateform/KeySteps.h"
 
+#include "dateform/Parts.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -9,10 +11,6 @@ namespace DateForm {
 using Apps::require;
 
 namespace {
-
-const auto month = QStringLiteral("txtDate(0)");
-const auto year = QStringLiteral("txtDate(2)");
-const auto after = QStringLiteral("txtAfter");
 
 void typeADate(Journey& j) {
     j.hand.type(QStringLiteral("Luisa"));
@@ -98,6 +96,7 @@ void takeTheLifeOut(Journey& j) {
     j.album.add(QStringLiteral("Not enlivened the control is passed over"));
     enlivened.setFocus(Qt::ShortcutFocusReason);
     j.hand.press(Qt::Key_Space);
+    require(j.date().Enlivened(), QStringLiteral("The control is not enlivened again."));
 }
 
 } // namespace

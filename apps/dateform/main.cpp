@@ -2,6 +2,7 @@
 
 #include "dateform/TestForm.h"
 #include "dateform/Tour.h"
+#include "dateform/engine/Engine.h"
 #include "shared/CommandLine.h"
 #include "shared/ScaledFont.h"
 #include "shared/Screen.h"
@@ -12,6 +13,7 @@ namespace {
 
 struct Options {
     QString tourDirectory;
+    QString soundFile;
     int fontScale = 100;
 };
 
@@ -23,13 +25,17 @@ Options readOptions() {
                         QStringLiteral("Drive the form by itself, and leave a picture of each step in this "
                                        "directory."),
                         QStringLiteral("dir")},
+                       {QStringLiteral("sound"),
+                        QStringLiteral("Listen to this sound file (WAV, 16 bits) instead of the microphone."),
+                        QStringLiteral("file")},
                        Apps::fontScaleOption()});
     Apps::readOptions(parser, QCoreApplication::arguments());
-    return {Apps::tourDirectory(parser), Apps::fontScale(parser, 100)};
+    return {Apps::tourDirectory(parser), parser.value(QStringLiteral("sound")), Apps::fontScale(parser, 100)};
 }
 
 int openForm(const Options& options) {
     QApplication::setFont(Apps::scaled(QApplication::font(), options.fontScale));
+    const DateForm::InstalledEngine engine(DateForm::soundFrom(options.soundFile));
     DateForm::TestForm form;
     form.show();
     return QApplication::exec();

@@ -45,7 +45,16 @@ Hand::Hand() {
 }
 
 void Hand::settle() {
-    QTest::qWait(30);
+    rest(30);
+}
+
+void Hand::await(const std::function<bool()>& isSo, int time, const QString& otherwise) {
+    require(QTest::qWaitFor(isSo, time), otherwise);
+    settle();
+}
+
+void Hand::rest(int time) {
+    QTest::qWait(time);
     if (const auto trouble = std::exchange(mTrouble, nullptr)) std::rethrow_exception(trouble);
 }
 

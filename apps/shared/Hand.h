@@ -45,6 +45,12 @@ class Hand {
     /// Lets the application do what it has to do.
     void settle();
 
+    /// The same for longer, in milliseconds.
+    void rest(int time);
+
+    /// The same until something is so. Fails when it is not in time, also in milliseconds.
+    void await(const std::function<bool()>& isSo, int time, const QString& otherwise);
+
   private:
     void lookForBox();
 
