@@ -177,31 +177,39 @@ TEST(Customizing, TabGoesThroughThePaneAndReachesWhatStandsAboveTheForm) {
 }
 
 TEST(Customizing, AsksBeforeAFieldIsLeftAndDoesNothingElseMeanwhile) {
-    for (const WayOut& way : waysOut) {
-        for (const bool isNew : {true, false}) {
-            for (const bool agrees : {false, true}) {
-                SCOPED_TRACE(testing::Message() << way.name << isNew << agrees);
-                CustomizingDesk desk;
-                desk.does(isNew ? "New field; caption=Rate" : "field 0; caption=Rate");
-                desk.user->answers = {agrees ? (isNew ? Answer::Yes : Answer::Ok)
-                                             : (isNew ? Answer::No : Answer::Cancel)};
-                desk.user->whenShown = [&] { doEverything(desk); };
-                EXPECT_EQ(way.go(desk), agrees);
-                const ShownBox expected =
-                    isNew ? ShownBox{"Are you sure you want to cancel creating this field?", asksYesNo,
-                                     "Cancel field creation"}
-                          : ShownBox{"Changes have been made to the field [Pulse] in the group [Vitals]. "
-                                     "\nAre you certain you want to discard those changes?",
-                                     asksOkCancel, "Discard Customization Confirmation"};
-                EXPECT_THAT(desk.told(), ElementsAre(expected));
-                if (agrees) continue;
-                EXPECT_EQ(desk.caption(), "Rate");
-                EXPECT_EQ(desk.heading(),
-                          isNew ? "New field in group [Vitals]" : "Editing field [Pulse] of group [Vitals]");
-                EXPECT_EQ(desk.tabs().currentIndex(), 0);
-                EXPECT_TRUE(desk.part<QWidget>("cmdCloseNip").hasFocus());
-            }
+    for (const bool isNew : {true, false}) {
+        const ShownBox question =
+            isNew ? ShownBox{"Are you sure you want to cancel creating this field?", asksYesNo,
+                             "Cancel field creation"}
+                  : ShownBox{"Changes have been made to the field [Pulse] in the group [Vitals]. \nAre you "
+                             "certain you want to discard those changes?",
+                             asksOkCancel, "Discard Customization Confirmation"};
+        const auto write = [&](CustomizingDesk& desk) {
+            desk.does(isNew ? "New field; caption=Rate" : "field 0; caption=Rate");
+            desk.user->whenShown = [&] { doEverything(desk); };
+            return desk.pane();
+        };
+        CustomizingDesk stays;
+        const std::string pane = write(stays);
+        for (const WayOut& way : waysOut) {
+            SCOPED_TRACE(testing::Message() << way.name << isNew);
+            stays.user->answers = {isNew ? Answer::No : Answer::Cancel};
+            EXPECT_FALSE(way.go(stays));
+            EXPECT_THAT(stays.told(), ElementsAre(question));
+            EXPECT_EQ(stays.pane(), pane);
+            EXPECT_EQ(stays.tabs().currentIndex(), 0);
+            EXPECT_TRUE(stays.part<QWidget>("cmdCloseNip").hasFocus());
         }
+        for (const WayOut& way : waysOut) {
+            SCOPED_TRACE(testing::Message() << way.name << isNew);
+            CustomizingDesk leaves;
+            write(leaves);
+            leaves.user->answers = {isNew ? Answer::Yes : Answer::Ok};
+            EXPECT_TRUE(way.go(leaves));
+            EXPECT_THAT(leaves.told(), ElementsAre(question));
+        }
+    }
+    for (const WayOut& way : waysOut) {
         CustomizingDesk unchanged;
         unchanged.does("field 0");
         EXPECT_TRUE(way.go(unchanged)) << way.name;
@@ -210,36 +218,38 @@ TEST(Customizing, AsksBeforeAFieldIsLeftAndDoesNothingElseMeanwhile) {
 }
 
 TEST(Customizing, AChoiceThatIsStillBeingTypedIsAChange) {
-    const auto type = [](CustomizingDesk& desk, int field, const char* text) {
-        desk.does(QString("field %1").arg(field));
+    CustomizingDesk desk;
+    desk.allowed(2, "Pulse", "Good", 3);
+    desk.panel.Initialize(desk.db);
+    const auto type = [&](const char* field, const char* text) {
+        desk.does(field);
         auto& choices = desk.part<QAbstractItemView>("lstNipChoices");
         choices.setFocus();
         QTest::keyClick(&choices, Qt::Key_F2);
-        auto& box = desk.part<QLineEdit>("txtNipChoice");
-        desk.type(box, text);
-        return &box;
+        QLineEdit* box = desk.panel.findChildren<QLineEdit*>("txtNipChoice").last();
+        desk.type(*box, text);
+        return box;
     };
     for (const WayOut& way : waysOut) {
         for (const char* text : {"Great", "a|b"}) {
             SCOPED_TRACE(std::string(way.name) + text);
-            CustomizingDesk desk(false);
-            desk.allowed(2, "Pulse", "Good", 1);
-            desk.panel.Initialize(desk.db);
-            type(desk, 0, text);
+            type("field 0", text);
             EXPECT_FALSE(way.go(desk));
             EXPECT_THAT(desk.told(),
                         ElementsAre(Field(&ShownBox::title, "Discard Customization Confirmation")));
             EXPECT_EQ(desk.heading(), "Editing field [Pulse] of group [Vitals]");
+            desk.user->answers = {Answer::Ok};
+            desk.does("Cancel field");
+            desk.told();
         }
     }
-    CustomizingDesk desk;
-    QTest::keyClick(type(desk, 1, "Great"), Qt::Key_Return);
+    QTest::keyClick(type("field 1", "Great"), Qt::Key_Return);
     desk.settle();
     EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]") << "Enter takes the choice alone";
-    type(desk, 1, "Greatest");
+    type("field 1", "Greatest");
     EXPECT_TRUE(desk.offers("cmdNipCustomizeButton(3)"));
     desk.does("Save field");
-    EXPECT_EQ(desk.choices(), "2|Mood|Greatest|True 2|Mood|Poor|False");
+    EXPECT_EQ(desk.choices(), "2|Mood|Greatest|True 2|Mood|Poor|False 2|Pulse|Good|False");
 }
 
 TEST(Customizing, RefusesWhatIsNoFieldAndKeepsWhatWasTyped) {
@@ -280,7 +290,8 @@ TEST(Customizing, RefusesWhatIsNoFieldAndKeepsWhatWasTyped) {
         EXPECT_THAT(desk.told(), ElementsAre(AllOf(Field(&ShownBox::text, StartsWith(c.message)),
                                                    Field(&ShownBox::title, c.title))));
         EXPECT_EQ(desk.fields(), before);
-        EXPECT_EQ(desk.text("txtCustNip(0)") + desk.text("txtCustNip(2)"), std::string(c.name) + c.width);
+        EXPECT_THAT(desk.pane(), HasSubstr(std::string(", ") + c.name + "|"));
+        EXPECT_THAT(desk.pane(), HasSubstr(std::string("|") + c.width + "|"));
         desk.does("name=Fine; width=60; Save field");
         EXPECT_THAT(desk.told(), IsEmpty()) << "put right, it is taken";
         EXPECT_THAT(desk.fields(), HasSubstr("Fine|"));
@@ -387,16 +398,14 @@ TEST(Customizing, WhatFailsChangesNothingAndCanBeTriedAgain) {
         desk.user->texts = {"Labs", "Labs"};
         desk.user->answers = {Answer::Ok, Answer::Ok};
         desk.db->failOn = c.failsOn;
-        const std::string written = desk.caption();
+        const std::string pane = desk.pane();
         desk.does(c.act);
         const auto report = testing::Contains(
             AllOf(Field(&ShownBox::text, StartsWith(c.report)), Field(&ShownBox::style, 48)));
         EXPECT_THAT(desk.told(), report);
         EXPECT_EQ(desk.fields(), before);
         EXPECT_EQ(desk.tabs().count(), 2);
-        EXPECT_EQ(desk.listed(), "Pulse Mood");
-        EXPECT_EQ(desk.caption(), written);
-
+        EXPECT_EQ(desk.pane(), pane);
         desk.db->failOn.clear();
         desk.user->answers = {Answer::Ok};
         desk.does(c.act);
@@ -424,9 +433,7 @@ TEST(Customizing, TakesOnWhatAnotherDeskHasChangedAndKeepsWhatIsWritten) {
         });
         save(desk);
         EXPECT_THAT(desk.told(), ElementsAre(says("nother desk has customized th")));
-        EXPECT_EQ(desk.pane(), "Editing field [Feeling] of group [Vitals]: Feeling");
-        EXPECT_EQ(desk.text("txtCustNip(0)") + desk.text("txtCustNip(2)") + desk.text("txtCustNip(3)"),
-                  "Feeling601");
+        EXPECT_EQ(desk.pane(), "Editing field [Feeling] of group [Vitals]: Feeling, Feeling|The Mood|60|1");
         desk.does("Save field");
         EXPECT_THAT(desk.told(), IsEmpty());
         EXPECT_THAT(desk.fields(), HasSubstr("Feeling|The Mood|COMBOBOX|60"));
@@ -450,15 +457,16 @@ TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
         std::function<bool(cNIP&)> act;
         const char* gone;
         const char* group;
+        const char* before;
         const char* listed;
         const char* moreChoices;
     } cases[] = {
         {"field 1", [](cNIP& other) { return other.DeleteField(1, 2); },
-         "The field [Mood] is no longer there.", "Vitals", "Pulse Mood", ""},
-        {"field 1", deleteVitals, "The field [Mood] is no longer there.", "History", "Smoker Mood",
-         " 3|Mood|Good|True 3|Mood|Poor|False"},
+         "The field [Mood] is no longer there.", "Vitals", "Pulse, Mood|How they feel|50|", "Pulse Mood", ""},
+        {"field 1", deleteVitals, "The field [Mood] is no longer there.", "History",
+         "Smoker, Mood|How they feel|50|", "Smoker Mood", " 3|Mood|Good|True 3|Mood|Poor|False"},
         {"New field; name=Mood2", deleteVitals, "The group of the new field is no longer there.", "History",
-         "Smoker Mood2", ""},
+         "Smoker, Mood2|How they feel|50|", "Smoker Mood2", ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.gone) + c.group);
@@ -469,9 +477,8 @@ TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
         EXPECT_THAT(desk.told(),
                     ElementsAre(AllOf(says("Another desk has customized this form"), says(c.gone),
                                       says(std::string("a new field of the group [") + c.group))));
-        EXPECT_EQ(desk.heading(), std::string("New field in group [") + c.group + "]");
+        EXPECT_EQ(desk.pane(), std::string("New field in group [") + c.group + "]: " + c.before);
         EXPECT_EQ(desk.tabs().tabText(desk.tabs().currentIndex()), c.group);
-        EXPECT_EQ(desk.caption(), "How they feel");
         desk.does("Save field");
         EXPECT_THAT(desk.told(), IsEmpty());
         EXPECT_EQ(desk.listed(), c.listed);
@@ -487,7 +494,8 @@ TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
         desk.told();
         desk.does("Save field");
         EXPECT_EQ(desk.told().size(), 1U);
-        EXPECT_EQ(desk.pane(), "New field in group [History]: Smoker") << "not stored elsewhere unasked";
+        EXPECT_EQ(desk.pane(), "New field in group [History]: Smoker, Mood|How they feel|50|")
+            << "not stored unasked";
         desk.elsewhere(deleteVitals);
         desk.does("Save field");
         EXPECT_THAT(desk.told(), testing::Contains(says("There is no group left")));

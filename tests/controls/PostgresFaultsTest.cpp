@@ -99,6 +99,7 @@ const Task anEditedNip{[](PanelDesk& desk) { desk.does("Load; description=Rename
 
 struct Fault {
     const char* name;
+    const Task& task;
     std::function<void(Ward&)> begin;
     std::function<void(Ward&)> end;
     const char* says; ///< in one of the boxes
@@ -106,96 +107,56 @@ struct Fault {
 
 const auto nothing = [](Ward&) {};
 const auto free = [](Ward& ward) { ward.free(); };
-const auto resume = [](Ward& ward) { ward.network.resume(); };
 const auto* const lost = "connection to the database server was lost";
 const auto* const notKnown = "not known";
 
-Fault refusing(const char* name, const char* body, const char* says) {
-    return {name, [body](Ward& ward) { ward.hinder(body); }, free, says};
+Fault refusing(const char* name, const char* body, const char* says, bool atCommit = false) {
+    return {name, aNewNip, [=](Ward& ward) { ward.hinder(body, atCommit); }, free, says};
 }
 
-Fault stopped(const char* name, const char* mode) {
-    return {name,
-            [mode](Ward& ward) {
-                ward.hinder("Perform pg_sleep(1);");
-                ward.whileItWaits([&ward, mode] { ward.server.stop(mode); });
-            },
-            [](Ward& ward) {
-                ward.server.start();
-                ward.free();
-            },
-            lost};
+Fault network(const char* name, const Task& task, const char* text, Relay::Fate fate, const char* says) {
+    return {name, task, [=](Ward& ward) { ward.network.on(text, fate); },
+            [](Ward& ward) { ward.network.resume(); }, says};
 }
 
-Fault network(const char* name, const char* text, Relay::Fate fate, const char* says) {
-    return {name, [=](Ward& ward) { ward.network.on(text, fate); }, resume, says};
-}
-
-/// Another desk changes the values of the encounter, and what then happens while the panel waits for it.
-Fault contended(const char* name, const char* setting, const char* says,
-                std::function<void(ado::Connection&)> action) {
+/// Another desk holds the values of the encounter, waits for the panel, and goes on in the end.
+Fault deadlock() {
     auto rival = std::make_shared<std::shared_ptr<ado::Connection>>();
-    return {name,
+    return {"a deadlock", anEditedNip,
             [=](Ward& ward) {
-                ward.desk->db->quietly(setting);
+                ward.desk->db->quietly("Set deadlock_timeout=200");
                 *rival = ward.other();
                 (*rival)->BeginTrans();
                 (*rival)->Execute("Update NIP_Custom1 Set Pulse='72'");
-                ward.whileItWaits([=] { action(**rival); });
+                ward.whileItWaits([=] { (*rival)->Execute("Update Encounter Set Transport=1"); });
             },
-            [=](Ward&) {
-                if ((*rival)->transactionLevel() > 0) (*rival)->RollbackTrans();
-            },
-            says};
+            [=](Ward&) { (*rival)->RollbackTrans(); }, "another program was changing the same rows"};
 }
 
-const std::vector<Fault>& faultsOfNew() {
+const std::vector<Fault>& faults() {
     static const std::vector<Fault> all{
-        {"stopped before", [](Ward& ward) { ward.server.stop("fast"); },
+        {"stopped before", aNewNip, [](Ward& ward) { ward.server.stop("fast"); },
          [](Ward& ward) { ward.server.start(); }, lost},
-        {"crashed before and up again", [](Ward& ward) { ward.server.restart("immediate"); }, nothing, lost},
-        stopped("stopped while saving", "fast"),
-        stopped("crashed while saving", "immediate"),
-        {"terminated before", [](Ward& ward) { ward.terminate(); }, nothing, lost},
-        {"terminated while saving",
+        {"crashed while saving", aNewNip,
          [](Ward& ward) {
              ward.hinder("Perform pg_sleep(1);");
-             ward.whileItWaits([&ward] { ward.terminate(); });
+             ward.whileItWaits([&ward] { ward.server.stop("immediate"); });
          },
-         free, lost},
+         [](Ward& ward) {
+             ward.server.start();
+             ward.free();
+         },
+         lost},
         refusing("a trigger", "Raise Exception ''not on Sundays'';", "not on Sundays"),
         refusing("a full disk", "Raise Exception ''could not extend'' Using Errcode=''53100'';",
                  "no room left"),
-        refusing("too slow", "Perform pg_sleep(5);", "longer than it is given"),
-        {"a check",
-         [](Ward& ward) { ward.run("Alter Table NIP_Custom1 Add Constraint young Check (Pulse<>'80')"); },
-         [](Ward& ward) { ward.run("Alter Table NIP_Custom1 Drop Constraint young"); }, "young"},
-        {"too long", [](Ward& ward) { ward.run("Alter Table Encounter Alter Description Type VarChar(6)"); },
-         [](Ward& ward) { ward.run("Alter Table Encounter Alter Description Type Text"); },
-         "longer than its column"},
-        {"refused at the very end", [](Ward& ward) { ward.hinder("Raise Exception ''too late'';", true); },
-         free, "too late"},
-        {"read-only", [](Ward& ward) { ward.desk->db->quietly("Set default_transaction_read_only=on"); },
-         [](Ward& ward) { ward.desk->db->quietly("Set default_transaction_read_only=off"); }, "read-only"},
-        network("hangs while saving", "First visit", Relay::HoldRequest, "not answered in time"),
-        network("is cut while saving", "First visit", Relay::LoseAnswer, lost),
-    };
-    return all;
-}
-
-const std::vector<Fault>& faultsOfEdited() {
-    static const auto* const contention = "another program was changing the same rows";
-    static const std::vector<Fault> all{
-        contended("a deadlock", "Set deadlock_timeout=200", contention,
-                  [](ado::Connection& rival) { rival.Execute("Update Encounter Set Transport=1"); }),
-        contended("a lost race", "Set default_transaction_isolation='repeatable read'", contention,
-                  [](ado::Connection& rival) { rival.CommitTrans(); }),
-        contended("another that holds the row", "Select 1", "longer than it is given",
-                  [](ado::Connection&) {}),
-        {"terminated before", [](Ward& ward) { ward.terminate(); }, nothing, lost},
-        network("is cut while saving", "Renamed", Relay::LoseAnswer, lost),
-        network("is cut before the commit", "Commit", Relay::LoseRequest, notKnown),
-        network("is cut behind the commit", "Commit", Relay::LoseAnswer, notKnown),
+        refusing("refused at the very end", "Raise Exception ''too late'';", "too late", true),
+        network("hangs while saving", aNewNip, "First visit", Relay::HoldRequest, "not answered in time"),
+        network("is cut while saving", aNewNip, "First visit", Relay::LoseAnswer, lost),
+        deadlock(),
+        {"terminated before", anEditedNip, [](Ward& ward) { ward.terminate(); }, nothing, lost},
+        network("is cut before the commit", anEditedNip, "Commit", Relay::LoseRequest, notKnown),
+        network("is cut behind the commit", anEditedNip, "Commit", Relay::LoseAnswer, notKnown),
     };
     return all;
 }
@@ -226,33 +187,30 @@ class FaultsOfAServer : public testing::Test {
 };
 
 TEST_F(FaultsOfAServer, LoseNothingOfANip) {
-    for (const auto& [task, faults] :
-         {std::pair{&aNewNip, &faultsOfNew()}, {&anEditedNip, &faultsOfEdited()}}) {
-        for (const Fault& c : *faults) {
-            SCOPED_TRACE(testing::Message() << task->told << ": " << c.name);
-            mWard->open();
-            PanelDesk& desk = *mWard->desk;
-            task->enter(desk);
-            const std::string shown = desk.shown();
-            c.begin(*mWard);
+    for (const Fault& c : faults()) {
+        SCOPED_TRACE(c.name);
+        mWard->open();
+        PanelDesk& desk = *mWard->desk;
+        c.task.enter(desk);
+        const std::string shown = desk.shown();
+        c.begin(*mWard);
+        desk.save();
+        if (mWard->meanwhile.valid()) mWard->meanwhile.get();
+        EXPECT_THAT(desk.told(), Contains(says(c.says)));
+        expectKept(desk, shown);
+        c.end(*mWard);
+        if (desk.db->State() == 0) {
             desk.save();
-            if (mWard->meanwhile.valid()) mWard->meanwhile.get();
-            EXPECT_THAT(desk.told(), Contains(says(c.says)));
+            EXPECT_THAT(desk.told(), Contains(says(lost))) << "once more";
             expectKept(desk, shown);
-            c.end(*mWard);
-            if (desk.db->State() == 0) {
-                desk.save();
-                EXPECT_THAT(desk.told(), Contains(says(lost))) << "once more";
-                expectKept(desk, shown);
-                desk.db->Reset();
-            }
-            const std::string stored = mWard->stored();
-            EXPECT_TRUE(stored == before || (c.says == notKnown && stored == task->stored)) << stored;
-            desk.save();
-            EXPECT_THAT(desk.heard, ElementsAre(task->told, "closed"));
-            EXPECT_THAT(desk.told(), IsEmpty());
-            EXPECT_EQ(mWard->stored(), task->stored);
+            desk.db->Reset();
         }
+        const std::string stored = mWard->stored();
+        EXPECT_TRUE(stored == before || (c.says == notKnown && stored == c.task.stored)) << stored;
+        desk.save();
+        EXPECT_THAT(desk.heard, ElementsAre(c.task.told, "closed"));
+        EXPECT_THAT(desk.told(), IsEmpty());
+        EXPECT_EQ(mWard->stored(), c.task.stored);
     }
     // What was told to be stored is, whatever happens next.
     mWard->server.restart("immediate");

@@ -35,11 +35,15 @@ class CustomizingDesk : public PanelDesk {
     /// "Editing field [Pulse] of group [Vitals]".
     std::string heading() { return says("lblCustEditing"); }
     std::string says(const char* label) { return utf8(part<QLabel>(label).text()); }
-    std::string text(const char* box) { return utf8(part<QLineEdit>(box).text()); }
-    std::string caption() { return text("txtCustNip(1)"); }
+    std::string caption() { return utf8(part<QLineEdit>("txtCustNip(1)").text()); }
 
-    /// The heading and the names in the list: "Fields of group [Vitals]: Pulse Mood".
-    std::string pane() { return heading() + ": " + listed(); }
+    /// The heading, the list and, where there are any, the boxes: "Editing field [Pulse] of group [Vitals]:
+    /// Pulse Mood, Pulse|The Pulse|50|1".
+    std::string pane() {
+        const QString boxes = ", " + name().text() + '|' + part<QLineEdit>("txtCustNip(1)").text() + '|' +
+                              part<QLineEdit>("txtCustNip(2)").text() + '|' + row().text();
+        return heading() + ": " + listed() + (name().isVisible() ? utf8(boxes) : "");
+    }
     std::string listed() {
         QStringList names;
         for (int i = 0; i < list().topLevelItemCount(); ++i)
