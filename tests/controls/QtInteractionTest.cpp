@@ -28,33 +28,26 @@ void onceOpen(std::function<void(Box&)> act) {
     });
 }
 
-struct KeyCase {
-    int style;
-    Qt::Key key;
-    Answer answer;
-};
-
 } // namespace
 
 TEST(QtInteraction, AnswersByWhatTheUserPresses) {
     using namespace MsgBoxStyle;
-    QtInteraction user;
-    for (const auto& c :
-         std::initializer_list<KeyCase>{{OkOnly, Qt::Key_Escape, Answer::Ok},
-                                        {OkCancel | Question, Qt::Key_Return, Answer::Ok},
-                                        {OkCancel, Qt::Key_Escape, Answer::Cancel},
-                                        {OkCancel | DefaultButton2, Qt::Key_Return, Answer::Cancel},
-                                        {YesNo | Question, Qt::Key_Return, Answer::Yes},
-                                        {YesNo | Question, Qt::Key_Escape, Answer::No},
-                                        {YesNo | DefaultButton2, Qt::Key_Return, Answer::No}}) {
-        SCOPED_TRACE(c.style);
-        onceOpen<QMessageBox>([&](QMessageBox& box) { QTest::keyClick(&box, c.key); });
-        EXPECT_EQ(user.MsgBox("Go on?", c.style, ""), c.answer);
+    const std::tuple<int, Qt::Key, Answer> cases[] = {
+        {OkOnly, Qt::Key_Escape, Answer::Ok},
+        {OkCancel | Question, Qt::Key_Return, Answer::Ok},
+        {OkCancel, Qt::Key_Escape, Answer::Cancel},
+        {OkCancel | DefaultButton2, Qt::Key_Return, Answer::Cancel},
+        {YesNo | Question, Qt::Key_Return, Answer::Yes},
+        {YesNo | Question, Qt::Key_Escape, Answer::No},
+        {YesNo | DefaultButton2, Qt::Key_Return, Answer::No}};
+    for (const auto& [style, key, answer] : cases) {
+        SCOPED_TRACE(style);
+        onceOpen<QMessageBox>([&, pressed = key](QMessageBox& box) { QTest::keyClick(&box, pressed); });
+        EXPECT_EQ(QtInteraction().MsgBox("Go on?", style, ""), answer);
     }
 }
 
 TEST(QtInteraction, ShowsTextAsItStandsWithIconTitleAndAnOrdinaryPointer) {
-    QtInteraction user;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     onceOpen<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.text(), "<b>5 < 6</b>");
@@ -64,7 +57,7 @@ TEST(QtInteraction, ShowsTextAsItStandsWithIconTitleAndAnOrdinaryPointer) {
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
         box.reject();
     });
-    user.MsgBox("<b>5 < 6</b>", MsgBoxStyle::Exclamation, "Nip");
+    QtInteraction().MsgBox("<b>5 < 6</b>", MsgBoxStyle::Exclamation, "Nip");
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     QGuiApplication::restoreOverrideCursor();
 }
