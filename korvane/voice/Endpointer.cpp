@@ -26,12 +26,13 @@ Endpointer::Told Endpointer::push(std::span<const std::int16_t, frame> samples) 
     const double level = levelOf(samples);
     const bool isLoud = loud(level);
     mSaid.insert(mSaid.end(), samples.begin(), samples.end());
-    if (mState != State::Quiet) return during(isLoud);
+    if (mState != State::Quiet) return during(isLoud ? std::optional(level) : std::nullopt);
 
     mLoud = isLoud ? mLoud + 1 : std::max(0, mLoud - 1);
     if (mLoud >= 4) {
         mState = State::Said;
         mPeak = level;
+        mLevels = level * mLoud;
         mQuiet = 0;
         return Nothing;
     }
@@ -40,9 +41,10 @@ Endpointer::Told Endpointer::push(std::span<const std::int16_t, frame> samples) 
     return Nothing;
 }
 
-Endpointer::Told Endpointer::during(bool isLoud) {
-    if (isLoud) {
+Endpointer::Told Endpointer::during(std::optional<double> loudness) {
+    if (loudness) {
         ++mLoud;
+        mLevels += *loudness;
         mQuiet = 0;
     } else {
         ++mQuiet;
@@ -69,6 +71,10 @@ bool Endpointer::loud(double level) {
     mPeak = std::max(mPeak, level);
     const double needed = std::max(mFloor + above, mState == State::Quiet ? 0 : mPeak - belowPeak);
     return level > needed;
+}
+
+bool Endpointer::isClear() const {
+    return mLoud > 0 && mLevels / mLoud >= mFloor + clearBy;
 }
 
 void Endpointer::drop() {

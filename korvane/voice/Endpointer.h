@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -23,6 +24,8 @@ namespace Korvane::voice {
 class Endpointer {
   public:
     static constexpr std::size_t frame = AudioSource::sampleRate / 100;
+    /// In dB.
+    static constexpr double clearBy = 14;
     /// In frames.
     static constexpr int pause = 12, hangover = 22, longest = 450, least = 8, before = 25;
 
@@ -38,20 +41,25 @@ class Endpointer {
     /// What was said and the quiet around it; until the next `push` that tells of something else.
     std::span<const std::int16_t> said() const { return mSaid; }
 
+    /// Whether it stands out from its surroundings by enough that its words can be told: `clearBy` on
+    /// average. In more noise than that a wrong word is likelier than the right one.
+    bool isClear() const;
+
     /// Forgets what was being said; the rest of it is not listened to. How loud it is around stays known.
     void drop();
 
   private:
     bool loud(double level);
-    Told during(bool isLoud);
+    Told during(std::optional<double> loudness);
 
     enum class State { Quiet, Said, Dropped } mState = State::Quiet;
     std::vector<std::int16_t> mSaid;
-    double mFloor = 0; ///< the level of the surroundings, in dB
-    double mPeak = 0;  ///< of what is being said
-    int mFrames = 0;   ///< pushed so far, up to where the floor is known
-    int mLoud = 0;     ///< loud frames of what is being said
-    int mQuiet = 0;    ///< quiet frames since the last loud one
+    double mFloor = 0;  ///< the level of the surroundings, in dB
+    double mPeak = 0;   ///< of what is being said
+    double mLevels = 0; ///< of the loud frames, summed up
+    int mFrames = 0;    ///< pushed so far, up to where the floor is known
+    int mLoud = 0;      ///< loud frames of what is being said
+    int mQuiet = 0;     ///< quiet frames since the last loud one
 };
 
 } // namespace Korvane::voice

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 namespace Korvane::Testing {
 
@@ -120,6 +121,16 @@ bool isCommand(const std::string& heard) {
     return heard == "1" || heard == "2";
 }
 
+/// KORVANE_VOICE_ERRORS=1 shows what was misheard.
+void note(const Tally& tally, bool right, const std::string& said, const std::vector<std::string>& heard) {
+    if (right || !std::getenv("KORVANE_VOICE_ERRORS")) return;
+    std::printf("%s, %s: \"%s\" was heard as", tally.speakers.c_str(), tally.surroundings.c_str(),
+                said.c_str());
+    for (const auto& words : heard)
+        std::printf(" \"%s\"", words.c_str());
+    std::printf("\n");
+}
+
 } // namespace
 
 double percent(int part, int whole) {
@@ -135,20 +146,26 @@ Tally tryOut(Ear& ear, Amount amount, bool recordedVoices, const std::string& no
     const auto hear = [&](const std::string& words) {
         return ear.hear(amid(speak(anySpeaker(chance, recordedVoices), words), noiseKind, decibels, chance));
     };
-    for (int i = 0; i < amount.commands; ++i, ++tally.commands)
-        tally.commandsRight += hear(commands[i % 2]) == std::vector{std::to_string(i % 2 + 1)};
+    for (int i = 0; i < amount.commands; ++i, ++tally.commands) {
+        const auto heard = hear(commands[i % 2]);
+        const bool right = heard == std::vector{std::to_string(i % 2 + 1)};
+        tally.commandsRight += right;
+        note(tally, right, commands[i % 2], heard);
+    }
     for (int i = 0; i < amount.values; ++i, ++tally.values) {
         const std::string said = values[static_cast<std::size_t>(i) % std::size(values)];
         const auto heard = hear(said);
         const bool right = heard.size() == 1 && meaning(heard.front()) == meaning(said);
         tally.valuesRight += right;
         tally.valuesWrong += !right && !heard.empty();
+        note(tally, right, said, heard);
     }
     for (int i = 0; i < amount.others; ++i, ++tally.others) {
         const auto heard = hear(others[static_cast<std::size_t>(i) % std::size(others)]);
         const bool asCommand = std::ranges::any_of(heard, isCommand);
         tally.othersAsCommand += asCommand;
         tally.othersAsValue += !asCommand && !heard.empty();
+        note(tally, heard.empty(), others[static_cast<std::size_t>(i) % std::size(others)], heard);
     }
     return tally;
 }

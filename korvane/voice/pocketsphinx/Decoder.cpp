@@ -68,9 +68,9 @@ Decoder::Decoder(const std::filesystem::path& model) {
     const auto sounds = existing(model / "en-us"), dictionary = existing(model / "cmudict-en-us.dict");
     err_set_logfp(nullptr);
     // Where sentences begin and end is known; and a silence beside one is as likely as none.
-    const std::unique_ptr<cmd_ln_t, FreeConfig> config(
-        cmd_ln_init(nullptr, ps_args(), TRUE, "-hmm", sounds.c_str(), "-dict", dictionary.c_str(), "-logfn",
-                    "/dev/null", "-remove_silence", "no", "-remove_noise", "no", "-silprob", "0.5", nullptr));
+    const std::unique_ptr<cmd_ln_t, FreeConfig> config(cmd_ln_init(
+        nullptr, ps_args(), TRUE, "-hmm", sounds.c_str(), "-dict", dictionary.c_str(), "-logfn", "/dev/null",
+        "-remove_silence", "no", "-remove_noise", "yes", "-silprob", "0.5", nullptr));
     if (config) mDecoder.reset(ps_init(config.get()));
     if (!mDecoder)
         throw RuntimeError(RuntimeError::InvalidProcedureCall,

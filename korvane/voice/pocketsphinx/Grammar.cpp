@@ -30,8 +30,8 @@ constexpr std::string_view commonWords = "the i and a of you that in it is but k
                                          "back any new our also";
 
 // Costs, in nats; sound itself is overconfident, so they are large. Chosen by measuring, see docs/voice.md.
-constexpr double otherSentence = 25, otherWord = 30, command = 25;
-constexpr double year = 2, rareYear = 30, digits = 15, restOfDate = 10;
+constexpr double otherSentence = 25, otherWord = 30, command = 40;
+constexpr double year = 6, rareYear = 30, digits = 35, restOfDate = 60;
 
 void addDay(WordGraph& graph, int from, int to, double cost) {
     for (const auto words : {ones, teens, ordinals, laterOrdinals})
@@ -111,9 +111,8 @@ void addDates(WordGraph& graph) {
 
 WordGraph wantedSentences(const Wanted& wanted) {
     WordGraph graph;
-    // A command counts as an exact sentence, a value against it as one of many.
     for (const auto& phrase : wanted.commands)
-        graph.sequence(WordGraph::start, WordGraph::end, phrase, wanted.dates ? command : 0);
+        graph.sequence(WordGraph::start, WordGraph::end, phrase, command);
     if (wanted.dates) addDates(graph);
     return graph;
 }

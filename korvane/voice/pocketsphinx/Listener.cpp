@@ -110,7 +110,8 @@ void Listener::finish() {
 }
 
 std::string Listener::answer() {
-    return mWanted.nothing() ? std::string() : mDecoder->words(mEndpointer.said());
+    if (mWanted.nothing() || !mEndpointer.isClear()) return {};
+    return mDecoder->words(mEndpointer.said());
 }
 
 } // namespace Korvane::voice
