@@ -16,7 +16,7 @@ bool hasArgument(int argc, char** argv, std::string_view start) {
 }
 
 bool hasScreen(int argc, char** argv) {
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || hasArgument(argc, argv, "-platform") ||
+    return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || hasArgument(argc, argv, "-platform") ||
            !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
