@@ -1,5 +1,6 @@
 #include <korvane/nip/cNIP.h>
 
+#include "support/CaseTable.h"
 #include "support/NipDatabase.h"
 
 #include <gmock/gmock.h>
@@ -91,12 +92,7 @@ TEST_F(LoadValues, FillsANewEncounterFromDefaultsAndThePatientsLatestOne) {
     ASSERT_TRUE(nip.Load(-1, "P1", true));
     EXPECT_THAT(values(), ElementsAre("37.2", "as usual", "a|b|", ""));
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 3);
-    EXPECT_THAT(nips.db->statements,
-                ElementsAre("Select * From Encounter Where 1=0",
-                            "Select [Temp-1],Description,Chosen,Rank From NIP_Custom1 Where EncounterID=-1",
-                            "Select Top 1 [Temp-1],NIP_Custom1.Description,Chosen,Rank From NIP_Custom1 "
-                            "INNER JOIN Encounter ON Encounter.EncounterID=NIP_Custom1.EncounterID Where "
-                            "PatientID='P1' Order By EncounterDate DESC"));
+    EXPECT_EQ(nips.db->statements, statementsOf("new values"));
 
     ASSERT_TRUE(nip.Load(2, "P1", true));
     EXPECT_THAT(values(), ElementsAre("38.3", "as usual", "  ", "")) << "it is not its own predecessor";

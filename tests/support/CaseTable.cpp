@@ -42,6 +42,14 @@ std::vector<std::vector<std::string>> readCases(std::string_view file) {
     return rows;
 }
 
+std::vector<std::string> statementsOf(std::string_view what) {
+    std::vector<std::string> statements;
+    for (const auto& row : readCases("statements.tsv"))
+        if (row[0] == what) statements.push_back(row[1]);
+    if (statements.empty()) throw std::runtime_error("no such statements: " + std::string(what));
+    return statements;
+}
+
 std::string quotedText(std::string_view cell) {
     if (cell.size() < 2 || cell.front() != '"' || cell.back() != '"')
         throw std::invalid_argument("not a quoted text: " + std::string(cell));

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "support/CaseTable.h"
+
 #include <korvane/ado/sql/Tables.h>
 #include <korvane/runtime/Text.h>
 
-#include <initializer_list>
 #include <map>
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace Korvane::Testing {
@@ -50,46 +50,21 @@ class KnownTables : public ado::sql::Tables {
     }
 
   private:
-    static std::vector<ado::ColumnInfo>
-    columns(std::initializer_list<std::pair<ado::DataType, std::initializer_list<const char*>>> groups) {
-        std::vector<ado::ColumnInfo> all;
-        for (const auto& [type, names] : groups) {
-            for (const char* name : names)
-                all.push_back({name, type, 0});
-        }
+    using Columns = std::map<std::string, std::vector<ado::ColumnInfo>>;
+
+    static const Columns& known() {
+        static const Columns all = [] {
+            Columns columns;
+            for (const auto& row : readCases("knowntables.tsv")) {
+                for (std::size_t i = 2; i < row.size(); ++i)
+                    columns[row[0]].push_back({row[i], static_cast<ado::DataType>(std::stoi(row[1])), 0});
+            }
+            return columns;
+        }();
         return all;
     }
 
-    std::map<std::string, std::vector<ado::ColumnInfo>> mTables{
-        {"encounter", columns({{ado::DataType::Integer,
-                                {"EncounterID", "EncounterMethodID", "ProviderID", "ForeignProviderID",
-                                 "LocationID", "Transport"}},
-                               {ado::DataType::VarWChar, {"PatientID", "Description"}},
-                               {ado::DataType::Date, {"EncounterDate"}},
-                               {ado::DataType::Boolean, {"Outgoing"}}})},
-        {"attachment", columns({{ado::DataType::Integer, {"AttachmentID", "EncounterID"}},
-                                {ado::DataType::VarWChar,
-                                 {"AttachmentType", "Description", "Category", "Archived", "Origin",
-                                  "Filename", "Orientation", "InUseBy"}},
-                                {ado::DataType::Date, {"EntryDate", "OriginDate"}},
-                                {ado::DataType::Boolean, {"Deleted", "Locked"}}})},
-        {"dbfieldgroups", columns({{ado::DataType::Integer, {"DBFieldGroupID"}},
-                                   {ado::DataType::VarWChar, {"GroupName", "TableName"}},
-                                   {ado::DataType::Double, {"Ordinal"}}})},
-        {"dbfields",
-         columns({{ado::DataType::Integer, {"ID", "DBFieldGroupID", "MaxLength"}},
-                  {ado::DataType::SmallInt, {"InitialValueRuleID"}},
-                  {ado::DataType::VarWChar, {"FieldName", "FieldCaption", "dataType", "DisplayType"}},
-                  {ado::DataType::Single, {"Ordinal"}}})},
-        {"dbfieldvalues", columns({{ado::DataType::VarWChar, {"FieldName", "FieldValue"}},
-                                   {ado::DataType::Boolean, {"DefaultValue"}},
-                                   {ado::DataType::Integer, {"DBFieldGroupID", "Ordinal"}}})},
-        {"nip_custom1", columns({{ado::DataType::Integer, {"EncounterID"}},
-                                 {ado::DataType::VarWChar, {"Pulse", "Temp-1", "Problem List"}},
-                                 {ado::DataType::Date, {"Seen"}},
-                                 {ado::DataType::Boolean, {"Smoker"}},
-                                 {ado::DataType::Double, {"Weight", "User"}}})},
-    };
+    Columns mTables = known();
     std::map<std::string, std::string> mNames;
 };
 
