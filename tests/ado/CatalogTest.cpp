@@ -70,8 +70,7 @@ TEST_P(Catalogs, AreAsTheDatabaseIsWhetherAChangeWasRolledBackOrCommitted) {
     };
     const auto other = mEngine->connect();
     const auto row = [](const std::shared_ptr<Connection>& db) {
-        const auto rs = Recordset::create();
-        rs->Open("Select * From NIP_Custom1 Where EncounterID=1", db);
+        const auto rs = opened(db, "Select * From NIP_Custom1 Where EncounterID=1");
         std::string text;
         for (int i = 0; i < rs->FieldCount(); ++i)
             text += rs->Fields(i).Name() + "=" + rs->Value(i).textOrEmpty() + " ";

@@ -144,24 +144,27 @@ void OnEveryEngine::SetUp() {
 
 std::shared_ptr<Recordset> OnEveryEngine::query(std::string_view statement, CursorType cursorType,
                                                 LockType lockType) {
-    auto rs = Recordset::create();
-    rs->CursorType(cursorType);
-    rs->LockType(lockType);
-    rs->Open(statement, mDb);
-    return rs;
+    return opened(mDb, statement, cursorType, lockType);
 }
 
 std::string OnEveryEngine::one(std::string_view statement) {
-    const auto rs = query(statement);
-    if (rs->Eof()) return "(none)";
-    const Variant value = rs->Value(0);
-    return value.isNull() ? "(null)" : value.text();
+    return Testing::one(mDb, statement);
+}
+
+std::shared_ptr<Recordset> opened(const std::shared_ptr<Connection>& db, std::string_view statement,
+                                  CursorType cursorType, LockType lockType) {
+    auto rs = Recordset::create();
+    rs->CursorType(cursorType);
+    rs->LockType(lockType);
+    rs->Open(statement, db);
+    return rs;
 }
 
 std::string one(const std::shared_ptr<Connection>& db, std::string_view statement) {
-    const auto rs = Recordset::create();
-    rs->Open(statement, db);
-    return rs->Eof() ? "(none)" : rs->Value(0).textOrEmpty();
+    const auto rs = opened(db, statement);
+    if (rs->Eof()) return "(none)";
+    const Variant value = rs->Value(0);
+    return value.isNull() ? "(null)" : value.text();
 }
 
 } // namespace Korvane::ado::Testing

@@ -69,7 +69,6 @@ class OnEveryEngine : public testing::TestWithParam<EngineChoice> {
     std::shared_ptr<Recordset> query(std::string_view statement,
                                      CursorType cursorType = CursorType::ForwardOnly,
                                      LockType lockType = LockType::ReadOnly);
-    /// The first value of the first row, as text; "(null)" for null and "(none)" when there is no row.
     std::string one(std::string_view statement);
 
     std::unique_ptr<Engine> mEngine;
@@ -78,7 +77,11 @@ class OnEveryEngine : public testing::TestWithParam<EngineChoice> {
 
 using Korvane::Testing::errorOf;
 using Korvane::Testing::raised;
-/// The first value of the first row, as text; empty for null and "(none)" when there is no row.
+/// A query's rows.
+std::shared_ptr<Recordset> opened(const std::shared_ptr<Connection>& db, std::string_view statement,
+                                  CursorType cursorType = CursorType::ForwardOnly,
+                                  LockType lockType = LockType::ReadOnly);
+/// The first value of the first row, as text; "(null)" for null and "(none)" when there is no row.
 std::string one(const std::shared_ptr<Connection>& db, std::string_view statement);
 
 } // namespace Korvane::ado::Testing

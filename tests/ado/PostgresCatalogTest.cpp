@@ -41,8 +41,7 @@ TEST_F(PostgresCatalog, TellsNamesApartThatOthersMadeAlike) {
     EXPECT_EQ(catalog.Tables().Item("Alike").Name(), "alike");
     EXPECT_EQ(catalog.Tables().Item("ALIKE").Name(), "ALIKE");
     mOther->run("insert into alike values (1, 2)");
-    const auto rs = Recordset::create();
-    rs->Open("Select [pulse],[Pulse] From Alike", mDb);
+    const auto rs = opened(mDb, "Select [pulse],[Pulse] From Alike");
     EXPECT_EQ(rs->Value("Pulse").text() + rs->Value("pulse").text(), "21");
     rs->Close();
     mOther->run("delete from alike");

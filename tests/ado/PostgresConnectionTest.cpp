@@ -96,8 +96,7 @@ TEST_F(PostgresServer, ThatEndedTheConnectionCanBeReachedAgain) {
     const auto db = connect();
     db->Execute("Create Table T (A Integer Primary Key)");
     db->Execute("Insert into T (A) values (1)");
-    const auto kept = Recordset::create();
-    kept->Open("Select A From T", db);
+    const auto kept = opened(db, "Select A From T");
     db->BeginTrans();
     db->Execute("Insert into T (A) values (2)");
     terminate(backendOf(db));

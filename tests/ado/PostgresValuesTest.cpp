@@ -15,8 +15,7 @@ TEST_F(PostgresValues, OfEveryTypeOfColumnComeBack) {
         mDb->Execute("Create Table T (K Integer, V " + row[0] + ")");
         mDb->Execute("Insert into T (K,V)  values (1," + row[1] + ")");
         mDb->Execute("Insert into T (K,V)  values (2,Null)");
-        const auto rs = Recordset::create();
-        rs->Open("Select V From T Order By K", mDb);
+        const auto rs = opened(mDb, "Select V From T Order By K");
         EXPECT_EQ(std::to_string(static_cast<int>(rs->FieldType("V"))), row[2]);
         EXPECT_EQ(std::to_string(rs->Fields("V").DefinedSize()), row[3]);
         EXPECT_EQ(rs->Value("V").text(), row[4]);
@@ -34,7 +33,7 @@ TEST_F(PostgresValues, LandUnalteredOrNotAtAllWhenAColumnHasGotAnotherType) {
             mOther->run("drop table if exists T; create table T (ID integer, V " + row[0] + ");" +
                         "insert into T values (1, null)");
             const auto db = connect();
-            EXPECT_EQ(one(db, "Select V From T Where ID=1"), "");
+            EXPECT_EQ(one(db, "Select V From T Where ID=1"), "(null)");
             const auto update = [&](const std::string& value) {
                 return errorOf([&] { db->Execute("Update T Set V=" + value + " Where ID=1"); });
             };
@@ -57,10 +56,9 @@ TEST_F(PostgresValues, AreReadAsTheTypeThatTheirColumnHasNow) {
         for (const std::string from : {"V", "Max(V)"}) {
             SCOPED_TRACE(from + " as " + type);
             const auto db = connect();
-            EXPECT_NE(one(db, "Select " + from + " From T Where ID=1"), "");
+            EXPECT_EQ(one(db, "Select " + from + " From T Where ID=1"), "5");
             mOther->run("alter table T alter V type " + type + " using '" + value + "'::" + type);
-            const auto rs = Recordset::create();
-            rs->Open("Select " + from + " From T Where ID=1", db);
+            const auto rs = opened(db, "Select " + from + " From T Where ID=1");
             EXPECT_EQ(rs->Value(0).text(), value);
             if (from == "V") {
                 EXPECT_EQ(rs->FieldType(0), now);
@@ -88,10 +86,7 @@ TEST_F(PostgresValues, KeepEveryDigitOfADecimal) {
             const std::string select = "Select " + column + " From T";
             EXPECT_EQ(mOther->value(select), digits);
             EXPECT_EQ(one(mDb, select + " Where " + column + "=" + literal), digits);
-            const auto rs = Recordset::create();
-            rs->CursorType(CursorType::Keyset);
-            rs->LockType(LockType::Optimistic);
-            rs->Open(select, mDb);
+            const auto rs = opened(mDb, select, CursorType::Keyset, LockType::Optimistic);
             EXPECT_EQ(rs->Value(0).type(), type);
             rs->Fields(0).Value(rs->Value(0)); // read and written back
             rs->Update();

@@ -20,23 +20,15 @@ std::string rowOf(const Recordset& rs) {
     return row;
 }
 
-std::shared_ptr<Recordset> opened(const Actor& actor, const std::string& statement, LockType lock) {
-    auto rs = Recordset::create();
-    if (lock == LockType::Optimistic) rs->CursorType(CursorType::Keyset);
-    rs->LockType(lock);
-    rs->Open(statement, actor.db);
-    return rs;
-}
-
 std::string rowsOf(const Actor& actor, const std::string& statement) {
     std::string rows;
-    for (const auto rs = opened(actor, statement, LockType::ReadOnly); !rs->Eof(); rs->MoveNext())
+    for (const auto rs = opened(actor.db, statement); !rs->Eof(); rs->MoveNext())
         rows += (rows.empty() ? "" : " ") + rowOf(*rs);
     return rows;
 }
 
 std::string typesOf(const Actor& actor, const std::string& statement) {
-    const auto rs = opened(actor, statement, LockType::ReadOnly);
+    const auto rs = opened(actor.db, statement);
     std::string types;
     for (int i = 0; i < rs->FieldCount(); ++i)
         types += (i > 0 ? " " : "") + rs->Fields(i).Name() + ":" +
@@ -131,7 +123,7 @@ const std::map<std::string, Verb>& verbs() {
         {"leaves", [](Actor& a, const auto&) { return a.db.reset(), ""; }},
         {"opens",
          [](Actor& a, const auto& text) {
-             a.rs = opened(a, text, LockType::Optimistic);
+             a.rs = opened(a.db, text, CursorType::Keyset, LockType::Optimistic);
              return rowOf(*a.rs);
          }},
         {"puts",
@@ -139,6 +131,8 @@ const std::map<std::string, Verb>& verbs() {
              a.rs->SetValue(0, text == "NULL" ? Variant::null() : Variant(text));
              return a.rs->Update(), rowOf(*a.rs);
          }},
+        {"holds", [](Actor& a, const auto& text) { return a.rs = opened(a.db, text), ""; }},
+        {"frees", [](Actor& a, const auto&) { return a.rs->Close(), ""; }},
         {"tables", [](Actor& a, const auto&) { return tablesOf(a); }},
         {"describes", [](Actor& a, const auto& text) { return described(a, text); }},
         {"makes", [](Actor& a, const auto& text) { return make(a, text), ""; }},

@@ -115,44 +115,4 @@ TEST_F(SqliteFile, KeepsABoundedNumberOfCompiledStatements) {
     }
 }
 
-TEST_F(SqliteFile, WhoseHandleIsLentShowsTheColumnsThatItsOwnerMadeMeanwhile) {
-    sqlite3* handle = nullptr;
-    ASSERT_EQ(sqlite3_open(path().c_str(), &handle), SQLITE_OK);
-    const auto run = [&](const char* statement) {
-        ASSERT_EQ(sqlite3_exec(handle, statement, nullptr, nullptr, nullptr), SQLITE_OK) << statement;
-    };
-    run("create table T (A Integer Primary Key)");
-    const auto db = sqlite::adopt(handle);
-    db->Execute("Insert into T (A) values (1),(2)");
-    const auto open = [&](const char* statement) {
-        auto rs = Recordset::create();
-        rs->Open(statement, db);
-        return rs;
-    };
-    const auto live = open("Select * From T Where A>0");
-    run("alter table T add column B Varchar(9) default 'b'");
-    EXPECT_EQ(open("Select * From T Where A>0")->FieldCount(), 2) << "compiled beside the one in use";
-    live->Close();
-    db->Execute("Update T Set [B]='1/2/2026' Where A=1");
-    EXPECT_NE(errorOf([&] { open("Select * From T Where A='few'"); }), 0);
-    run("drop table T; create table T (A Integer Primary Key, C Integer, B Timestamp);"
-        "insert into T values (1, 5, null)");
-    EXPECT_EQ(open("Select * From T Where A=1")->Value("C").text(), "5");
-    {
-        Transaction work(*db);
-        db->Execute("Update T Set [B]='1/2/2026' Where A=1");
-        run("drop table T; create table T (A Integer Primary Key, B Varchar(9)); insert into T values (1, "
-            "'')");
-        db->Execute("Update T Set [B]='1/2/2026' Where A=1");
-        EXPECT_EQ(one(db, "Select B From T Where B='1/2/2026'"), "1/2/2026");
-        run("drop table T; create table T (A Integer Primary Key, B Timestamp); insert into T values (1, "
-            "null)");
-        db->Execute("Update T Set [B]='1/2/2026' Where A=1");
-        work.commit();
-    }
-    EXPECT_EQ(one(db, "Select Count(*) From T Where B=#1/2/2026#"), "1");
-    db->Close();
-    EXPECT_EQ(sqlite3_close(handle), SQLITE_OK);
-}
-
 } // namespace Korvane::ado::Testing
