@@ -21,10 +21,7 @@ using testing::HasSubstr;
 namespace {
 
 /// Two groups: "Vitals" with Pulse, Weight and a list Mood, one stored encounter; "Notes" with Text.
-struct CustomizingStructure : testing::Test {
-    NipDatabase nips;
-    cNIP nip;
-
+struct CustomizingStructure : NipTest {
     CustomizingStructure() {
         nips.group(2, "Vitals", "NIP_Custom1");
         nips.field(2, "NIP_Custom1", "Pulse");
@@ -36,10 +33,8 @@ struct CustomizingStructure : testing::Test {
         nips.field(3, "NIP_Custom2", "Text");
         nips.encounter(7, "P1", "1/2/2026");
         nips.insert("NIP_Custom1", {{"EncounterID", 7}, {"Pulse", "72"}, {"Weight", "80"}, {"Mood", "Poor"}});
-        reload();
+        loadStructure();
     }
-
-    void reload() { ASSERT_TRUE(nip.LoadStructure(nips.db)) << nips.errorLog(); }
 
     /// Everything in the database that customizing may touch.
     std::string stored() const {
@@ -105,7 +100,7 @@ TEST_F(CustomizingStructure, MakesAGroupByTheRuleOfItsName) {
     EXPECT_TRUE(nip.CreateGroup("Numbered too")) << nips.errorLog();
     EXPECT_EQ(nips.rows("Select TableName From DBFieldGroups Where DBFieldGroupID>4 Order By DBFieldGroupID"),
               "NIP_Custom3 NIP_Custom4");
-    reload();
+    loadStructure();
     EXPECT_EQ(nip.GroupCount(), 5);
     EXPECT_EQ(nip.FieldCount(5), 0);
 }
@@ -119,13 +114,13 @@ TEST_F(CustomizingStructure, MakesAFieldThatKeepsWhatIsEnteredInIt) {
     nips.db->statements.clear();
     ASSERT_TRUE(nip.SaveStructure()) << nips.errorLog();
     EXPECT_THAT(nips.db->statements, testing::IsSupersetOf(statementsOf("new field")));
-    reload();
+    loadStructure();
     EXPECT_EQ(nip.DefaultValue(1, 4), Variant("38 'hot'"));
     EXPECT_EQ(nip.ValueListCount(1, 4), 2);
-    ASSERT_TRUE(nip.Load(7, "P1", false));
+    load(7);
     EXPECT_EQ(nip.value(1, 1), Variant("72"));
     nip.value(1, 4, "37");
-    ASSERT_TRUE(nip.Save()) << nips.errorLog();
+    save();
     EXPECT_EQ(nips.rows("Select Pulse,[Temp-1] From NIP_Custom1"), "72|37");
 }
 
@@ -170,13 +165,13 @@ TEST_F(CustomizingStructure, RenamesAFieldWithItsDataItsValuesAndWhatItCarriesFo
                                    .values = {"Good", "Poor"},
                                    .defaultValue = "Good"}));
         ASSERT_TRUE(nip.SaveStructure()) << name << nips.errorLog();
-        reload();
+        loadStructure();
         EXPECT_EQ(nip.fieldName(1, 3), name);
         EXPECT_EQ(nip.ValueListCount(1, 3), 2);
         EXPECT_EQ(nip.DefaultValue(1, 3), Variant("Good"));
-        ASSERT_TRUE(nip.Load(7, "P1", false));
+        load(7);
         EXPECT_EQ(nip.value(1, 3), Variant("Poor")) << name;
-        ASSERT_TRUE(nip.Load(-1, "P1", true));
+        load(-1, true);
         EXPECT_EQ(nip.value(1, 3), Variant("Poor")) << name;
     }
     EXPECT_EQ(nips.rows("Select Count(*) From DBFieldValues"), "2");
@@ -184,23 +179,23 @@ TEST_F(CustomizingStructure, RenamesAFieldWithItsDataItsValuesAndWhatItCarriesFo
 
 TEST_F(CustomizingStructure, ReplacesTheValuesOfAFieldWhateverTheCaseOfItsNameThere) {
     nips.allowed(2, "MOOD", "Left over", 3);
-    reload();
+    loadStructure();
     ASSERT_EQ(nip.ValueListCount(1, 3), 3);
     ASSERT_TRUE(nip.EditField(
         1, 3, {.fieldName = "Mood", .maxLength = 50, .displayType = "LIST", .values = {"Good"}}));
     ASSERT_TRUE(nip.SaveStructure());
-    reload();
+    loadStructure();
     EXPECT_EQ(nip.ValueListCount(1, 3), 1);
 }
 
 TEST_F(CustomizingStructure, LoadsAndSavesBesideAFieldThatIsNotSavedYet) {
     ASSERT_TRUE(nip.CreateField(1, {.fieldName = "A", .maxLength = 5, .values = {"x"}}));
     nip.fieldName(1, 4, "B");
-    ASSERT_TRUE(nip.Load(7, "P1", false)) << nips.errorLog();
+    load(7);
     nip.value(1, 1, "73");
-    ASSERT_TRUE(nip.Save()) << nips.errorLog();
+    save();
     ASSERT_TRUE(nip.SaveStructure()) << nips.errorLog();
-    reload();
+    loadStructure();
     EXPECT_EQ(nip.fieldName(1, 4), "B");
     EXPECT_EQ(nip.ValueListCount(1, 4), 1);
     EXPECT_EQ(nips.rows("Select Pulse,B From NIP_Custom1"), "73|NULL");
@@ -214,11 +209,11 @@ TEST_F(CustomizingStructure, WidensAColumnAndNeverNarrowsIt) {
     const std::string longText(300, 'x');
     ASSERT_TRUE(edit(300)) << nips.errorLog();
     nip.value(1, 1, longText);
-    ASSERT_TRUE(nip.Save()) << nips.errorLog();
+    save();
     ASSERT_TRUE(edit(10)) << nips.errorLog();
     EXPECT_EQ(nip.maxLength(1, 1), 10);
     EXPECT_EQ(nip.value(1, 1), Variant(longText));
-    ASSERT_TRUE(nip.Save()) << nips.errorLog();
+    save();
     EXPECT_EQ(nips.rows("Select Pulse From NIP_Custom1"), longText);
 }
 
@@ -227,7 +222,7 @@ TEST_F(CustomizingStructure, MovesAFieldToAnotherRow) {
         nip.EditField(1, 3, {.fieldName = "Mood", .maxLength = 50, .displayType = "LIST", .rowIndex = 1}));
     ASSERT_TRUE(nip.CreateField(1, {.fieldName = "New", .maxLength = 5, .rowIndex = 2}));
     ASSERT_TRUE(nip.SaveStructure()) << nips.errorLog();
-    reload();
+    loadStructure();
     EXPECT_EQ(modelled().substr(0, modelled().find("Notes")),
               "Vitals(4): Mood/ New/ Pulse/The Pulse Weight/The Weight ");
 }
@@ -237,15 +232,15 @@ TEST_F(CustomizingStructure, DeletesFieldsAndGroupsWithTheirData) {
     EXPECT_EQ(nips.rows("Select * From NIP_Custom1"), "7|72|80");
     EXPECT_EQ(nips.rows("Select Count(*) From DBFieldValues"), "0");
     EXPECT_EQ(nip.FieldCount(1), 3) << "until the structure is loaded anew";
-    reload();
+    loadStructure();
     ASSERT_TRUE(nip.DeleteGroup(1)) << nips.errorLog();
-    reload();
+    loadStructure();
     EXPECT_EQ(modelled(), "Notes(1): Text/The Text ");
     EXPECT_FALSE(ado::Catalog(nips.db).Tables().Exists("NIP_Custom1"));
     EXPECT_EQ(nips.rows("Select Count(*) From Encounter"), "1");
 
     nips.db->quietly("Drop Table NIP_Custom2");
-    reload();
+    loadStructure();
     EXPECT_TRUE(nip.DeleteField(1, 1));
     EXPECT_THAT(nips.errorLog(), HasSubstr("deleting field, but table does not exist:NIP_Custom2"));
     EXPECT_EQ(nips.rows("Select Count(*) From DBFields"), "0");
@@ -284,7 +279,7 @@ TEST_F(CustomizingStructure, ChangesAllOrNothingWhereverItFails) {
         {"DeleteGroup", [] {}, [&] { return nip.DeleteGroup(1); }},
     };
     for (const Change& change : changes) {
-        reload();
+        loadStructure();
         change.prepare();
         const auto before = std::pair(stored(), modelled());
         int steps = 0;
@@ -322,7 +317,7 @@ TEST_F(CustomizingStructure, LeavesTheOldStructureOrTheNewOneWhenTheProcessIsKil
         return isOld;
     });
     open();
-    reload();
+    loadStructure();
     EXPECT_EQ(modelled(),
               "Vitals(4): Pulse/The Pulse Weight/The Weight Humour/ Temp-1/The patient's temperature "
               "Notes(1): Text/The Text Later(1): Temp-1/The patient's temperature ");
@@ -337,7 +332,7 @@ struct CustomizedElsewhere : CustomizingStructure {
 
     /// A Nip in which fields have been typed into.
     void enter() {
-        ASSERT_TRUE(nip.Load(7, "P1", false));
+        load(7);
         nip.value(1, 1, "99");
         nip.value(1, 2, "81");
     }
@@ -372,20 +367,20 @@ TEST_F(CustomizedElsewhere, IsNoticedBeforeAnythingIsWrittenAndKeepsTheEntries) 
     EXPECT_FALSE(nip.StructureChanged());
     ASSERT_EQ(lost.size(), 1U);
     EXPECT_EQ(lost[0].caption + ": " + lost[0].text, "The Weight: 81");
-    ASSERT_TRUE(nip.Save()) << nips.errorLog();
+    save();
     EXPECT_EQ(nips.rows("Select HeartRate,Mood,Pulse From NIP_Custom1"), "99|Poor|");
 }
 
 // The new field takes over name, column and identifier of the one that was deleted.
 TEST_F(CustomizedElsewhere, PutsNothingIntoAFieldOfTheSameNameThatMeansSomethingElse) {
-    ASSERT_TRUE(nip.Load(7, "P1", false));
+    load(7);
     nip.value(2, 1, "hello");
     elsewhere([](cNIP& other) { return other.DeleteField(2, 1); });
     makeElsewhere(2, {.fieldName = "Text", .caption = "Allergies", .maxLength = 50});
     EXPECT_FALSE(nip.Load(7, "P1", false));
     EXPECT_TRUE(nip.StructureChanged());
-    reload();
-    ASSERT_TRUE(nip.Load(7, "P1", false));
+    loadStructure();
+    load(7);
     nip.value(2, 1, "penicillin");
     elsewhere([](cNIP& other) {
         return other.EditField(2, 1, {.fieldName = "Text", .caption = "Diet", .maxLength = 50}) &&
@@ -402,7 +397,7 @@ TEST_F(CustomizedElsewhere, TakesOverWhatOthersHaveStoredMeanwhileAlsoWhereNobod
     for (const bool counts : {true, false}) {
         const std::string name = counts ? "New" : "Newer";
         if (!counts) nips.db->quietly("Delete From DBFieldGroups Where DBFieldGroupID=1");
-        reload();
+        loadStructure();
         enter();
         makeElsewhere(1, {.fieldName = name, .caption = name, .maxLength = 50});
         nips.db->quietly("Update NIP_Custom1 Set [" + name + "]='theirs',Mood='Good'");
@@ -410,7 +405,7 @@ TEST_F(CustomizedElsewhere, TakesOverWhatOthersHaveStoredMeanwhileAlsoWhereNobod
         EXPECT_TRUE(nip.StructureChanged());
         ASSERT_TRUE(nip.ReloadStructure(lost));
         EXPECT_TRUE(lost.empty());
-        ASSERT_TRUE(nip.Save());
+        save();
         EXPECT_EQ(nips.rows("Select Pulse,Weight,Mood,[" + name + "] From NIP_Custom1"), "99|81|Good|theirs");
         nips.db->quietly("Update NIP_Custom1 Set Pulse='72',Mood='Poor'");
     }

@@ -13,6 +13,8 @@ using testing::HasSubstr;
 
 namespace {
 
+using LoadStructure = NipTest;
+
 /// "row/column" of a field.
 std::string place(const cNIP& nip, std::int16_t group, std::int16_t field) {
     return std::to_string(nip.RowIndex(group, field)) + "/" + std::to_string(nip.ColIndex(group, field));
@@ -34,8 +36,7 @@ std::string told(const cNIP& nip) {
 
 } // namespace
 
-TEST(LoadStructure, ReadsGroupsInTheirOrderAndLeavesOutWhatIsReserved) {
-    NipDatabase nips;
+TEST_F(LoadStructure, ReadsGroupsInTheirOrderAndLeavesOutWhatIsReserved) {
     nips.group(5, "History", "NIP_Custom2", 2);
     nips.group(3, "Vitals", "NIP_Custom1", 1);
     nips.group(9, "Empty", "NIP_Custom3", 3);
@@ -47,8 +48,7 @@ TEST(LoadStructure, ReadsGroupsInTheirOrderAndLeavesOutWhatIsReserved) {
     nips.field(3, "NIP_Custom1", "Weight", {"TEXT", 0, 2.F});
     nips.field(5, "NIP_Custom2", "Smoker");
 
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    loadStructure();
     EXPECT_EQ(told(nip), "Vitals: Weight,The Weight,TEXT,50,0,2 (NIP_Custom1,3,Vitals) "
                          "Pulse,The Pulse,COMBOBOX,12,1,7.5 (NIP_Custom1,3,Vitals) 2 rows\n"
                          "History: Smoker,The Smoker,TEXT,50,0,6 (NIP_Custom2,5,History) 1 rows\n"
@@ -61,26 +61,22 @@ TEST(LoadStructure, ReadsGroupsInTheirOrderAndLeavesOutWhatIsReserved) {
     EXPECT_EQ(nips.errorLog(), "");
 }
 
-TEST(LoadStructure, RunsExactlyItsThreeStatements) {
-    NipDatabase nips;
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+TEST_F(LoadStructure, RunsExactlyItsThreeStatements) {
+    loadStructure();
     EXPECT_EQ(nip.FieldCount(1), 0);
     EXPECT_EQ(nips.db->statements, statementsOf("structure"));
     EXPECT_EQ(nips.db->announced, nips.db->statements);
     EXPECT_EQ(nips.db->transactionLevel(), 0);
 }
 
-TEST(LoadStructure, PutsACommentBesideItsField) {
-    NipDatabase nips;
+TEST_F(LoadStructure, PutsACommentBesideItsField) {
     nips.group(2, "Vitals", "NIP_Custom1");
     nips.group(3, "Late", "NIP_Custom2");
     for (const char* name :
          {"A", "B", "A_COMMENTS", "b_COMMENTS", "B_Comments", "C_COMMENTS", "C", "B_COMMENTS"})
         nips.define(2, name);
     nips.define(3, "A_COMMENTS");
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    loadStructure();
     std::vector<std::string> places;
     for (std::int16_t field = 1; field <= nip.FieldCount(1); ++field)
         places.push_back(place(nip, 1, field));
@@ -90,8 +86,7 @@ TEST(LoadStructure, PutsACommentBesideItsField) {
     EXPECT_EQ(nip.RowCountMax(), 6);
 }
 
-TEST(LoadStructure, GivesEveryFieldItsOwnAllowedValues) {
-    NipDatabase nips;
+TEST_F(LoadStructure, GivesEveryFieldItsOwnAllowedValues) {
     nips.group(2, "Vitals", "NIP_Custom1");
     nips.group(3, "Other", "NIP_Custom2");
     nips.define(2, "Smoker's");
@@ -102,8 +97,7 @@ TEST(LoadStructure, GivesEveryFieldItsOwnAllowedValues) {
     nips.allowed(2, "Smoker's", "it's | \n", 2);
     nips.allowed(3, "Smoker's", "other", 1);
     nips.allowed(4, "Smoker's", "nobody's", 1, true);
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    loadStructure();
     EXPECT_THAT(nip.ValueList(1, 1).array().elements,
                 ElementsAre(Variant(), Variant("daily"), Variant("it's | \n"), Variant("never")));
     EXPECT_EQ(nip.ValueListCount(1, 1), 3);
@@ -114,9 +108,8 @@ TEST(LoadStructure, GivesEveryFieldItsOwnAllowedValues) {
     EXPECT_TRUE(nip.DefaultValue(2, 1).isEmpty());
 }
 
-TEST(LoadStructure, TellsTheFieldsOfALargeNipApart) {
+TEST_F(LoadStructure, TellsTheFieldsOfALargeNipApart) {
     constexpr std::int16_t fields = 400;
-    NipDatabase nips;
     for (const std::int32_t id : {2, 3}) {
         nips.group(id, "Group", "NIP_Custom" + std::to_string(id));
         for (int field = 1; field <= fields; ++field) {
@@ -125,8 +118,7 @@ TEST(LoadStructure, TellsTheFieldsOfALargeNipApart) {
             if (field % 25 == 0) nips.allowed(id, name, std::to_string(id) + "/" + std::to_string(field), 1);
         }
     }
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    loadStructure();
     for (const std::int16_t group : {std::int16_t{1}, std::int16_t{2}}) {
         ASSERT_EQ(nip.FieldCount(group), fields);
         for (std::int16_t field = 1; field <= fields; ++field) {
@@ -139,11 +131,9 @@ TEST(LoadStructure, TellsTheFieldsOfALargeNipApart) {
     }
 }
 
-TEST(LoadStructure, EndsWithFalseAndALineWhenAStatementFails) {
-    NipDatabase nips;
+TEST_F(LoadStructure, EndsWithFalseAndALineWhenAStatementFails) {
     nips.group(2, "Vitals", "NIP_Custom1");
     nips.define(2, "Pulse");
-    cNIP nip;
     for (const char* failing : {"GROUP BY", "INNER JOIN", "DBFieldValues"}) {
         nips.db->failOn = failing;
         EXPECT_FALSE(nip.LoadStructure(nips.db)) << failing;
@@ -155,9 +145,8 @@ TEST(LoadStructure, EndsWithFalseAndALineWhenAStatementFails) {
     EXPECT_EQ(nips.db->transactionLevel(), 0);
 }
 
-TEST(LoadStructure, NamesTheCellThatIsNoSuchNumber) {
+TEST_F(LoadStructure, NamesTheCellThatIsNoSuchNumber) {
     if (ScratchDatabase::onServer()) GTEST_SKIP() << "a server's columns hold nothing of another type";
-    NipDatabase nips;
     nips.group(2, "Vitals", "NIP_Custom1");
     nips.define(2, "Pulse");
     nips.allowed(2, "Pulse", "72", 1);
@@ -167,19 +156,16 @@ TEST(LoadStructure, NamesTheCellThatIsNoSuchNumber) {
                                                  "DefaultValue of the field Pulse: Type mismatch")}) {
         nips.db->quietly("Update DBFields Set InitialValueRuleID=0");
         nips.db->quietly(change);
-        cNIP nip;
         EXPECT_FALSE(nip.LoadStructure(nips.db));
         EXPECT_THAT(nips.errorLog(), HasSubstr("Error in cNip.LoadStructure: " + std::string(line)));
     }
 }
 
-TEST(LoadStructure, CountsNoFurtherThan16Bits) {
-    NipDatabase nips;
+TEST_F(LoadStructure, CountsNoFurtherThan16Bits) {
     nips.group(2, "Huge", "NIP_Custom1");
     nips.db->quietly("With Recursive n(i) As (Select 1 Union All Select i + 1 From n Where i < 32768) "
                      "Insert Into DBFields(ID, FieldName, DBFieldGroupID, Ordinal) "
                      "Select i, 'F' || i, 2, i From n");
-    cNIP nip;
     EXPECT_FALSE(nip.LoadStructure(ado::open(nips.address())));
     EXPECT_EQ(nip.FieldCount(1), 32767);
     EXPECT_THAT(nips.errorLog(), HasSubstr("More than 32767 fields in the group Huge"));

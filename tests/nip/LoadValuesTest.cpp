@@ -16,7 +16,7 @@ namespace {
 constexpr const char* vitals = "NIP_Custom1";
 
 /// A group of one field for each way in which a new encounter gets its value, one of them a list.
-struct LoadValues : testing::Test {
+struct LoadValues : NipTest {
     LoadValues() {
         nips.group(2, "Vitals", vitals);
         nips.group(3, "Empty", "NIP_Custom2");
@@ -49,18 +49,15 @@ struct LoadValues : testing::Test {
             texts.push_back(nip.value(1, field).textOrEmpty());
         return texts;
     }
-
-    NipDatabase nips;
-    cNIP nip;
 };
 
 } // namespace
 
 TEST_F(LoadValues, ReadsEveryGroupsRowOfAnEncounter) {
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    loadStructure();
     nips.db->statements.clear();
     nips.db->announced.clear();
-    ASSERT_TRUE(nip.Load(2, "P1", false));
+    load(2);
     EXPECT_THAT(values(), ElementsAre("37.2", "two", "a|b|", "2"));
     EXPECT_TRUE(nip.value(1, 4).isText());
     EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant("a"), Variant("b"), Variant("")));
@@ -69,32 +66,32 @@ TEST_F(LoadValues, ReadsEveryGroupsRowOfAnEncounter) {
                 ElementsAre("Select [Temp-1],Description,Chosen,Rank From NIP_Custom1 Where EncounterID=2"));
     EXPECT_EQ(nips.db->announced, nips.db->statements);
 
-    ASSERT_TRUE(nip.Load(3, "P1", false));
+    load(3);
     EXPECT_THAT(values(), ElementsAre("38.3", "three", "  ", "0"));
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 0);
     EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant()));
 
     nips.db->quietly("Update NIP_Custom1 Set Rank=Null, Description=Null Where EncounterID=3");
-    ASSERT_TRUE(nip.Load(3, "P1", false));
+    load(3);
     EXPECT_THAT(values(), ElementsAre("38.3", "", "  ", "")) << "a null number is nothing entered";
 
-    ASSERT_TRUE(nip.Load(99, "P1", false));
+    load(99);
     EXPECT_THAT(values(), ElementsAre("", "", "", "")) << "an encounter without a row";
     EXPECT_EQ(nips.db->transactionLevel(), 0);
     EXPECT_TRUE(nips.user->boxes.empty());
 }
 
 TEST_F(LoadValues, FillsANewEncounterFromDefaultsAndThePatientsLatestOne) {
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    loadStructure();
     nips.insert(vitals, {{"EncounterID", 5}, {"Temp-1", "nobody's"}});
     nips.encounter(5, "", "12/1/2025");
     nips.db->statements.clear();
-    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    load(-1, true);
     EXPECT_THAT(values(), ElementsAre("37.2", "as usual", "a|b|", ""));
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 3);
     EXPECT_EQ(nips.db->statements, statementsOf("new values"));
 
-    ASSERT_TRUE(nip.Load(2, "P1", true));
+    load(2, true);
     EXPECT_THAT(values(), ElementsAre("38.3", "as usual", "  ", "")) << "it is not its own predecessor";
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 0);
 
@@ -105,33 +102,33 @@ TEST_F(LoadValues, FillsANewEncounterFromDefaultsAndThePatientsLatestOne) {
     nip.InitialValueRule(1, 1, 0);
     nip.InitialValueRule(1, 3, -1);
     nip.DefaultValue(1, 3, "x|y");
-    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    load(-1, true);
     EXPECT_THAT(values(), ElementsAre("", "as usual", "x|y", "")) << "a negative rule means the default";
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 2);
     nip.DefaultValue(1, 3, 7);
-    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    load(-1, true);
     EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant("7")));
     nip.InitialValueRule(1, 4, 1);
-    ASSERT_TRUE(nip.Load(3, "P1", true));
+    load(3, true);
     EXPECT_EQ(nip.value(1, 4), Variant("2"));
     nips.db->quietly("Update NIP_Custom1 Set Rank=Null Where EncounterID=2");
-    ASSERT_TRUE(nip.Load(3, "P1", true));
+    load(3, true);
     EXPECT_EQ(nip.value(1, 4), Variant("")) << "nothing carried forward is no 0";
     EXPECT_TRUE(nips.user->boxes.empty());
 }
 
 TEST_F(LoadValues, TellsTheColumnsOfAHostsEncounterFromItsOwn) {
     nips.db->quietly("Alter Table Encounter Add Column [Temp-1] TEXT");
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
-    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    loadStructure();
+    load(-1, true);
     EXPECT_EQ(nip.value(1, 1), Variant("37.2"));
 }
 
 TEST_F(LoadValues, HoldsNothingOfAnEncounterAfterAFailure) {
     nips.group(4, "Later", "NIP_Custom3");
     nips.field(4, "NIP_Custom3", "Note");
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
-    ASSERT_TRUE(nip.Load(2, "P1", false));
+    loadStructure();
+    load(2);
     nips.db->failOn = "NIP_Custom3";
     EXPECT_FALSE(nip.Load(1, "P1", false));
     EXPECT_THAT(values(), ElementsAre("", "", "", ""));
@@ -165,7 +162,7 @@ TEST_F(LoadValues, RefusesFieldsThatNoStatementCanTellApart) {
           std::pair("TEMP-1",
                     "Error in cNip.Load: Two fields of the table NIP_Custom1 have the name TEMP-1")}) {
         nips.define(2, name);
-        ASSERT_TRUE(nip.LoadStructure(nips.db));
+        loadStructure();
         EXPECT_FALSE(nip.Load(2, "P1", false));
         EXPECT_THAT(nips.errorLog(), HasSubstr(line));
         nip.EncounterID(2);

@@ -11,7 +11,6 @@
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <array>
 
 namespace Korvane {
 
@@ -25,15 +24,21 @@ std::string table(int group) {
     return "NIP_Custom" + std::to_string(group);
 }
 
-/// As many groups, each of a text field, a memo field and a list.
-void makeGroups(NipDatabase& nips, int count) {
-    for (int group = 1; group <= count; ++group) {
-        nips.group(group + 1, "Group", table(group));
-        nips.field(group + 1, table(group), "Temp-1", {.columnType = "TEXT"});
-        nips.field(group + 1, table(group), "Order", {.columnType = "TEXT"});
-        nips.field(group + 1, table(group), "Chosen", {"LIST-EDITCONTENT", 0, 0, 0, "TEXT"});
+struct SaveValues : NipTest {
+    /// As many groups, each of a text field, a memo field and a list.
+    void makeGroups(int count) {
+        for (int group = 1; group <= count; ++group) {
+            nips.group(group + 1, "Group", table(group));
+            nips.field(group + 1, table(group), "Temp-1", {.columnType = "TEXT"});
+            nips.field(group + 1, table(group), "Order", {.columnType = "TEXT"});
+            nips.field(group + 1, table(group), "Chosen", {"LIST-EDITCONTENT", 0, 0, 0, "TEXT"});
+        }
     }
-}
+    void open(int groups) {
+        makeGroups(groups);
+        loadStructure();
+    }
+};
 
 void setAll(cNIP& nip, const std::string& text) {
     for (std::int16_t group = 1; group <= nip.GroupCount(); ++group) {
@@ -46,19 +51,17 @@ void setAll(cNIP& nip, const std::string& text) {
 
 } // namespace
 
-TEST(SaveValues, WritesARowAtFirstAndTheSameRowAfterwards) {
-    NipDatabase nips;
-    makeGroups(nips, 1);
+TEST_F(SaveValues, WritesARowAtFirstAndTheSameRowAfterwards) {
+    makeGroups(1);
     nips.group(9, "Empty", "NIP_Custom9");
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
-    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    loadStructure();
+    load(-1, true);
     setAll(nip, "x");
     nip.value(1, 2, std::int16_t{5});
     nips.db->statements.clear();
     nips.db->announced.clear();
     nip.EncounterID(12);
-    ASSERT_TRUE(nip.Save());
+    save();
     const std::string update =
         "Update NIP_Custom1 Set [Temp-1]='x',[Order]=5,[Chosen]='x||x' Where EncounterID=12";
     const std::string insert =
@@ -67,15 +70,14 @@ TEST(SaveValues, WritesARowAtFirstAndTheSameRowAfterwards) {
     EXPECT_THAT(nips.db->statements, ElementsAre(owner, update, insert));
     EXPECT_THAT(nips.db->announced, ElementsAre(owner, update, insert));
     nips.db->statements.clear();
-    ASSERT_TRUE(nip.Save());
+    save();
     EXPECT_THAT(nips.db->statements, ElementsAre(owner, update));
     EXPECT_EQ(nips.rows("Select Count(*) From NIP_Custom1"), "1");
     EXPECT_EQ(nips.errorLog(), "");
 }
 
-TEST(SaveValues, BringsEveryTextBackByteForByte) {
-    NipDatabase nips;
-    makeGroups(nips, 2);
+TEST_F(SaveValues, BringsEveryTextBackByteForByte) {
+    makeGroups(2);
     std::vector<std::string> texts{std::string(40000, 'x') + "'|long 'text'"};
     for (const auto& row : readCases("hostiletexts.tsv"))
         texts.push_back(quotedText(row[0]));
@@ -106,37 +108,23 @@ TEST(SaveValues, BringsEveryTextBackByteForByte) {
     EXPECT_TRUE(nips.user->boxes.empty());
 }
 
-TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
+TEST_F(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
     if (ScratchDatabase::onServer()) GTEST_SKIP() << "a server's columns hold nothing of another type";
-    NipDatabase nips;
     nips.group(2, "Group", "NIP_Custom1");
-    // Parts joined with || meet no column: they are stored as another program might.
-    const std::array<std::pair<const char*, const char*>, 10> cells = {
-        {{"REAL", "1.0/3"},
-         {"REAL", "Null"},
-         {"INTEGER", "Null"},
-         {"INTEGER", "'a '||'few'"},
-         {"SMALLINT", "99999+1"},
-         {"BOOLEAN", "'per'||'haps'"},
-         {"TIMESTAMP", "'2026-11-15 '||'10:00:00.5'"},
-         {"TIMESTAMP", "'unk'||'nown'"},
-         {"VARCHAR(9)", "'text'"},
-         {"TEXT", "Cast(x'410042' As Text)"}}};
     std::string columns;
     std::string stored;
-    for (const auto& [type, value] : cells) {
+    for (const auto& row : readCases("foreigncells.tsv")) {
         const std::string name = "F" + std::to_string(std::ranges::count(columns, ','));
-        nips.field(2, "NIP_Custom1", name, {.columnType = type});
+        nips.field(2, "NIP_Custom1", name, {.columnType = row[0]});
         columns += "," + name;
-        stored += "," + std::string(value);
+        stored += "," + row[1];
     }
     for (const char* id : {"1", "2"})
         nips.db->quietly("Insert Into NIP_Custom1(EncounterID" + columns + ") Select " + id + stored);
     const auto rows = [&] { return nips.rows("Select *, F0*3=1 From NIP_Custom1"); };
     const std::string before = rows();
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
-    ASSERT_TRUE(nip.Load(1, "P1", false));
+    loadStructure();
+    load(1);
     nips.db->statements.clear();
     EXPECT_TRUE(nip.Save()) << nips.errorLog();
     EXPECT_EQ(rows(), before);
@@ -157,7 +145,7 @@ TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
     EXPECT_EQ(nips.rows("Select F0 From NIP_Custom1 Where EncounterID=1"), shown);
 
     // Values for another encounter are written whatever that one holds.
-    ASSERT_TRUE(nip.Load(1, "P1", false));
+    load(1);
     nip.EncounterID(2);
     EXPECT_FALSE(nip.Save()) << "some of them cannot be written";
     for (const int field : {4, 5, 6, 8, 10})
@@ -166,33 +154,28 @@ TEST(SaveValues, LeavesUntouchedWhatItsTextDoesNotShow) {
     EXPECT_EQ(nips.rows("Select F0*3=1 From NIP_Custom1 Where EncounterID=2"), "0");
 }
 
-TEST(SaveValues, WritesNothingForAStructureThatWasLoadedAnew) {
-    NipDatabase nips;
-    makeGroups(nips, 1);
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+TEST_F(SaveValues, WritesNothingForAStructureThatWasLoadedAnew) {
+    open(1);
     nip.EncounterID(1);
     setAll(nip, "kept");
-    ASSERT_TRUE(nip.Save());
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    save();
+    loadStructure();
     EXPECT_FALSE(nip.Save());
-    ASSERT_TRUE(nip.Load(1, "P1", false));
+    load(1);
     nip.ChoiceListCount(1, 3, -1);
     EXPECT_FALSE(nip.Save()) << "no count";
     EXPECT_EQ(nips.rows("Select [Temp-1], Chosen From NIP_Custom1"), "kept|kept||kept");
 }
 
-TEST(SaveValues, WritesNothingUnderAnEncounterThatIsNotThePatients) {
-    NipDatabase nips;
-    makeGroups(nips, 2);
+TEST_F(SaveValues, WritesNothingUnderAnEncounterThatIsNotThePatients) {
+    makeGroups(2);
     nips.db->quietly("Drop Table Encounter");
     nips.db->quietly("Create Table Encounter (EncounterID INTEGER, EncounterMethodID INTEGER, PatientID "
                      "VARCHAR(9), ProviderID INTEGER, EncounterDate TIMESTAMP, Description TEXT)");
     nips.encounter(1, "P1", "1/2/2026");
     nips.encounter(2, "P2", "1/2/2026");
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
-    ASSERT_TRUE(nip.Load(-1, "P1", true));
+    loadStructure();
+    load(-1, true);
     setAll(nip, "x");
     nip.EncounterID(2);
     EXPECT_FALSE(nip.Save());
@@ -208,16 +191,14 @@ TEST(SaveValues, WritesNothingUnderAnEncounterThatIsNotThePatients) {
     EXPECT_EQ(nips.rows("Select EncounterID From NIP_Custom2"), "3");
 }
 
-TEST(SaveValues, WaitsForTheLockOfAnotherProgramThenFails) {
-    NipDatabase nips;
-    makeGroups(nips, 1);
+TEST_F(SaveValues, WaitsForTheLockOfAnotherProgramThenFails) {
+    makeGroups(1);
     const auto db = ado::open(nips.address());
     ScratchDatabase::waitBriefly(*db);
-    cNIP nip;
     ASSERT_TRUE(nip.LoadStructure(db));
     nip.EncounterID(1);
     setAll(nip, "old");
-    ASSERT_TRUE(nip.Save());
+    save();
     setAll(nip, "new");
     ado::Transaction other(*nips.db);
     nips.db->quietly("Update NIP_Custom1 Set [Order]=[Order]");
@@ -233,25 +214,23 @@ TEST(SaveValues, WaitsForTheLockOfAnotherProgramThenFails) {
     EXPECT_EQ(nips.rows("Select [Temp-1] From NIP_Custom1"), "new");
 }
 
-TEST(SaveValues, JoinsTheTransactionOfAHostThatLentItsHandle) {
+TEST_F(SaveValues, JoinsTheTransactionOfAHostThatLentItsHandle) {
     if (ScratchDatabase::onServer()) GTEST_SKIP() << "lends a handle of the other engine";
-    NipDatabase nips;
-    makeGroups(nips, 2);
+    makeGroups(2);
     nips.field(2, "NIP_Custom1", "Count", {.columnType = "INTEGER"});
     sqlite3* handle = nullptr;
     ASSERT_EQ(sqlite3_open(nips.dir.file("clinic.db").c_str(), &handle), SQLITE_OK);
     sqlite3_exec(handle, "begin; insert into NIP_Custom1(EncounterID, Count) values (1, 50)", nullptr,
                  nullptr, nullptr);
     {
-        cNIP nip;
-        ASSERT_TRUE(nip.LoadStructure(ado::sqlite::adopt(handle)));
-        ASSERT_TRUE(nip.Load(1, "P1", false));
-        EXPECT_EQ(nip.value(1, 4), Variant("50"));
-        setAll(nip, "mine");
-        nip.value(1, 4, "many");
-        EXPECT_FALSE(nip.Save());
-        nip.value(1, 4, "51");
-        EXPECT_TRUE(nip.Save());
+        cNIP lent;
+        ASSERT_TRUE(lent.LoadStructure(ado::sqlite::adopt(handle)) && lent.Load(1, "P1", false));
+        EXPECT_EQ(lent.value(1, 4), Variant("50"));
+        setAll(lent, "mine");
+        lent.value(1, 4, "many");
+        EXPECT_FALSE(lent.Save());
+        lent.value(1, 4, "51");
+        EXPECT_TRUE(lent.Save());
         EXPECT_EQ(sqlite3_get_autocommit(handle), 0) << "the host's transaction is the host's to end";
         EXPECT_EQ(nips.rows("Select Count(*) From NIP_Custom2"), "0");
         sqlite3_exec(handle, "commit", nullptr, nullptr, nullptr);
@@ -261,18 +240,15 @@ TEST(SaveValues, JoinsTheTransactionOfAHostThatLentItsHandle) {
     EXPECT_EQ(nips.rows("Select [Temp-1] From NIP_Custom2"), "mine");
 }
 
-TEST(SaveValues, WritesNothingAtAllWhenAStatementFails) {
-    NipDatabase nips;
-    makeGroups(nips, 3);
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+TEST_F(SaveValues, WritesNothingAtAllWhenAStatementFails) {
+    open(3);
     setAll(nip, "old");
     EXPECT_FALSE(nip.Save()) << "no encounter yet";
     nip.EncounterID(-1);
     EXPECT_FALSE(nip.Save());
     EXPECT_EQ(nips.rows("Select Count(*) From NIP_Custom1"), "0");
     nip.EncounterID(1);
-    ASSERT_TRUE(nip.Save());
+    save();
 
     nips.user->whenShown = [&] { EXPECT_EQ(nips.db->transactionLevel(), 0) << "others wait for the user"; };
     setAll(nip, "new");
@@ -293,24 +269,23 @@ TEST(SaveValues, WritesNothingAtAllWhenAStatementFails) {
     EXPECT_EQ(nips.user->boxes.size(), 3u) << "one for each failure of a statement or a list";
 }
 
-TEST(SaveValues, LeavesTheOldRowsOrTheNewOnesWhenTheProcessIsKilled) {
-    NipDatabase nips;
-    makeGroups(nips, 3);
+TEST_F(SaveValues, LeavesTheOldRowsOrTheNewOnesWhenTheProcessIsKilled) {
+    makeGroups(3);
     const auto saved = [](const auto& db, const std::string& text, const std::function<bool()>& begin) {
-        cNIP nip;
-        if (!nip.LoadStructure(db)) return false;
-        nip.EncounterID(1);
-        setAll(nip, text);
-        return begin() && nip.Save();
+        cNIP own;
+        if (!own.LoadStructure(db)) return false;
+        own.EncounterID(1);
+        setAll(own, text);
+        return begin() && own.Save();
     };
     ASSERT_TRUE(saved(nips.db, "old", [] { return true; }));
     nips.db->Close();
     const auto stored = [&] {
-        cNIP nip;
-        EXPECT_TRUE(nip.LoadStructure(ado::open(nips.address())) && nip.Load(1, "P1", false));
+        cNIP own;
+        EXPECT_TRUE(own.LoadStructure(ado::open(nips.address())) && own.Load(1, "P1", false));
         std::string all;
-        for (std::int16_t group = 1; group <= nip.GroupCount(); ++group)
-            all += nip.value(group, 1).text() + nip.value(group, 2).text();
+        for (std::int16_t group = 1; group <= own.GroupCount(); ++group)
+            all += own.value(group, 1).text() + own.value(group, 2).text();
         return all;
     };
     killAtEachStep(

@@ -13,18 +13,18 @@ void expectOutOfRange(const std::function<void()>& call, const char* what) {
     EXPECT_EQ(errorOf(call), RuntimeError::SubscriptOutOfRange) << what;
 }
 
+using cNIPTest = NipTest;
+
 } // namespace
 
-TEST(cNIP, KeepsToTheBoundsOfItsTable) {
-    NipDatabase nips;
+TEST_F(cNIPTest, KeepsToTheBoundsOfItsTable) {
     nips.group(2, "One", "NIP_Custom1");
     nips.group(3, "Two", "NIP_Custom2");
     nips.define(2, "A");
     nips.define(2, "B");
     nips.define(3, "C");
-    cNIP nip;
     expectOutOfRange([&] { nip.fieldName(1, 1); }, "a field before anything is loaded");
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    loadStructure();
 
     EXPECT_EQ(nip.Caption(-1, 9), "");
     EXPECT_EQ(nip.RowIndex(9, -1), 0);
@@ -46,12 +46,10 @@ TEST(cNIP, KeepsToTheBoundsOfItsTable) {
     EXPECT_EQ(nip.FieldCount(2), 1);
 }
 
-TEST(cNIP, GivesBackWhatEachPropertyWasGiven) {
-    NipDatabase nips;
+TEST_F(cNIPTest, GivesBackWhatEachPropertyWasGiven) {
     nips.group(2, "One", "NIP_Custom1");
     nips.define(2, "A");
-    cNIP nip;
-    ASSERT_TRUE(nip.LoadStructure(nips.db));
+    loadStructure();
     const Variant list = VariantArray{0, {Variant("x"), Variant(2)}};
     nip.Caption(1, 1, "caption");
     nip.displayType(1, 1, "LIST");

@@ -3,6 +3,9 @@
 #include "support/ScratchClinic.h"
 
 #include <korvane/data/SQLData.h>
+#include <korvane/nip/cNIP.h>
+
+#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <initializer_list>
@@ -90,6 +93,18 @@ class NipDatabase : public ScratchClinic {
   private:
     int mGroups = 0;
     std::int32_t mFields = 0;
+};
+
+/// A test of a model over such a database.
+struct NipTest : testing::Test {
+    NipDatabase nips;
+    cNIP nip;
+
+    void loadStructure() { ASSERT_TRUE(nip.LoadStructure(nips.db)) << nips.errorLog(); }
+    void load(std::int32_t encounter, bool isNew = false) {
+        ASSERT_TRUE(nip.Load(encounter, "P1", isNew)) << nips.errorLog();
+    }
+    void save() { ASSERT_TRUE(nip.Save()) << nips.errorLog(); }
 };
 
 } // namespace Korvane::Testing
