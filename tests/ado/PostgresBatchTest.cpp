@@ -35,18 +35,6 @@ TEST_F(ReadAhead, GivesTheFirstAnswerWhileTheServerIsAtWorkOnTheNext) {
     mDb->CommitTrans();
 }
 
-TEST_F(ReadAhead, FailsWhereTheStatementFails) {
-    const std::vector<std::string> statements{select(1), select(2), select(3)};
-    for (int turn = 0; turn < 2; ++turn) {
-        mDb->BeginTrans(TransactionFor::Reading);
-        mDb->Announce(statements);
-        EXPECT_EQ(ask(statements[0]), "6");
-        EXPECT_EQ(errorOf([&] { ask(statements[1]); }), RuntimeError::DivisionByZero);
-        EXPECT_EQ(ask(statements[2]), "2");
-        mDb->CommitTrans();
-    }
-}
-
 TEST_F(ReadAhead, IsLeftBehindAtAnyPoint) {
     const std::vector<std::string> statements{select(1), select(2), select(3)};
     const std::vector<std::function<void()>> leave{
@@ -74,16 +62,6 @@ TEST_F(ReadAhead, IsLeftBehindAtAnyPoint) {
     mDb->Announce(statements);
     ask(statements[0]);
     mDb.reset();
-}
-
-TEST_F(ReadAhead, PlansOnceForAllKeysUntilTheTransactionEnds) {
-    const std::string mode = "Select current_setting('plan_cache_mode')";
-    mDb->BeginTrans(TransactionFor::Reading);
-    mDb->Announce(std::vector<std::string>{select(1), select(3)});
-    EXPECT_EQ(ask(select(1)), "6");
-    EXPECT_EQ(ask(mode), "force_generic_plan");
-    mDb->CommitTrans();
-    EXPECT_EQ(ask(mode), "auto");
 }
 
 } // namespace Korvane::ado::Testing

@@ -28,13 +28,6 @@ class PostgresServer : public ServerTest {
         action();
         return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - begin);
     }
-    static int backendOf(const std::shared_ptr<Connection>& db) {
-        return std::stoi(one(db, "Select pg_backend_pid()"));
-    }
-    void terminate(int backend) {
-        EXPECT_EQ(one(connect(), "Select pg_terminate_backend(" + std::to_string(backend) + ", 5000)"),
-                  "True");
-    }
 };
 
 TEST_F(PostgresServer, ThatCannotBeReachedIsReportedInTime) {
@@ -79,7 +72,7 @@ TEST_F(PostgresServer, StopsAStatementThatTakesTooLong) {
 TEST_F(PostgresServer, ThatNoLongerAnswersIsGivenUp) {
     const auto db = connect("statement_timeout=100");
     db->Execute("Create Table T (A Integer)");
-    const int backend = backendOf(db);
+    const int backend = std::stoi(one(db, "Select pg_backend_pid()"));
     if (::kill(backend, SIGSTOP) != 0) GTEST_SKIP() << "the server's processes may not be stopped from here";
     const milliseconds time = timeOf([&] {
         const RuntimeError lost = raised([&] { db->Execute("Insert into T (A) values (1)"); });
@@ -90,33 +83,6 @@ TEST_F(PostgresServer, ThatNoLongerAnswersIsGivenUp) {
     ::kill(backend, SIGCONT);
     db->Reset();
     EXPECT_EQ(db->Execute("Insert into T (A) values (2)"), 1);
-}
-
-TEST_F(PostgresServer, ThatEndedTheConnectionCanBeReachedAgain) {
-    const auto db = connect();
-    db->Execute("Create Table T (A Integer Primary Key)");
-    db->Execute("Insert into T (A) values (1)");
-    const auto kept = opened(db, "Select A From T");
-    db->BeginTrans();
-    db->Execute("Insert into T (A) values (2)");
-    terminate(backendOf(db));
-    EXPECT_EQ(db->State(), 1); // until it is used
-    const RuntimeError lost = raised([&] { db->Execute("Insert into T (A) values (3)"); });
-    EXPECT_THAT(lost.Description(), HasSubstr("lost"));
-    EXPECT_EQ(db->State(), 0);
-    EXPECT_EQ(errorOf([&] { db->Execute("Insert into T (A) values (3)"); }), RuntimeError::ObjectClosed);
-    EXPECT_NE(errorOf([&] { db->CommitTrans(); }), 0);
-    EXPECT_EQ(kept->Value(0).text(), "1");
-    EXPECT_EQ(errorOf([&] { db->Reset(); }), RuntimeError::TransactionOpen);
-    db->RollbackTrans();
-    EXPECT_EQ(db->transactionLevel(), 0);
-    db->Reset();
-    EXPECT_EQ(db->State(), 1);
-    EXPECT_EQ(one(db, "Select Count(*) From T"), "1");
-    EXPECT_EQ(db->Execute("Insert into T (A) values (2)"), 1);
-    EXPECT_EQ(one(db, "Select #1/2/2026 3:04:05 PM#"), "1/2/2026 3:04:05 PM"); // the settings are back
-    db->Close();
-    EXPECT_EQ(errorOf([&] { db->Reset(); }), RuntimeError::ObjectClosed);
 }
 
 TEST_F(PostgresServer, SpeaksUtf8WhateverItKeeps) {

@@ -119,6 +119,9 @@ const std::map<std::string, Verb>& verbs() {
         {"commits", [](Actor& a, const auto&) { return a.db->CommitTrans(), ""; }},
         {"undoes", [](Actor& a, const auto&) { return a.db->RollbackTrans(), ""; }},
         {"level", [](Actor& a, const auto&) { return std::to_string(a.db->transactionLevel()); }},
+        {"announces", [](Actor& a, const auto& text) { return a.db->Announce(parts(text, ';')), ""; }},
+        {"state", [](Actor& a, const auto&) { return std::to_string(a.db->State()); }},
+        {"resets", [](Actor& a, const auto&) { return a.db->Reset(), ""; }},
         {"closes", [](Actor& a, const auto&) { return a.db->Close(), ""; }},
         {"leaves", [](Actor& a, const auto&) { return a.db.reset(), ""; }},
         {"opens",
@@ -132,6 +135,7 @@ const std::map<std::string, Verb>& verbs() {
              return a.rs->Update(), rowOf(*a.rs);
          }},
         {"holds", [](Actor& a, const auto& text) { return a.rs = opened(a.db, text), ""; }},
+        {"shows", [](Actor& a, const auto&) { return rowOf(*a.rs); }},
         {"frees", [](Actor& a, const auto&) { return a.rs->Close(), ""; }},
         {"tables", [](Actor& a, const auto&) { return tablesOf(a); }},
         {"describes", [](Actor& a, const auto& text) { return described(a, text); }},
