@@ -11,9 +11,6 @@ constexpr std::array<std::string_view, 12> monthNames = {"January",   "February"
                                                          "May",       "June",     "July",     "August",
                                                          "September", "October",  "November", "December"};
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 bool isLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }

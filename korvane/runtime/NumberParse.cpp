@@ -10,10 +10,6 @@ namespace Korvane {
 
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool take(std::string_view& text, char c) {
     if (text.empty() || text[0] != c) return false;
     text.remove_prefix(1);

@@ -11,6 +11,11 @@ namespace Korvane {
 std::string upperCase(std::string_view text);
 std::string lowerCase(std::string_view text);
 
+/// 0 to 9, whatever the locale is.
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 /// Equal without regard to the case of ASCII letters, as names of tables, columns and fields are compared.
 bool sameName(std::string_view a, std::string_view b);
 /// A number that names have in common when they are the same.

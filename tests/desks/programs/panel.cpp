@@ -43,8 +43,11 @@ int main(int argc, char** argv) {
         if (!panel.CreateNip(QString::fromStdString(job.patient(i)))) return 1;
         enter(panel, job, i);
         created = 0;
-        for (save->click(); !created; save->click())
+        save->click();
+        while (!created) {
             job.refused(i);
+            save->click();
+        }
         job.stored(i, created, "0");
     }
     return 0;
