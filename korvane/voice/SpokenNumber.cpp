@@ -1,5 +1,6 @@
-#include <korvane/runtime/Text.h>
 #include <korvane/voice/SpokenNumber.h>
+
+#include <korvane/runtime/Text.h>
 
 #include <algorithm>
 #include <array>
