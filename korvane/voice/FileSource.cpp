@@ -1,6 +1,7 @@
+#include <korvane/voice/FileSource.h>
+
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
-#include <korvane/voice/FileSource.h>
 #include <korvane/voice/Resampler.h>
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-#include <korvane/runtime/Text.h>
 #include <korvane/voice/LetterToSound.h>
+
+#include <korvane/runtime/Text.h>
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
+#include <korvane/voice/Resampler.h>
+
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/voice/AudioSource.h>
-#include <korvane/voice/Resampler.h>
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,8 @@
+#include <korvane/voice/microphone/Microphone.h>
+
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/voice/Resampler.h>
 #include <korvane/voice/StreamSource.h>
-#include <korvane/voice/microphone/Microphone.h>
 
 #include <QAudioDevice>
 #include <QAudioSource>

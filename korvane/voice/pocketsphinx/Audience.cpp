@@ -1,5 +1,6 @@
-#include <korvane/voice/SpokenDate.h>
 #include <korvane/voice/pocketsphinx/Audience.h>
+
+#include <korvane/voice/SpokenDate.h>
 
 #include <algorithm>
 #include <utility>
@@ -19,8 +20,7 @@ void Audience::changed() {
             wanted.commands.push_back(command.words);
     }
     std::ranges::sort(wanted.commands);
-    const auto twice = std::ranges::unique(wanted.commands);
-    wanted.commands.erase(twice.begin(), twice.end());
+    wanted.commands.erase(std::unique(wanted.commands.begin(), wanted.commands.end()), wanted.commands.end());
     const auto dictating = dictation();
     wanted.dates = dictating && dictating->dates;
 

@@ -1,5 +1,6 @@
-#include <korvane/runtime/RuntimeError.h>
 #include <korvane/voice/pocketsphinx/Controls.h>
+
+#include <korvane/runtime/RuntimeError.h>
 
 #include <utility>
 

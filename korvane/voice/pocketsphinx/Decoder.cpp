@@ -1,6 +1,7 @@
+#include <korvane/voice/pocketsphinx/Decoder.h>
+
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/voice/LetterToSound.h>
-#include <korvane/voice/pocketsphinx/Decoder.h>
 #include <korvane/voice/pocketsphinx/Grammar.h>
 
 #include <pocketsphinx/pocketsphinx.h>

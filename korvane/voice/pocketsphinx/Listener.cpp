@@ -1,5 +1,6 @@
-#include <korvane/runtime/RuntimeError.h>
 #include <korvane/voice/pocketsphinx/Listener.h>
+
+#include <korvane/runtime/RuntimeError.h>
 
 #include <utility>
 

@@ -1,5 +1,6 @@
-#include <korvane/voice/pocketsphinx/Controls.h>
 #include <korvane/voice/pocketsphinx/PocketSphinx.h>
+
+#include <korvane/voice/pocketsphinx/Controls.h>
 #include <korvane/voice/pocketsphinx/SharedMicrophone.h>
 
 #include <utility>
