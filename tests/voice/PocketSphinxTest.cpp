@@ -42,6 +42,76 @@ TEST_F(SpeechHeard, IsGivenToTheMenuWhileItsWindowHasTheFocus) {
     EXPECT_EQ(ear->hear(said("next field")), Heard{});
 }
 
+TEST_F(SpeechHeard, IsDroppedWhenTheFocusCameOrWentMeanwhile) {
+    const auto sound = said("next field");
+    const auto half = std::span(sound).first(Testing::silenceBefore + 8000);
+    ear->engine->WindowFocus(Ear::window, false);
+    ear->microphone->On(true);
+    ear->source->Push(half);
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    ear->engine->WindowFocus(Ear::window, true);
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    ear->source->Push(std::span(sound).subspan(half.size()));
+    ear->source->End("");
+    ASSERT_TRUE(ear->loop->runUntil([&] { return !ear->microphone->On(); }));
+    EXPECT_EQ(ear->heard, Heard{}) << "it was begun for somebody else";
+
+    EXPECT_EQ(ear->hear(sound), Heard{"1"});
+}
+
+TEST_F(SpeechHeard, IsDeliveredAsTheValuesOfADate) {
+    EXPECT_EQ(ear->hear(said("november fifteenth twenty twenty six")),
+              (Heard{"november", "fifteenth", "twenty twenty six"}));
+    ear->dictation->Activate(false);
+    EXPECT_EQ(ear->hear(said("november")), Heard{});
+    EXPECT_EQ(ear->hear(said("next field")), Heard{"1"}) << "commands do without dictation";
+}
+
+TEST_F(SpeechHeard, MayHoldWordsOfTheHostsOwn) {
+    ear->menu->Add(3, "Onwards, please!", "", "");
+    ear->menu->Add(4, "Weiter 2", "", "");
+    EXPECT_EQ(ear->hear(said("onwards please")), Heard{"3"});
+    EXPECT_EQ(ear->hear(said("whyter two")), Heard{"4"});
+    EXPECT_EQ(ear->hear(said("next field")), Heard{"1"});
+    try {
+        ear->menu->Add(5, "Nächstes Feld", "", "");
+        FAIL() << "a word that cannot be pronounced was taken";
+    } catch (const RuntimeError& e) {
+        EXPECT_NE(e.Description().find("\"N\xc3\xa4"
+                                       "chstes\""),
+                  std::string::npos)
+            << e.Description();
+    }
+    EXPECT_THROW(ear->menu->Add(6, " .", "", ""), RuntimeError);
+}
+
+TEST_F(SpeechHeard, EndsWithTheEngineWhateverWasSaid) {
+    const auto sound = said("next field");
+    ear->microphone->On(true);
+    ear->source->Push(sound);
+    const auto started = std::chrono::steady_clock::now();
+    ear->engine.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - started, std::chrono::seconds(2));
+    ear->loop->runUntil([] { return false; }, std::chrono::seconds(0));
+    EXPECT_EQ(ear->heard, Heard{});
+    EXPECT_FALSE(ear->microphone->On());
+    EXPECT_THROW(ear->microphone->On(true), RuntimeError);
+}
+
+TEST(SpeechEngine, SaysWhatIsMissing) {
+    try {
+        openPocketSphinx(
+            std::make_shared<StreamSource>(), [](const auto&) {}, "/nowhere");
+        FAIL() << "an engine without a model";
+    } catch (const RuntimeError& e) {
+        EXPECT_NE(e.Description().find("/nowhere/en-us is missing"), std::string::npos) << e.Description();
+    }
+    install(nullptr, "No model.");
+    EXPECT_EQ(whyAbsent(), "No model.");
+    install(nullptr);
+    EXPECT_NE(whyAbsent(), "");
+}
+
 /// KORVANE_VOICE_TRIAL=5 says five times as much.
 TEST_F(SpeechHeard, IsRecognisedAndToldFromOtherSentences) {
     const auto* given = std::getenv("KORVANE_VOICE_TRIAL");
