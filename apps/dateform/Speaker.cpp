@@ -46,7 +46,7 @@ void Speaker::say(const QString& words) {
     require(mDirectory.mkpath(QStringLiteral(".")),
             QStringLiteral("%1 cannot be made.").arg(mDirectory.path()));
     const QString file = mDirectory.filePath(QString(words).replace(u' ', u'-') + QStringLiteral(".wav"));
-    constexpr int wordsPerMinute = 150;
+    constexpr int wordsPerMinute = 120;
     const int code =
         QProcess::execute(program(), {QStringLiteral("-v"), QStringLiteral("en-us"), QStringLiteral("-s"),
                                       QString::number(wordsPerMinute), QStringLiteral("-w"), file, words});
