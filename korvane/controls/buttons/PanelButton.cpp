@@ -96,8 +96,17 @@ void PanelButton::keyPressEvent(QKeyEvent* event) {
         QPushButton::keyPressEvent(event);
 }
 
+/// In a button that is too low for its font, a smaller one: of letters that are cut nothing can be read.
+QFont PanelButton::fittingFont() const {
+    const int edges = 2, room = height() - edges;
+    QFont fitting = font();
+    if (fontMetrics().height() > room) fitting.setPixelSize(qMax(1, room));
+    return fitting;
+}
+
 void PanelButton::initStyleOption(QStyleOptionButton* option) const {
     QPushButton::initStyleOption(option);
+    option->fontMetrics = QFontMetrics(fittingFont());
     const QRect room = style()->subElementRect(QStyle::SE_PushButtonContents, option, this);
     option->text = mSymbol ? QString()
                            : option->fontMetrics.elidedText(option->text, Qt::ElideRight, room.width(),
@@ -108,6 +117,7 @@ void PanelButton::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
+    painter.setFont(fittingFont());
     if (mOutlined) {
         paintOutline(painter, option);
         painter.drawControl(QStyle::CE_PushButtonLabel, option);

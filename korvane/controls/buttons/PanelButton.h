@@ -16,7 +16,8 @@ class ButtonFocus;
 ///   becomes the default button of a dialog otherwise: Enter in a text box does not reach it.
 /// - Its accelerator gives it the focus before the click: what refuses to let the focus go holds the click
 /// up.
-/// - A caption that has no room is shortened and shown whole as a tool tip.
+/// - A caption that has no room is shortened and shown whole as a tool tip; in a low button it is written
+/// smaller.
 /// - A flat one has a line around it.
 class PanelButton : public QPushButton {
     Q_OBJECT
@@ -41,6 +42,7 @@ class PanelButton : public QPushButton {
     void initStyleOption(QStyleOptionButton* option) const override;
 
   private:
+    QFont fittingFont() const;
     void showWholeCaption(const QPoint& at);
     void paintOutline(QPainter& painter, const QStyleOptionButton& option) const;
 
