@@ -20,7 +20,7 @@ SqliteDatabase& database() {
     return database;
 }
 
-std::string quoted(std::string_view text) {
+std::string asLiteral(std::string_view text) {
     return "'" + escapeQuotes(text) + "'";
 }
 
@@ -65,11 +65,11 @@ void refuse(const std::string& statement) {
 void keeping(std::string_view text) {
     const std::string one(text.substr(0, text.size() / 2));
     const std::string two(text.substr(one.size()));
-    const std::string pair = quoted(one) + "," + quoted(two);
+    const std::string pair = asLiteral(one) + "," + asLiteral(two);
     if (text.find('\0') != std::string_view::npos) return refuse("Select " + pair);
     comeBack("Select " + pair, {one, two});
-    comeBack("Select\t" + quoted(two) + "/*'*/,--'\n" + quoted(one) + " Where " + quoted(one) + "=" +
-                 quoted(one),
+    comeBack("Select\t" + asLiteral(two) + "/*'*/,--'\n" + asLiteral(one) + " Where " + asLiteral(one) + "=" +
+                 asLiteral(one),
              {two, one});
 
     ado::Connection& db = database().provider();
@@ -77,14 +77,15 @@ void keeping(std::string_view text) {
     db.Execute("Delete From Note");
     db.Execute("Insert Into Note(ID,[Part One],PartTwo) Values (1," + pair + ")");
     comeBack(stored, {one, two});
-    comeBack(stored + " Where PartTwo=" + quoted(two) + " And " + quoted(one) + "=[Part One]", {one, two});
-    comeBack(stored + " Where [Part One] In (Null," + pair + ") And PartTwo Between " + quoted(two) +
-                 " And " + quoted(two),
+    comeBack(stored + " Where PartTwo=" + asLiteral(two) + " And " + asLiteral(one) + "=[Part One]",
              {one, two});
-    db.Execute("Update Note Set PartTwo=" + quoted(one) + ", [Part One]=" + quoted(two) +
-               " Where PartTwo=" + quoted(two));
+    comeBack(stored + " Where [Part One] In (Null," + pair + ") And PartTwo Between " + asLiteral(two) +
+                 " And " + asLiteral(two),
+             {one, two});
+    db.Execute("Update Note Set PartTwo=" + asLiteral(one) + ", [Part One]=" + asLiteral(two) +
+               " Where PartTwo=" + asLiteral(two));
     comeBack(stored, {two, one});
-    db.Execute("Insert Into Note Select ID+1," + pair + " From Note Where [Part One]=" + quoted(two));
+    db.Execute("Insert Into Note Select ID+1," + pair + " From Note Where [Part One]=" + asLiteral(two));
     comeBack(stored + " Where ID=2", {one, two});
 }
 
