@@ -30,7 +30,7 @@ constexpr std::string_view commonWords = "the i and a of you that in it is but k
                                          "back any new our also";
 
 // Costs, in nats; sound itself is overconfident, so they are large. Chosen by measuring, see docs/voice.md.
-constexpr double otherSentence = 25, otherWord = 30, command = 40;
+constexpr double otherSentence = 25, otherWord = 30, command = 52;
 constexpr double year = 6, rareYear = 30, digits = 35, restOfDate = 60;
 
 void addDay(WordGraph& graph, int from, int to, double cost) {
