@@ -2,11 +2,9 @@
 
 #include <korvane/controls/buttons/ButtonFocus.h>
 
-#include <QFocusEvent>
-#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
-#include <QToolTip>
 
 namespace Korvane {
 
@@ -18,8 +16,7 @@ bool isArrow(int key) {
 
 } // namespace
 
-PanelButton::PanelButton(ButtonFocus& row, QWidget* parent) : QPushButton(parent), mRow(row) {
-    setAutoDefault(false);
+PanelButton::PanelButton(ButtonFocus& row, QWidget* parent) : CommandButton(parent), mRow(row) {
     row.add(*this);
 }
 
@@ -34,58 +31,35 @@ void PanelButton::setSymbol(std::optional<MoveSymbol> symbol) {
 }
 
 QSize PanelButton::sizeHint() const {
-    const QSize natural = QPushButton::sizeHint();
+    const QSize natural = CommandButton::sizeHint();
     if (mSymbol) return {natural.height() * 3 / 2, natural.height()};
     return natural + QSize(2 * fontMetrics().averageCharWidth(), 0);
 }
 
-bool PanelButton::event(QEvent* event) {
-    switch (event->type()) {
-    case QEvent::Shortcut:
-        setFocus(Qt::ShortcutFocusReason);
-        return !hasFocus() || QPushButton::event(event);
-    case QEvent::ToolTip:
-        if (!toolTip().isEmpty()) break;
-        showWholeCaption(static_cast<QHelpEvent*>(event)->globalPos());
-        return true;
-    case QEvent::ShowToParent:
-    case QEvent::HideToParent:
-        mRow.usableChanged();
-        break;
-    default:
-        break;
-    }
-    return QPushButton::event(event);
+QSize PanelButton::minimumSizeHint() const {
+    const QSize natural = sizeHint();
+    return mSymbol ? QSize(natural.height(), natural.height()) : natural;
 }
 
-void PanelButton::showWholeCaption(const QPoint& at) {
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    if (option.text != text() && !mSymbol) QToolTip::showText(at, text().remove(u'&'), this);
+bool PanelButton::event(QEvent* event) {
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) mRow.usableChanged();
+    return CommandButton::event(event);
 }
 
 void PanelButton::changeEvent(QEvent* event) {
-    QPushButton::changeEvent(event);
+    CommandButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange) mRow.usableChanged();
 }
 
-/// A dialog that has no default button of its own takes the first one that may become it by itself: this one
-/// may only while it has the focus.
 void PanelButton::focusInEvent(QFocusEvent* event) {
     mRow.entered(*this);
-    setAutoDefault(true);
-    QPushButton::focusInEvent(event);
-}
-
-void PanelButton::focusOutEvent(QFocusEvent* event) {
-    QPushButton::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason) setAutoDefault(false);
+    CommandButton::focusInEvent(event);
 }
 
 /// Asked for Tab, and when the button has just been disabled or hidden.
 bool PanelButton::focusNextPrevChild(bool next) {
     const bool usable = isEnabled() && isVisible();
-    return (!usable && mRow.passOn(*this)) || QPushButton::focusNextPrevChild(next);
+    return (!usable && mRow.passOn(*this)) || CommandButton::focusNextPrevChild(next);
 }
 
 void PanelButton::keyPressEvent(QKeyEvent* event) {
@@ -93,11 +67,11 @@ void PanelButton::keyPressEvent(QKeyEvent* event) {
     if (isArrow(event->key()))
         event->ignore();
     else
-        QPushButton::keyPressEvent(event);
+        CommandButton::keyPressEvent(event);
 }
 
 /// In a button that is too low for its font, a smaller one: of letters that are cut nothing can be read.
-QFont PanelButton::fittingFont() const {
+QFont PanelButton::captionFont() const {
     const int edges = 2, room = height() - edges;
     QFont fitting = font();
     if (fontMetrics().height() > room) fitting.setPixelSize(qMax(1, room));
@@ -105,19 +79,15 @@ QFont PanelButton::fittingFont() const {
 }
 
 void PanelButton::initStyleOption(QStyleOptionButton* option) const {
-    QPushButton::initStyleOption(option);
-    option->fontMetrics = QFontMetrics(fittingFont());
-    const QRect room = style()->subElementRect(QStyle::SE_PushButtonContents, option, this);
-    option->text = mSymbol ? QString()
-                           : option->fontMetrics.elidedText(option->text, Qt::ElideRight, room.width(),
-                                                            Qt::TextShowMnemonic);
+    CommandButton::initStyleOption(option);
+    if (mSymbol) option->text.clear();
 }
 
 void PanelButton::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    painter.setFont(fittingFont());
+    painter.setFont(captionFont());
     if (mOutlined) {
         paintOutline(painter, option);
         painter.drawControl(QStyle::CE_PushButtonLabel, option);

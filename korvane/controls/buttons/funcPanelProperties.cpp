@@ -1,6 +1,7 @@
 #include <korvane/controls/buttons/funcPanel.h>
 
 #include <korvane/controls/buttons/PanelButton.h>
+#include <korvane/controls/container/ReadCode.h>
 
 #include <QGroupBox>
 
@@ -13,10 +14,6 @@ namespace {
 const QStringList& captions() {
     static const QStringList texts{"1", "2", "3", "4", "5"};
     return texts;
-}
-
-qint16 readCode(const PropertyBag& bag, const char* name, qint16 byDefault) {
-    return bag.ReadProperty(QLatin1String(name), QVariant::fromValue(byDefault)).value<qint16>();
 }
 
 /// What a code is taken for, where it is one.

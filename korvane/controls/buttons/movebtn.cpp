@@ -1,5 +1,6 @@
 #include <korvane/controls/buttons/movebtn.h>
 
+#include <korvane/controls/buttons/MoveCaption.h>
 #include <korvane/controls/buttons/PanelButton.h>
 #include <korvane/controls/container/Twips.h>
 
@@ -11,11 +12,6 @@ namespace Korvane {
 
 namespace {
 
-const QStringList& captions() {
-    static const QStringList texts{"|<", "<", ">", ">|"};
-    return texts;
-}
-
 constexpr QSize aroundFrame(150, 100);
 constexpr QSize aroundButtons(175, 325);
 constexpr QPoint framePlace(75, 50);
@@ -26,20 +22,14 @@ constexpr QPoint firstButton(87, 280);
 movebtn::movebtn(QWidget* parent) : ButtonPanel(4, QStringLiteral("cmdMove"), parent) {
     frame().setTitle(QStringLiteral("Move Buttons"));
     for (int i = 0; i < count(); ++i)
-        movebtn::showCaption(i, captions()[i]);
+        movebtn::showCaption(i, moveCaptions()[i]);
     resize(sizeHint());
     movebtn::arrange();
 }
 
 void movebtn::showCaption(int index, const QString& text) {
-    ButtonPanel::showCaption(index, text);
-    const QStringList meanings{tr("First record"), tr("Previous record"), tr("Next record"),
-                               tr("Last record")};
-    const bool symbol = text == captions()[index];
-    PanelButton& shown = button(index);
-    shown.setSymbol(symbol ? std::optional(static_cast<MoveSymbol>(index)) : std::nullopt);
-    shown.setAccessibleName(symbol ? meanings[index] : QString());
-    shown.setToolTip(symbol ? meanings[index] : QString());
+    showMoveCaption(button(index), index, text);
+    updateGeometry();
 }
 
 QString movebtn::Caption() const {
@@ -64,19 +54,19 @@ void movebtn::Enabled(bool on) {
 void movebtn::InitProperties() {
     Caption(QStringLiteral("Move Buttons"));
     for (int i = 0; i < count(); ++i)
-        caption(i, captions()[i]);
+        caption(i, moveCaptions()[i]);
     Enabled(true);
 }
 
 void movebtn::ReadProperties(const PropertyBag& bag) {
-    readCaptions(bag, captions());
+    readCaptions(bag, moveCaptions());
     frame().setTitle(bag.ReadProperty("Caption", "Mover Buttons").toString());
     enableParts(bag.ReadProperty("Enabled", true).toBool());
     updateGeometry();
 }
 
 void movebtn::WriteProperties(PropertyBag& bag) const {
-    writeCaptions(bag, captions());
+    writeCaptions(bag, moveCaptions());
     bag.WriteProperty("Caption", Caption(), "Mover Buttons");
     bag.WriteProperty("Enabled", Enabled(), true);
 }

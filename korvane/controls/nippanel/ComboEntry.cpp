@@ -1,6 +1,6 @@
 #include <korvane/controls/nippanel/ComboEntry.h>
 
-#include <korvane/controls/nippanel/PageCombo.h>
+#include <korvane/controls/container/PageCombo.h>
 
 #include <QLineEdit>
 #include <QSignalBlocker>

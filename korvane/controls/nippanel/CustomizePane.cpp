@@ -1,5 +1,6 @@
 #include <korvane/controls/nippanel/CustomizePane.h>
 
+#include <korvane/controls/container/PaneScroll.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/EntryControl.h>
 #include <korvane/controls/nippanel/FieldForm.h>
@@ -7,14 +8,10 @@
 #include <korvane/controls/nippanel/LeastGrid.h>
 #include <korvane/nip/cNIP.h>
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace Korvane {
 
@@ -27,40 +24,6 @@ QLabel* makeLine(const char* name, QWidget* parent) {
     label->setWordWrap(true);
     return label;
 }
-
-/// Scrolls up and down, and to whatever gets the focus.
-class PaneScroll : public QScrollArea {
-  public:
-    explicit PaneScroll(QWidget* parent) : QScrollArea(parent) {
-        setWidgetResizable(true);
-        setFrameShape(QFrame::NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        viewport()->setAutoFillBackground(false);
-        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { reveal(now); });
-    }
-
-    /// The focus moves on from what is in it while it goes, when it is no scroll area any more.
-    ~PaneScroll() override { disconnect(qApp, nullptr, this, nullptr); }
-
-    QSize minimumSizeHint() const override {
-        const int bar = verticalScrollBarWidth();
-        return {widget() ? widget()->minimumSizeHint().width() + bar : bar,
-                QScrollArea::minimumSizeHint().height()};
-    }
-
-  private:
-    /// With the line above it where there is room: it tells what this is. What is under the mouse must not
-    /// move away between press and release.
-    void reveal(QWidget* focus) {
-        if (!focus || !widget() || !widget()->isAncestorOf(focus) ||
-            QGuiApplication::mouseButtons() != Qt::NoButton)
-            return;
-        const int room = (viewport()->height() - focus->height()) / 2;
-        ensureWidgetVisible(focus, 0, std::clamp(room, 0, 2 * fontMetrics().height()));
-    }
-
-    int verticalScrollBarWidth() const { return style()->pixelMetric(QStyle::PM_ScrollBarExtent); }
-};
 
 } // namespace
 

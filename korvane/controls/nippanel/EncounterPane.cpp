@@ -1,8 +1,8 @@
 #include <korvane/controls/nippanel/EncounterPane.h>
 
+#include <korvane/controls/container/PageCombo.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/EncounterDateEdit.h>
-#include <korvane/controls/nippanel/PageCombo.h>
 #include <korvane/data/SQLData.h>
 
 #include <QLabel>

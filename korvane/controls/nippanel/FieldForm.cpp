@@ -1,12 +1,12 @@
 #include <korvane/controls/nippanel/FieldForm.h>
 
+#include <korvane/controls/container/PageCombo.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/ChoiceEditor.h>
 #include <korvane/controls/nippanel/DisplayTypes.h>
 #include <korvane/controls/nippanel/EntryControl.h>
 #include <korvane/controls/nippanel/FieldName.h>
 #include <korvane/controls/nippanel/LeastGrid.h>
-#include <korvane/controls/nippanel/PageCombo.h>
 
 #include <QAbstractItemView>
 #include <QLabel>

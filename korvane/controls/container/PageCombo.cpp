@@ -1,4 +1,4 @@
-#include <korvane/controls/nippanel/PageCombo.h>
+#include <korvane/controls/container/PageCombo.h>
 
 #include <QAbstractItemView>
 #include <QCompleter>

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QPushButton>
+
+namespace Korvane {
+
+/// A button on a form. What is more than a push button:
+///
+/// - Enter clicks it while it has the focus, and it shows the mark of the default button then. It never
+///   becomes the default button of a dialog otherwise: Enter in a text box does not reach it.
+/// - Its accelerator gives it the focus before the click: what refuses to let the focus go holds the click
+/// up.
+/// - A caption that has no room is shortened and shown whole as a tool tip.
+class CommandButton : public QPushButton {
+    Q_OBJECT
+
+  public:
+    explicit CommandButton(QWidget* parent);
+
+  protected:
+    bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void initStyleOption(QStyleOptionButton* option) const override;
+    virtual QFont captionFont() const { return font(); }
+
+  private:
+    void showWholeCaption(const QPoint& at);
+};
+
+} // namespace Korvane

@@ -1,0 +1,135 @@
+#include <korvane/controls/dbxadmin/ValueList.h>
+
+#include <korvane/controls/buttons/CommandButton.h>
+#include <korvane/controls/container/Text.h>
+#include <korvane/controls/container/UserControl.h>
+#include <korvane/controls/dbxadmin/ListText.h>
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalBlocker>
+
+namespace Korvane {
+
+void ValueList::setData(const QString& text) {
+    mData = text;
+    if (text.isEmpty()) return;
+    const QSignalBlocker quiet(lstAddtoList);
+    lstAddtoList->clear();
+    for (const std::string& item : listItems(utf8(text)))
+        lstAddtoList->addItem(qt(item));
+    lstAddtoList->setCurrentRow(0);
+    setRemoves(mRemoves);
+}
+
+void ValueList::clear() {
+    const QSignalBlocker quiet(lstAddtoList);
+    lstAddtoList->clear();
+    mData.clear();
+}
+
+QString ValueList::entryText() const {
+    return txtAddtoList->text();
+}
+
+void ValueList::setEntryText(const QString& text) {
+    const QSignalBlocker quiet(txtAddtoList);
+    txtAddtoList->setText(text);
+    setRemoves(mRemoves);
+}
+
+/// A button that was disabled comes back where there is something for it to do.
+void ValueList::setRemoves(bool on) {
+    mRemoves = on;
+    mButtonOn = mButtonOn || hasWork();
+    showButton();
+}
+
+void ValueList::setEditable(bool on) {
+    if (on && !mEditable) mButtonOn = true;
+    mEditable = on;
+    // The list last, so that the focus leaves all three at once.
+    showButton();
+    txtAddtoList->setEnabled(on);
+    lstAddtoList->setEnabled(on);
+}
+
+void ValueList::showButton() {
+    cmdAddtoList->setText(mRemoves ? tr("Remove from List") : tr("Add to List"));
+    cmdAddtoList->setEnabled(mEditable && mButtonOn);
+}
+
+int ValueList::selectedRow() const {
+    const auto selected = lstAddtoList->selectedItems();
+    return selected.isEmpty() ? -1 : lstAddtoList->row(selected.front());
+}
+
+bool ValueList::hasWork() const {
+    return mRemoves ? selectedRow() >= 0 : !entryText().isEmpty();
+}
+
+void ValueList::typed() {
+    mButtonOn = false;
+    setRemoves(false);
+    emit entryChanged();
+}
+
+void ValueList::add() {
+    const QString text = entryText();
+    if (text.isEmpty()) return;
+    if (!canBeListItem(utf8(text))) return explainSeparator();
+    {
+        const QSignalBlocker quiet(lstAddtoList);
+        lstAddtoList->addItem(text);
+        lstAddtoList->setCurrentRow(lstAddtoList->count() - 1);
+    }
+    changed();
+    txtAddtoList->setFocus();
+    txtAddtoList->clear();
+}
+
+void ValueList::remove() {
+    const int row = selectedRow();
+    if (row < 0) return;
+    delete lstAddtoList->takeItem(row);
+    if (lstAddtoList->count() == 0) {
+        if (cmdAddtoList->hasFocus()) lstAddtoList->setFocus();
+        mButtonOn = false;
+        showButton();
+    }
+    changed();
+}
+
+void ValueList::changed() {
+    std::vector<std::string> items;
+    for (int i = 0; i < lstAddtoList->count(); ++i)
+        items.push_back(utf8(lstAddtoList->item(i)->text()));
+    mData = qt(listText(items));
+    emit listChanged();
+}
+
+bool ValueList::eventFilter(QObject* watched, QEvent* event) {
+    if (mControl.designMode()) return false;
+    if (event->type() == QEvent::KeyPress) return take(watched, static_cast<QKeyEvent&>(*event));
+    if (event->type() != QEvent::FocusIn) return false;
+    if (watched == txtAddtoList) setRemoves(false);
+    if (watched == lstAddtoList && selectedRow() >= 0) setRemoves(true);
+    return false;
+}
+
+/// Enter does not reach the default button of a dialog, not even from an empty box: it may be one too many.
+/// A Delete that is held down removes one value, not all of them.
+bool ValueList::take(const QObject* part, const QKeyEvent& key) {
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (part == txtAddtoList && enter) {
+        add();
+        return true;
+    }
+    if (part != lstAddtoList || key.key() != Qt::Key_Delete || !plain) return false;
+    if (!key.isAutoRepeat()) remove();
+    return true;
+}
+
+} // namespace Korvane
