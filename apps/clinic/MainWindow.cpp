@@ -5,10 +5,10 @@
 #include "clinic/EncounterPane.h"
 #include "clinic/Help.h"
 #include "clinic/NipDesk.h"
-#include "clinic/PaneCycle.h"
 #include "clinic/PatientPane.h"
 #include "clinic/Show.h"
 #include "clinic/TextSize.h"
+#include "shared/PaneCycle.h"
 
 #include <korvane/controls/container/Busy.h>
 
@@ -29,7 +29,7 @@ MainWindow::MainWindow(std::shared_ptr<Korvane::ado::Connection> connection, con
       mBar(new ConnectionBar(mConnection, this)), mSides(new QSplitter(Qt::Horizontal, this)),
       mLists(new QSplitter(Qt::Vertical, this)), mPatients(new PatientPane(mLists)),
       mEncounters(new EncounterPane(mLists)), mDesk(new NipDesk(mSides)),
-      mPanes(new PaneCycle({mPatients, mEncounters, mDesk, mDesk->customizePane(), mBar}, this)),
+      mPanes(new Apps::PaneCycle({mPatients, mEncounters, mDesk, mDesk->customizePane(), mBar}, this)),
       mActions(std::make_unique<Actions>(*this)) {
     const Korvane::Hourglass hourglass;
     if (textSize > 0) mTextSize->setPercent(textSize);
@@ -110,8 +110,8 @@ void MainWindow::connectActions() {
     });
     connect(a.showLists, &QAction::toggled, this, &MainWindow::showLists);
     connect(a.reload, &QAction::triggered, this, &MainWindow::reload);
-    connect(a.nextPane, &QAction::triggered, mPanes, &PaneCycle::next);
-    connect(a.previousPane, &QAction::triggered, mPanes, &PaneCycle::previous);
+    connect(a.nextPane, &QAction::triggered, mPanes, &Apps::PaneCycle::next);
+    connect(a.previousPane, &QAction::triggered, mPanes, &Apps::PaneCycle::previous);
     connect(a.largerText, &QAction::triggered, mTextSize, &TextSize::larger);
     connect(a.smallerText, &QAction::triggered, mTextSize, &TextSize::smaller);
     connect(a.usualText, &QAction::triggered, mTextSize, &TextSize::usual);

@@ -6,13 +6,16 @@
 
 class QSplitter;
 
+namespace Apps {
+class PaneCycle;
+}
+
 namespace Clinic {
 
 struct Actions;
 class ConnectionBar;
 class EncounterPane;
 class NipDesk;
-class PaneCycle;
 class PatientPane;
 class TextSize;
 
@@ -61,7 +64,7 @@ class MainWindow : public QMainWindow {
     PatientPane* mPatients;
     EncounterPane* mEncounters;
     NipDesk* mDesk;
-    PaneCycle* mPanes;
+    Apps::PaneCycle* mPanes;
     std::unique_ptr<Actions> mActions;
     bool mChoosingPatient = false;
 };

@@ -30,10 +30,7 @@ void Journey::requireDate(const QString& wholeDate, const QString& focus) {
 }
 
 void Journey::requireEvents(const QStringList& last) {
-    const auto& list = part<QTableWidget>(QStringLiteral("lstEvents"));
-    QStringList heard;
-    for (int row = 0; row < list.rowCount(); ++row)
-        heard << list.item(row, 0)->text() + u' ' + list.item(row, 1)->text();
+    const QStringList heard = part<Apps::EventList>(QStringLiteral("events")).heard();
     require(heard.mid(heard.size() - last.size()) == last,
             QStringLiteral("The events end with \"%1\" and should with \"%2\".")
                 .arg(heard.mid(heard.size() - last.size()).join(QStringLiteral("; ")),

@@ -9,8 +9,6 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QHeaderView>
-#include <QPushButton>
 
 namespace DateForm {
 
@@ -36,7 +34,7 @@ QCheckBox* switchBox(const char* name, const QString& text) {
 
 TestForm::TestForm(QWidget* parent)
     : QWidget(parent), mName(new QLineEdit), mDate(new axDate), mRefusal(new QLabel), mVoice(new VoiceBox),
-      mEvents(new QTableWidget(0, 2)) {
+      mEvents(new Apps::EventList) {
     setWindowTitle(tr("Date control"));
     auto* columns = new QHBoxLayout(this);
     auto* left = new QVBoxLayout;
@@ -47,7 +45,7 @@ TestForm::TestForm(QWidget* parent)
     connect(mVoice, &VoiceBox::switched, this,
             [this](bool on) { readAnew("DragonSpeechEnabled", on, false); });
     columns->addLayout(left);
-    columns->addWidget(makeEvents(), 1);
+    columns->addWidget(mEvents, 1);
     mDate->InitProperties();
     listen();
     mName->setFocus();
@@ -90,58 +88,22 @@ QWidget* TestForm::makeSettings() {
     return group;
 }
 
-QWidget* TestForm::makeEvents() {
-    auto* group = new QGroupBox(tr("Events"));
-    auto* rows = new QVBoxLayout(group);
-    auto* clear = new QPushButton(tr("&Clear"));
-    mEvents->setObjectName(QStringLiteral("lstEvents"));
-    mEvents->setAccessibleName(tr("Events"));
-    mEvents->setLayoutDirection(Qt::LeftToRight);
-    mEvents->setHorizontalHeaderLabels({tr("Event"), tr("What it says")});
-    mEvents->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    mEvents->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    mEvents->horizontalHeader()->setStretchLastSection(true);
-    mEvents->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    mEvents->verticalHeader()->setMinimumSectionSize(1);
-    mEvents->verticalHeader()->hide();
-    mEvents->setShowGrid(false);
-    mEvents->setAlternatingRowColors(true);
-    mEvents->setEditTriggers(QTableWidget::NoEditTriggers);
-    mEvents->setSelectionBehavior(QTableWidget::SelectRows);
-    mEvents->setTabKeyNavigation(false);
-    mEvents->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
-    clear->setObjectName(QStringLiteral("cmdClear"));
-    clear->setProperty("CausesValidation", false);
-    rows->addWidget(mEvents);
-    rows->addWidget(clear, 0, Qt::AlignRight);
-    connect(clear, &QPushButton::clicked, mEvents, [this] { mEvents->setRowCount(0); });
-    return group;
-}
-
 void TestForm::listen() {
     connect(mDate, &axDate::OnIndexChange, this,
-            [this](qint16 index) { hear(QStringLiteral("OnIndexChange"), QString::number(index)); });
+            [this](qint16 index) { mEvents->hear(QStringLiteral("OnIndexChange"), QString::number(index)); });
     connect(mDate, &axDate::OnChange, this, [this] {
-        hear(QStringLiteral("OnChange"), QStringLiteral("axDate = \"%1\"").arg(mDate->wholeDate()));
+        mEvents->hear(QStringLiteral("OnChange"), QStringLiteral("axDate = \"%1\"").arg(mDate->wholeDate()));
         mRefusal->clear();
     });
     connect(mDate, &axDate::Exception, this, [this](const QString& message) {
-        hear(QStringLiteral("Exception"), message);
+        mEvents->hear(QStringLiteral("Exception"), message);
         mRefusal->setText(message);
     });
     connect(mDate, &axDate::SystemMessage, this,
-            [this](const QString& message) { hear(QStringLiteral("SystemMessage"), message); });
+            [this](const QString& message) { mEvents->hear(QStringLiteral("SystemMessage"), message); });
     connect(mDate, &axDate::Dictated, this, &TestForm::placeDictated);
     // The focus is still on its way then: a box has to wait until it has arrived.
     connect(mDate, &axDate::SystemMessage, this, &TestForm::checkBounds, Qt::QueuedConnection);
-}
-
-void TestForm::hear(const QString& event, const QString& text) {
-    const int row = mEvents->rowCount();
-    mEvents->insertRow(row);
-    mEvents->setItem(row, 0, new QTableWidgetItem(event));
-    mEvents->setItem(row, 1, new QTableWidgetItem(text));
-    mEvents->scrollToBottom();
 }
 
 void TestForm::checkBounds() {
@@ -149,14 +111,14 @@ void TestForm::checkBounds() {
     if (outside == 0) return;
     const QString message = outside > 0 ? tr("The date must not be after %1.").arg(mDate->MaximumDate())
                                         : tr("The date must not be before %1.").arg(mDate->MinimumDate());
-    hear(QStringLiteral("Date Error"), message);
+    mEvents->hear(QStringLiteral("Date Error"), message);
     Korvane::Interaction::current().MsgBox(Korvane::utf8(message), Korvane::MsgBoxStyle::Information,
                                            "Date Error");
     mDate->SetElementFocus(0);
 }
 
 void TestForm::placeDictated(const QString& words) {
-    hear(QStringLiteral("Dictated"), words);
+    mEvents->hear(QStringLiteral("Dictated"), words);
     const QString problem = Korvane::placeDictated(*mDate, words);
     mVoice->showHeard(problem.isEmpty() ? tr("Heard: %1").arg(words) : problem);
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "dateform/VoiceBox.h"
+#include "shared/EventList.h"
 
 #include <korvane/controls/axdate/axDate.h>
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QTableWidget>
 #include <QWidget>
 
 namespace DateForm {
@@ -25,9 +25,7 @@ class TestForm : public QWidget {
   private:
     QWidget* makeForm();
     QWidget* makeSettings();
-    QWidget* makeEvents();
     void listen();
-    void hear(const QString& event, const QString& text);
     void checkBounds();
     void readAnew(const QString& property, const QVariant& value, const QVariant& usual);
     void placeDictated(const QString& words);
@@ -36,7 +34,7 @@ class TestForm : public QWidget {
     Korvane::axDate* mDate;
     QLabel* mRefusal;
     VoiceBox* mVoice;
-    QTableWidget* mEvents;
+    Apps::EventList* mEvents;
 };
 
 } // namespace DateForm

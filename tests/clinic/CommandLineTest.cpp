@@ -1,8 +1,5 @@
-#include "support/Program.h"
+#include "support/GuidedTour.h"
 #include "support/ScratchSchema.h"
-
-#include <QDir>
-#include <QRegularExpression>
 
 #include <gmock/gmock.h>
 
@@ -16,26 +13,6 @@ using testing::HasSubstr;
 using testing::Not;
 
 namespace {
-
-/// A guided tour, what it printed, without where its pictures are, and these.
-struct GuidedTour {
-    Outcome outcome;
-    QString told;
-    std::vector<std::pair<QString, QByteArray>> pictures;
-};
-
-GuidedTour tour(const ScratchDir& home, const std::string& pictures, const QStringList& more = {}) {
-    const QDir dir(QString::fromStdString(home.file(pictures)));
-    GuidedTour tour{run(home, QStringList{"--tour", dir.path()} + more), {}, {}};
-    tour.told = QString::fromStdString(tour.outcome.output)
-                    .remove(QRegularExpression(QStringLiteral(" pictures in .*\n$")));
-    for (const QString& name : dir.entryList({"*.png"}, QDir::Files)) {
-        QFile file(dir.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        tour.pictures.emplace_back(name, file.readAll());
-    }
-    return tour;
-}
 
 void expectAllOf(const GuidedTour& tour) {
     EXPECT_EQ(tour.outcome.code, 0) << tour.outcome.errors;
@@ -92,9 +69,7 @@ TEST(CommandLine, GoesOnTheSameTourOnAServerWhichNeedsAnEmptyDatabase) {
     expectAllOf(file);
     EXPECT_EQ(server.outcome.code, 0) << server.outcome.errors;
     EXPECT_EQ(server.told, file.told);
-    ASSERT_EQ(server.pictures.size(), file.pictures.size());
-    for (std::size_t i = 0; i < file.pictures.size(); ++i)
-        EXPECT_TRUE(server.pictures[i] == file.pictures[i]) << file.pictures[i].first.toStdString();
+    expectSamePictures(file, server);
     const Outcome again = tour(home, "server", onServer).outcome;
     EXPECT_EQ(again.code, 1);
     EXPECT_THAT(again.errors, HasSubstr("empty database only"));

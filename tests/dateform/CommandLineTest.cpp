@@ -1,10 +1,6 @@
-#include "support/Program.h"
-
-#include <QDir>
+#include "support/GuidedTour.h"
 
 #include <gmock/gmock.h>
-
-#include <array>
 
 namespace Korvane::Testing {
 
@@ -30,19 +26,10 @@ TEST(DateFormCommandLine, SaysWhatItOffersAndRefusesWhatItCannotDo) {
 
 TEST(DateFormCommandLine, LeavesTheSamePicturesOfEveryTour) {
     const ScratchDir dir;
-    std::array<QStringList, 2> pictures;
-    for (std::size_t i = 0; i < pictures.size(); ++i) {
-        const QDir tour(QString::fromStdString(dir.file(i == 0 ? "first" : "second")));
-        const Outcome outcome = run(dir, {"--tour", tour.path()});
-        EXPECT_EQ(outcome.code, 0) << outcome.errors;
-        for (const QString& name : tour.entryList({"*.png"}, QDir::Files)) {
-            QFile file(tour.filePath(name));
-            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-            pictures.at(i) << name + ' ' + QString::number(qHash(file.readAll()));
-        }
-    }
-    EXPECT_GE(pictures[0].size(), 9);
-    EXPECT_EQ(pictures[0], pictures[1]);
+    const GuidedTour first = tour(dir, "first"), second = tour(dir, "second");
+    EXPECT_EQ(first.outcome.code, 0) << first.outcome.errors;
+    EXPECT_GE(first.pictures.size(), 9U);
+    expectSamePictures(first, second);
 }
 
 } // namespace Korvane::Testing

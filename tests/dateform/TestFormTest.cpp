@@ -39,9 +39,8 @@ struct OpenForm : TestForm {
     }
     std::vector<std::string> events() {
         std::vector<std::string> texts;
-        const auto& list = part<QTableWidget>("lstEvents");
-        for (int row = 0; row < list.rowCount(); ++row)
-            texts.push_back((list.item(row, 0)->text() + ' ' + list.item(row, 1)->text()).toStdString());
+        for (const QString& each : part<Apps::EventList>("events").heard())
+            texts.push_back(each.toStdString());
         return texts;
     }
 };

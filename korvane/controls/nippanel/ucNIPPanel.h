@@ -26,10 +26,10 @@ namespace Korvane {
 /// last, and what would follow is left out once the slot has closed the Nip or opened another.
 class ucNIPPanel : public UserControl {
     Q_OBJECT
-    Q_PROPERTY(QString PatientID READ PatientID)
+    Q_PROPERTY(QString PatientID READ PatientID STORED false)
     Q_PROPERTY(bool CustomizeOnly READ CustomizeOnly WRITE CustomizeOnly)
     Q_PROPERTY(bool AllowClosePanel READ AllowClosePanel WRITE AllowClosePanel)
-    Q_PROPERTY(bool NumbersGroups READ NumbersGroups WRITE NumbersGroups)
+    Q_PROPERTY(bool NumbersGroups READ NumbersGroups WRITE NumbersGroups STORED false)
 
   public:
     explicit ucNIPPanel(QWidget* parent = nullptr);

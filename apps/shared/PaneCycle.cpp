@@ -1,8 +1,8 @@
-#include "clinic/PaneCycle.h"
+#include "shared/PaneCycle.h"
 
 #include <QApplication>
 
-namespace Clinic {
+namespace Apps {
 
 namespace {
 
@@ -56,4 +56,4 @@ bool PaneCycle::enter(int pane) {
     return true;
 }
 
-} // namespace Clinic
+} // namespace Apps

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace Clinic {
+namespace Apps {
 
 /// Goes round the panes of a window by key: each gets the focus back where it was last.
 class PaneCycle : public QObject {
@@ -29,4 +29,4 @@ class PaneCycle : public QObject {
     std::vector<QPointer<QWidget>> mLast;
 };
 
-} // namespace Clinic
+} // namespace Apps

@@ -1,0 +1,99 @@
+#include "gallery/Exhibits.h"
+
+#include "gallery/SampleNip.h"
+
+#include <korvane/controls/axdate/axDate.h>
+#include <korvane/controls/buttons/funcPanel.h>
+#include <korvane/controls/buttons/movebtn.h>
+#include <korvane/controls/nippanel/ucNIPPanel.h>
+
+#include <QCoreApplication>
+
+namespace Gallery {
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("Gallery::Exhibits", text);
+}
+
+QString told(bool done) {
+    return done ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+/// What a method without a result does.
+std::function<QString()> quiet(std::function<void()> work) {
+    return [work = std::move(work)] {
+        work();
+        return QString();
+    };
+}
+
+template <typename Control>
+std::unique_ptr<Control> made(const char* name) {
+    auto control = std::make_unique<Control>();
+    control->setObjectName(QLatin1String(name));
+    control->InitProperties();
+    return control;
+}
+
+Exhibit nipPanel() {
+    auto panel = made<Korvane::ucNIPPanel>("ucNIPPanel");
+    auto* p = panel.get();
+    const SampleNip sample = makeSampleNip();
+    p->Initialize(sample.connection);
+    p->LoadNipInfo(sample.encounter, sample.patient);
+    return {std::move(panel),
+            tr("A data-entry form that the clinic shapes itself, here over a sample clinic in memory."),
+            true,
+            {{QStringLiteral("CreateNip(\"%1\")").arg(sample.patient),
+              [=] { return told(p->CreateNip(sample.patient)); }},
+             {QStringLiteral("LoadNipInfo(%1, \"%2\")").arg(sample.encounter).arg(sample.patient),
+              [=] { return told(p->LoadNipInfo(sample.encounter, sample.patient)); }},
+             {QStringLiteral("SaveNipInfo"), quiet([p] { p->SaveNipInfo(); })},
+             {QStringLiteral("CustomizeNip"), quiet([p] { p->CustomizeNip(); })}}};
+}
+
+Exhibit dateControl() {
+    auto date = made<Korvane::axDate>("axDate");
+    auto* d = date.get();
+    return {std::move(date),
+            tr("One date in three boxes: month, day and year."),
+            false,
+            {{QStringLiteral("ValidateMinMax"), [d] { return QString::number(d->ValidateMinMax()); }},
+             {QStringLiteral("SetElementFocus(1)"), quiet([d] { d->SetElementFocus(1); })}}};
+}
+
+Exhibit functionButtons() {
+    auto panel = made<Korvane::funcPanel>("funcPanel");
+    auto* p = panel.get();
+    return {std::move(panel),
+            tr("A frame around one to five buttons that tell the host which one was clicked."),
+            false,
+            {{QStringLiteral("btnDisable(0)"), quiet([p] { p->btnDisable(0); })},
+             {QStringLiteral("btnEnable(0)"), quiet([p] { p->btnEnable(0); })},
+             {QStringLiteral("btnFontBold(1, True)"), quiet([p] { p->btnFontBold(1, true); })},
+             {QStringLiteral("Focus(1)"), quiet([p] { p->Focus(1); })}}};
+}
+
+Exhibit moveButtons() {
+    auto move = made<Korvane::movebtn>("movebtn");
+    auto* m = move.get();
+    return {std::move(move),
+            tr("Four buttons to move to the first, the previous, the next and the last record."),
+            false,
+            {{QStringLiteral("Focus(0)"), quiet([m] { m->Focus(0); })}}};
+}
+
+} // namespace
+
+std::vector<Exhibit> makeExhibits() {
+    std::vector<Exhibit> exhibits;
+    exhibits.push_back(nipPanel());
+    exhibits.push_back(dateControl());
+    exhibits.push_back(functionButtons());
+    exhibits.push_back(moveButtons());
+    return exhibits;
+}
+
+} // namespace Gallery

@@ -1,0 +1,31 @@
+#include "gallery/GalleryWindow.h"
+
+#include "shared/PaneCycle.h"
+
+#include <QScreen>
+#include <QShortcut>
+
+namespace Gallery {
+
+GalleryWindow::GalleryWindow(QWidget* parent) : QTabWidget(parent) {
+    setWindowTitle(tr("Korvane controls"));
+    for (Exhibit& exhibit : makeExhibits()) {
+        auto* page = new ControlPage(std::move(exhibit));
+        addTab(page, page->control().objectName());
+    }
+    addShortcuts();
+    const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 48);
+    resize(wanted.boundedTo(screen()->availableSize()));
+}
+
+void GalleryWindow::addShortcuts() {
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { page().panes().next(); });
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F6, this), &QShortcut::activated, this,
+            [this] { page().panes().previous(); });
+}
+
+ControlPage& GalleryWindow::page() const {
+    return *qobject_cast<ControlPage*>(currentWidget());
+}
+
+} // namespace Gallery

@@ -1,0 +1,52 @@
+// korvane-gallery: every control of the library, its properties and its events.
+
+#include "gallery/GalleryWindow.h"
+#include "gallery/Tour.h"
+#include "shared/CommandLine.h"
+#include "shared/ScaledFont.h"
+#include "shared/Screen.h"
+
+#include <QApplication>
+
+namespace {
+
+struct Options {
+    QString tourDirectory;
+    int fontScale = 100;
+};
+
+Options readOptions() {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Every control of the library, with its properties to change and the events it raises."));
+    parser.addOptions({{QStringLiteral("tour"),
+                        QStringLiteral("Drive the window by itself, and leave a picture of each step in this "
+                                       "directory."),
+                        QStringLiteral("dir")},
+                       Apps::fontScaleOption()});
+    Apps::readOptions(parser, QCoreApplication::arguments());
+    return {Apps::tourDirectory(parser), Apps::fontScale(parser, 100)};
+}
+
+int openWindow(const Options& options) {
+    QApplication::setFont(Apps::scaled(QApplication::font(), options.fontScale));
+    Gallery::GalleryWindow window;
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication::setApplicationName(QStringLiteral("korvane-gallery"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
+    if (Apps::needsNoScreen(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        readOptions();
+    }
+    if (!Apps::readyScreen("korvane-gallery", argc, argv)) return 1;
+    const QApplication application(argc, argv);
+    const Options options = readOptions();
+    if (!options.tourDirectory.isEmpty()) return Gallery::runTour(options.tourDirectory, options.fontScale);
+    return openWindow(options);
+}
