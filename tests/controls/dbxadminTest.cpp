@@ -166,6 +166,11 @@ TEST(dbxadmin, TellsOfMovesAndUpdatesAndWhatIsChangedSince) {
 
 TEST(dbxadmin, WithoutUpdatesOneCanOnlyMove) {
     AdminDesk desk;
+    desk.entry().setFocus();
+    desk.admin->displayType(1);
+    EXPECT_EQ(desk.focus() + utf8(desk.button().text()), "cmdMove(0)Add to List") << "past the list";
+    desk.admin->setFocus();
+    desk.heard();
     desk.admin->UpdateEnabled(false);
     for (const char* name : {"cmdUpdate", "txtFldName", "txtFldCaption", "cboInputDisplay", "cboRequired"})
         EXPECT_FALSE(desk.part(name).isEnabled()) << name;

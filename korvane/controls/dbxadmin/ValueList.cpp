@@ -46,13 +46,13 @@ void ValueList::setRemoves(bool on) {
     showButton();
 }
 
+/// From the last part to the first: one that has the focus passes it to what is behind all of them.
 void ValueList::setEditable(bool on) {
     if (on && !mEditable) mButtonOn = true;
     mEditable = on;
-    // The list last, so that the focus leaves all three at once.
+    lstAddtoList->setEnabled(on);
     showButton();
     txtAddtoList->setEnabled(on);
-    lstAddtoList->setEnabled(on);
 }
 
 void ValueList::showButton() {

@@ -64,13 +64,13 @@ void dbxadmin::updateClicked() {
     if (self && mChanges == before) mDataChanged = false;
 }
 
-/// The entry that has the focus would pass it to the next one, and so on, if that were still enabled.
+/// From the last part to the first, see `ValueList::setEditable`.
 void dbxadmin::enableEntries() {
-    for (QWidget* part :
-         std::initializer_list<QWidget*>{&mForm->updateButton(), &mForm->required(), &mForm->inputDisplay(),
-                                         &mForm->fieldCaption(), &mForm->name()})
-        part->setEnabled(mUpdateEnabled);
+    mForm->updateButton().setEnabled(mUpdateEnabled);
     enableList();
+    for (QWidget* part : std::initializer_list<QWidget*>{&mForm->required(), &mForm->inputDisplay(),
+                                                         &mForm->fieldCaption(), &mForm->name()})
+        part->setEnabled(mUpdateEnabled);
 }
 
 void dbxadmin::enableList() {
