@@ -5,6 +5,7 @@
 #include <korvane/controls/axdate/axDate.h>
 #include <korvane/controls/buttons/funcPanel.h>
 #include <korvane/controls/buttons/movebtn.h>
+#include <korvane/controls/dbxadmin/dbxadmin.h>
 #include <korvane/controls/nippanel/ucNIPPanel.h>
 
 #include <QCoreApplication>
@@ -85,6 +86,18 @@ Exhibit moveButtons() {
             {{QStringLiteral("Focus(0)"), quiet([m] { m->Focus(0); })}}};
 }
 
+Exhibit fieldAdministration() {
+    auto admin = made<Korvane::dbxadmin>("dbxadmin");
+    auto* a = admin.get();
+    return {
+        std::move(admin),
+        tr("The definition of one field of a database: its names, how it is entered, its list of values."),
+        true,
+        {{QStringLiteral("ClearList"), quiet([a] { a->ClearList(); })},
+         {QStringLiteral("EnableAddToList"), quiet([a] { a->EnableAddToList(); })},
+         {QStringLiteral("disableAddToList"), quiet([a] { a->disableAddToList(); })}}};
+}
+
 } // namespace
 
 std::vector<Exhibit> makeExhibits() {
@@ -93,6 +106,7 @@ std::vector<Exhibit> makeExhibits() {
     exhibits.push_back(dateControl());
     exhibits.push_back(functionButtons());
     exhibits.push_back(moveButtons());
+    exhibits.push_back(fieldAdministration());
     return exhibits;
 }
 

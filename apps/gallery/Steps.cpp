@@ -113,6 +113,27 @@ void moveByKeys(Journey& j) {
     j.album.add(QStringLiteral("movebtn"));
 }
 
+void defineAField(Journey& j) {
+    j.turnTo(QStringLiteral("dbxadmin"));
+    j.goTo(QStringLiteral("displayType"));
+    j.hand.press(Qt::Key_F2);
+    j.hand.type(QStringLiteral("L"));
+    j.hand.press(Qt::Key_Return);
+    j.part(QStringLiteral("txtFldName")).setFocus(Qt::ShortcutFocusReason);
+    j.hand.type(QStringLiteral("Smoker"));
+    j.part(QStringLiteral("txtAddtoList")).setFocus(Qt::ShortcutFocusReason);
+    j.hand.type(QStringLiteral("never"));
+    j.hand.press(Qt::Key_Return);
+    j.requireProperty("ListData", QStringLiteral("Item 1/Item 2/Item 3/Etc./never/"));
+    j.push(QStringLiteral("cmdMove(2)"));
+    j.requireEvents({QStringLiteral("RecordMove 2")});
+    j.push(QStringLiteral("cmdUpdate"));
+    j.requireEvents({QStringLiteral("UpdateClick ")});
+    requireKept(j, R"({ "DisplayType": 3, "ListData": "Item 1/Item 2/Item 3/Etc./never/", )"
+                   R"("fldName": "Smoker" })");
+    j.album.add(QStringLiteral("dbxadmin"));
+}
+
 } // namespace
 
 const std::vector<Step>& steps() {
@@ -124,6 +145,7 @@ const std::vector<Step>& steps() {
                                        {"too many function buttons", askForTooManyButtons},
                                        {"a property bag written by hand", readABagWrittenByHand},
                                        {"record-move buttons", moveByKeys},
+                                       {"the definition of a field", defineAField},
                                        {"the Nip panel being customized", customizeTheNip}};
     return all;
 }
