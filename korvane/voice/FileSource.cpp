@@ -36,6 +36,7 @@ std::vector<std::int16_t> samplesOf(std::string_view bytes) {
 
 std::vector<std::int16_t> fromWav(std::string_view bytes, const std::filesystem::path& file) {
     if (bytes.size() < 12 || !bytes.starts_with("RIFF") || bytes.substr(8, 4) != "WAVE") refuse(file);
+    constexpr unsigned samples = 1, describedFurther = 0xfffe;
     int rate = 0, channels = 0;
     for (std::size_t at = 12; at + 8 <= bytes.size();) {
         const auto name = bytes.substr(at, 4);
@@ -43,7 +44,9 @@ std::vector<std::int16_t> fromWav(std::string_view bytes, const std::filesystem:
         const auto size = std::min<std::size_t>(littleEndian(bytes, at + 4, 4), bytes.size() - at - 8);
         const auto chunk = bytes.substr(at + 8, size);
         if (name == "fmt " && size >= 16) {
-            if (littleEndian(chunk, 14, 2) != 16) refuse(file);
+            const auto kind = littleEndian(chunk, 0, 2);
+            if ((kind != samples && kind != describedFurther) || littleEndian(chunk, 14, 2) != 16)
+                refuse(file);
             channels = static_cast<int>(littleEndian(chunk, 2, 2));
             rate = static_cast<int>(std::min(littleEndian(chunk, 4, 4), 1000000U));
         } else if (name == "data" && rate != 0) {
@@ -57,12 +60,15 @@ std::vector<std::int16_t> fromWav(std::string_view bytes, const std::filesystem:
 } // namespace
 
 std::vector<std::int16_t> readSoundFile(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(in), {});
-    if (!in || in.bad())
+    std::error_code error;
+    std::ifstream in;
+    // A device may have no end.
+    if (std::filesystem::is_regular_file(file, error)) in.open(file, std::ios::binary);
+    if (!in.is_open())
         throw RuntimeError(RuntimeError::FileNotFound,
                            "The sound file " + file.string() + " cannot be read.");
-    return sameName(file.extension().string(), ".wav") ? fromWav(bytes, file) : samplesOf(bytes);
+    const std::string bytes(std::istreambuf_iterator<char>(in), {});
+    return sameName(file.extension().string(), ".raw") ? samplesOf(bytes) : fromWav(bytes, file);
 }
 
 FileSource::FileSource(std::filesystem::path file, Pace pace) : mFile(std::move(file)), mPace(pace) {}

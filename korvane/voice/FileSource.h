@@ -8,8 +8,8 @@
 
 namespace Korvane::voice {
 
-/// Sound from a file: WAV with 16-bit samples of any rate and number of channels, or raw samples as
-/// `AudioSource` gives them (any name that does not end in ".wav").
+/// Sound from a file: WAV with 16-bit samples of any rate and number of channels, whatever it is called, or
+/// raw samples as `AudioSource` gives them, in a file whose name ends in ".raw".
 ///
 ///     auto spoken = std::make_shared<voice::FileSource>("next-field.wav");
 ///

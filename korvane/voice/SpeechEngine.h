@@ -36,8 +36,8 @@ class SpeechEngine {
 std::shared_ptr<SpeechEngine> current();
 
 /// Installs an engine and returns the one before. Controls take their parts when they are set up, so install
-/// it before the forms are made. For null, `why` is what `whyAbsent` says from then on; an empty text stands
-/// for the usual one.
+/// it before the forms are made, and take it back (null) before what its `Post` goes to ends. For null, `why`
+/// is what `whyAbsent` says from then on; an empty text stands for the usual one.
 std::shared_ptr<SpeechEngine> install(std::shared_ptr<SpeechEngine> engine, std::string why = {});
 
 /// Why there is no engine, in a sentence for the user; empty when there is one.

@@ -61,10 +61,20 @@ TEST(axDateVoice, BuildsItsMenuOnceWhenItsPropertiesAreRead) {
     EXPECT_THAT(speech.take(), ElementsAre("A has the focus", "deDate.Activate true"));
     form.press("\t\t\t");
     EXPECT_THAT(speech.take(), ElementsAre("deDate.Activate false", "A lost the focus"));
-    form.date->DragonSpeechEnabled(false);
-    EXPECT_THAT(speech.take(), ElementsAre("Activate false"));
     form.read("DragonSpeechEnabled", false);
     EXPECT_THAT(speech.take(), ElementsAre("menu ends"));
+}
+
+TEST(axDateVoice, IsSilentWhileItIsSwitchedOffAndHasTheSameMenuAfterwards) {
+    Listening l;
+    l.form.date->NextFieldCommand("Further");
+    l.form.date->DragonSpeechEnabled(false);
+    EXPECT_THAT(l.speech.take(), ElementsAre("A lost the focus", "Activate false", "deDate.Activate false"));
+    l.form.press("\t\t\t");
+    l.form.date->SetElementFocus(1);
+    EXPECT_THAT(l.speech.take(), IsEmpty());
+    l.form.date->DragonSpeechEnabled(true);
+    EXPECT_THAT(l.speech.take(), ElementsAre("A has the focus", "Activate true", "deDate.Activate true"));
 }
 
 TEST(axDateVoice, TouchesNoPartOfTheEngineWhileItIsOff) {
@@ -199,9 +209,11 @@ TEST(axDateVoice, MayEndWhileItsWordsAreBeingHeard) {
 TEST(axDateVoice, WorksByHandAndSaysOnceWhyWhereThereIsNoEngineOrItRefuses) {
     static int run = 0;
     const std::string why = "The microphone is in repair for the " + std::to_string(++run) + ". time.";
-    const auto before = voice::install(nullptr, why);
     {
+        FakeSpeech gone;
         DateForm form;
+        form.read("DragonSpeechEnabled", true);
+        voice::install(nullptr, why);
         for (int i = 0; i < 2; ++i) {
             form.read("DragonSpeechEnabled", true);
             EXPECT_EQ(form.user->boxes.size(), i == 0 ? 0U : 1U) << "not while it is read";
@@ -212,7 +224,6 @@ TEST(axDateVoice, WorksByHandAndSaysOnceWhyWhereThereIsNoEngineOrItRefuses) {
         form.press("\t11152026\t");
         EXPECT_EQ(form.wholeDate(), "11/15/2026");
     }
-    voice::install(before);
     FakeSpeech speech;
     speech.unpronounceable = "Weiter";
     DateForm form;

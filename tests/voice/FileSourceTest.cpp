@@ -76,11 +76,15 @@ TEST_F(SoundFiles, AreTurnedIntoWhatRecognitionTakes) {
     }
     const auto high = readSoundFile(write("high.wav", wav(tone(15000, 48000, 1, 0.5), 48000, 1)));
     EXPECT_LT(loudness(high, 1000), 100) << "a tone above half the rate comes back as a low one";
+    const auto stereo = wav(tone(1000, 44100, 2, 0.5), 44100, 2);
+    EXPECT_EQ(readSoundFile(write("by another name", stereo)), readSoundFile(write("said.wav", stereo)));
     EXPECT_EQ(readSoundFile(write("two.raw", std::string("\x01\x00\xff\xff", 4))), (Sound{1, -1}));
 }
 
 TEST_F(SoundFiles, AreRefusedWithASentence) {
-    EXPECT_THROW(FileSource(dir.file("absent.wav")).Start(), RuntimeError);
+    for (const auto& file : {dir.file("absent.wav"), dir.path().string(), std::string("/dev/zero")})
+        EXPECT_THROW(FileSource(file).Start(), RuntimeError) << file;
+    EXPECT_THROW(readSoundFile(write("music.ogg", "OggS and so on")), RuntimeError);
     for (const auto& bytes : {std::string(), std::string("RIFF1234WAVE"), std::string("no sound at all"),
                               wav({1, 2}, 16000, 1, 24), wav({1, 2}, 16000, 0), wav({1, 2}, 5, 1),
                               wav({1}, 16000, 1).substr(0, 40)})

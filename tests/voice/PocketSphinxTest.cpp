@@ -67,6 +67,27 @@ TEST_F(SpeechHeard, IsDeliveredAsTheValuesOfADate) {
     EXPECT_EQ(ear->hear(said("next field")), Heard{"1"}) << "commands do without dictation";
 }
 
+TEST_F(SpeechHeard, GoesToNobodyOnceItsListenerHasEndedItself) {
+    const auto sound = said("next field"), date = said("may");
+    const auto say = [&](const Testing::Sound& words) {
+        ear->source->Push(words);
+        ear->loop->runUntil([] { return false; }, std::chrono::seconds(1));
+    };
+    // From within, as a message box would let it come.
+    const auto commanded = ear->commands->CommandRecognized.connect([&](std::int32_t) {
+        ear->menu.reset();
+        say(sound);
+    });
+    const auto dictated = ear->dictation->Dictated.connect([&](const std::string&) {
+        ear->dictation.reset();
+        say(date);
+    });
+    ear->microphone->On(true);
+    say(sound);
+    say(date);
+    EXPECT_EQ(ear->heard, (Heard{"1", "may"}));
+}
+
 TEST_F(SpeechHeard, MayHoldWordsOfTheHostsOwn) {
     ear->menu->Add(3, "Onwards, please!", "", "");
     ear->menu->Add(4, "Weiter 2", "", "");

@@ -32,14 +32,14 @@ DateVoice::~DateVoice() {
 /// The parts go with the engine that made them.
 std::shared_ptr<voice::SpeechEngine> DateVoice::engine() {
     const auto current = voice::current();
-    if (current == mEngine.lock()) return current;
+    if (current && current == mEngine.lock()) return current;
     mMenu.reset();
     VCmd.reset();
     deDate.reset();
     DgnMicBtn1.reset();
     mHasFocus = mIsDictating = false;
     mEngine = current;
-    if (current) watchFocus();
+    focusMoved(); // it may be there already
     return current;
 }
 
@@ -60,6 +60,7 @@ voice::DictationControl* DateVoice::dictation() {
 }
 
 void DateVoice::create() {
+    followFocus(true);
     const auto from = engine();
     if (!from) return;
     commands()->Initialize("", 1);
@@ -96,15 +97,16 @@ void DateVoice::activateDictation(bool on) {
     mWasAway = false;
 }
 
-void DateVoice::watchFocus() {
-    if (!mWatch) mWatch = connect(qApp, &QApplication::focusChanged, this, &DateVoice::focusMoved);
-    focusMoved(); // it may be there already
+void DateVoice::followFocus(bool on) {
+    if (on && !mWatch) mWatch = connect(qApp, &QApplication::focusChanged, this, &DateVoice::focusMoved);
+    if (!on) disconnect(mWatch);
+    focusMoved();
 }
 
 /// Also when another window came in front, which is no leaving: there, another control may have dictated.
 void DateVoice::focusMoved() {
     const QWidget* now = QApplication::focusWidget();
-    const bool has = now && mControl.isAncestorOf(now);
+    const bool has = mWatch && now && mControl.isAncestorOf(now);
     const auto from = mEngine.lock();
     if (has == mHasFocus || !from) return;
     mHasFocus = has;

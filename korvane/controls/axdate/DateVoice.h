@@ -34,6 +34,9 @@ class DateVoice : public QObject {
     void buildMenu(std::string_view nextField, std::string_view previousField);
     void dropMenu();
 
+    /// Whether the engine hears of the control's focus: for as long as the voice is on. Default false.
+    void followFocus(bool on);
+
     /// Listening for the commands starts and ends; does nothing where there is no menu.
     void activateMenu(bool on);
 
@@ -44,7 +47,6 @@ class DateVoice : public QObject {
     std::shared_ptr<voice::SpeechEngine> engine();
     voice::VoiceCommandControl* commands();
     voice::DictationControl* dictation();
-    void watchFocus();
     void focusMoved();
     void tellAbsence();
 

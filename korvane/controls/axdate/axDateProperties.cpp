@@ -157,6 +157,7 @@ void axDate::ReadProperties(const PropertyBag& bag) {
         mRequireFourDigitYear = readFlag(bag, "requireFourDigitYear");
         mEnlivened = readFlag(bag, "Enlivened");
         txtWholeDate->setEnabled(mEnlivened);
+        mVoice->followFocus(mDragonSpeechEnabled);
         mVoice->activateDictation(mDragonSpeechEnabled && mFocus->isInside());
         setupVoiceMenu();
     });

@@ -42,6 +42,7 @@ void axDate::setupVoiceMenu() {
 
 /// Switched off, it is silent at once, also with the focus inside.
 void axDate::switchVoice() {
+    mVoice->followFocus(mDragonSpeechEnabled);
     mVoice->activateMenu(mDragonSpeechEnabled);
     mVoice->activateDictation(mDragonSpeechEnabled && mFocus->isInside());
 }

@@ -20,7 +20,8 @@ class Microphone : public AudioSource {
     explicit Microphone(std::string device = {});
     ~Microphone() override;
 
-    /// Raises `RuntimeError` 57 when there is no microphone, none of that name, or it cannot be opened.
+    /// Raises `RuntimeError` 57 when there is no microphone, none of that name, or it cannot be opened;
+    /// always in a build without Qt Multimedia.
     void Start() override;
     void Stop() noexcept override;
     std::optional<std::size_t> Read(std::span<std::int16_t> samples,

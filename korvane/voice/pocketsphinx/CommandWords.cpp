@@ -42,7 +42,8 @@ std::string commandWords(std::string_view words) {
         else if (isPunctuation(c) || c == '\'')
             part();
         else
-            refuse(words, "the word \"" + wordAround(words, i) + "\" has a letter that is not English.");
+            refuse(words, "the word \"" + wordAround(words, i) +
+                              "\" has a letter or a sign that is not said in English.");
     }
     said = trim(said);
     if (said.empty()) refuse(words, "it has no words.");

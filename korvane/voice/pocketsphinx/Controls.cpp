@@ -26,10 +26,8 @@ class Menu : public VoiceMenu {
     Menu(std::weak_ptr<Audience> audience, std::shared_ptr<Audience::Menu> menu)
         : mAudience(std::move(audience)), mMenu(std::move(menu)) {}
 
-    ~Menu() override {
-        mMenu.reset();
-        changed(mAudience);
-    }
+    /// Whoever is just being told of a command may still hold it.
+    ~Menu() override { Menu::Activate(false); }
 
     void Add(std::int32_t number, std::string_view words, std::string_view, std::string_view) override {
         mMenu->commands.push_back({number, commandWords(words)});
@@ -75,10 +73,7 @@ class DateDictation : public DictationControl {
     explicit DateDictation(std::weak_ptr<Audience> audience) : mAudience(std::move(audience)) {
         mDictation->dictated = [this](const std::string& words) { Dictated.raise(words); };
     }
-    ~DateDictation() override {
-        mDictation.reset();
-        changed(mAudience);
-    }
+    ~DateDictation() override { DateDictation::Activate(false); }
 
     void Register() override {}
     std::int32_t Language() const override { return usEnglish; }
