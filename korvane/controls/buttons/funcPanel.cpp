@@ -67,6 +67,15 @@ void funcPanel::setButtonCount(int count) {
     emit PropertyChanged(QStringLiteral("buttonCount"));
 }
 
+/// A form that is being loaded has given the control its size before.
+void funcPanel::givenButtonCount(int count) {
+    const QSize given = size();
+    setButtonCount(count);
+    if (testAttribute(Qt::WA_WState_Polished)) return;
+    resize(given);
+    arrange();
+}
+
 /// Empty for a count that will do.
 QString funcPanel::refusal(int count) {
     if (count < 1) return QStringLiteral("buttonCount must be at least 1.");

@@ -35,7 +35,7 @@ class funcPanel : public ButtonPanel {
     Q_PROPERTY(bool btn5Enabled READ btn5Enabled STORED false)
     Q_PROPERTY(bool btnsFontBold READ btnsFontBold WRITE btnsFontBold STORED false)
     Q_PROPERTY(QString btnText5 READ btnText5 WRITE btnText5)
-    Q_PROPERTY(int buttonCount READ buttonCount WRITE setButtonCount)
+    Q_PROPERTY(int buttonCount READ buttonCount WRITE givenButtonCount)
     Q_PROPERTY(ButtonStyle buttonStyle READ styleCode WRITE styleCode)
     Q_PROPERTY(QString FrameCaption READ FrameCaption WRITE FrameCaption)
     Q_PROPERTY(bool Enabled READ Enabled WRITE Enabled STORED false)
@@ -77,6 +77,8 @@ class funcPanel : public ButtonPanel {
     /// More buttons are shown at once, and share the frame's height less 500 until the control is resized.
     /// Fewer hide none: the next resize does. In either case the control becomes as high as to end 350 below
     /// the last of them; that is a resize, which takes effect with the next turn of the event loop.
+    /// Set through Qt's property system before the control was first shown, as a form does that is being
+    /// loaded, the control keeps its size, and exactly so many buttons show.
     qint16 buttonCount() const { return mCount; }
     void buttonCount(qint16 count) { setButtonCount(count); }
 
@@ -123,6 +125,7 @@ class funcPanel : public ButtonPanel {
     void backColour(const QColor& colour) { BackColor(codeOf(colour)); }
     void resetBackColour() { BackColor(buttonFace); }
     void setButtonCount(int count);
+    void givenButtonCount(int count);
     ButtonStyle styleCode() const { return static_cast<ButtonStyle>(mStyle); }
     void styleCode(ButtonStyle style) { buttonStyle(static_cast<qint16>(style)); }
     FontSize frameFontCode() const { return static_cast<FontSize>(mFrameFontSize); }

@@ -22,7 +22,7 @@ namespace Korvane {
 namespace {
 
 constexpr int leastList = 3 * Twips::oneLine;
-constexpr int roomyEntry = 1800;
+constexpr int roomyNewValue = 1800;
 constexpr int leastButton = 800;
 
 class OneItem : public QValidator {
@@ -90,7 +90,7 @@ void ValueList::arrangeFor(int width) {
 }
 
 int ValueList::wideWidth() const {
-    return Twips(*this).px(roomyEntry) + mEntryRow->spacing() + mButtonWidth;
+    return Twips(*this).px(roomyNewValue) + mEntryRow->spacing() + mButtonWidth;
 }
 
 void ValueList::changeEvent(QEvent* event) {

@@ -39,7 +39,7 @@ class dbxadmin : public UserControl {
     Q_PROPERTY(QString fldCaption2 READ fldCaption2 WRITE fldCaption2)
     Q_PROPERTY(QString fldCaption3 READ fldCaption3 WRITE fldCaption3)
     Q_PROPERTY(QString fldCaption4 READ fldCaption4 WRITE fldCaption4)
-    Q_PROPERTY(QVariant fldCode READ fldCode WRITE fldCode STORED false)
+    Q_PROPERTY(QVariant fldCode READ fldCode WRITE fldCode DESIGNABLE false STORED false)
     Q_PROPERTY(QString ListBoxText READ ListBoxText WRITE ListBoxText)
     Q_PROPERTY(QString ListData READ ListData WRITE ListData)
     Q_PROPERTY(QString fldName READ fldName WRITE fldName)
