@@ -4,6 +4,7 @@
 # Sources that give a name the meaning that fits them, as another of their folder does: they are compiled by themselves.
 set(alone apps/clinic/Help.cpp apps/clinic/Options.cpp apps/clinic/sample/LformsPanel.cpp apps/clinic/tour/CustomizingSteps.cpp
     korvane/ado/postgres/Settings.cpp korvane/ado/postgres/Types.cpp korvane/controls/buttons/movebtn.cpp
+    korvane/controls/dbxadmin/ValueListParts.cpp
     korvane/nip/LoadStructure.cpp korvane/records/Encounter.cpp tests/controls/axDateTest.cpp tests/fuzz/Keeping.cpp
     tests/fuzz/Selecting.cpp korvane/voice/pocketsphinx/Grammar.cpp)
 list(TRANSFORM alone PREPEND ${PROJECT_SOURCE_DIR}/)
