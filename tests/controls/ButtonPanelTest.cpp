@@ -59,16 +59,17 @@ TEST(ButtonPanel, EachClickIsHeardOnceButNoneInDesignMode) {
         form.press(Qt::Key_Return);
         form.press(Qt::Key_Enter, Qt::KeypadModifier);
         form.press(Qt::Key_S, Qt::AltModifier);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+        QCoreApplication::sendEvent(&form.button(4), &held);
     };
     clickAll();
-    EXPECT_THAT(form.heard(5), ElementsAre(2, 2, 1, 1, 4));
+    EXPECT_THAT(form.heard(), ElementsAre(2, 2, 1, 1, 4));
     EXPECT_EQ(form.focus(), 4) << "the accelerator has moved it";
     form.panel->btnDisable(2);
     QTest::mouseClick(&form.button(2), Qt::LeftButton);
     form.panel->setDesignMode(true);
     clickAll();
-    QTest::qWait(150); // as long as an accelerator holds the button down
-    EXPECT_THAT(form.heard(0), IsEmpty());
+    EXPECT_THAT(form.heard(), IsEmpty());
 }
 
 TEST(ButtonPanel, WhatRefusesToLetTheFocusGoHoldsTheAcceleratorUp) {
@@ -80,11 +81,10 @@ TEST(ButtonPanel, WhatRefusesToLetTheFocusGoHoldsTheAcceleratorUp) {
     date.SetElementFocus(0);
     QTest::keyClicks(QApplication::focusWidget(), "13");
     form.press(Qt::Key_N, Qt::AltModifier);
-    QTest::qWait(150);
-    EXPECT_THAT(form.heard(0), IsEmpty());
+    EXPECT_THAT(form.heard(), IsEmpty());
     date.month("12");
     form.press(Qt::Key_N, Qt::AltModifier);
-    EXPECT_THAT(form.heard(1), ElementsAre(2));
+    EXPECT_THAT(form.heard(), ElementsAre(2));
 }
 
 TEST(ButtonPanel, KeepsTheFocusWhileAnyOfItsButtonsCanHaveIt) {
@@ -95,6 +95,11 @@ TEST(ButtonPanel, KeepsTheFocusWhileAnyOfItsButtonsCanHaveIt) {
     form.panel->buttonCount(2);
     QCoreApplication::processEvents();
     EXPECT_EQ(form.focus(), 1);
+    form.panel->Focus(3);
+    form.panel->buttonCount(4);
+    EXPECT_EQ(form.focus(), 1) << "not to the one that was hidden when it was asked for";
+    form.panel->buttonCount(2);
+    QCoreApplication::processEvents();
     form.panel->btnDisable(0);
     form.panel->btnDisable(1);
     EXPECT_EQ(form.focus(), 9);
@@ -108,14 +113,14 @@ TEST(ButtonPanel, KeepsTheFocusWhileAnyOfItsButtonsCanHaveIt) {
 TEST(ButtonPanel, IsTheDefaultOfADialogOnlyWhileItHasTheFocus) {
     ButtonForm<movebtn, QDialog> form;
     form.press(Qt::Key_Return);
-    EXPECT_THAT(form.heard(0), IsEmpty()) << "in the text box before";
+    EXPECT_THAT(form.heard(), IsEmpty()) << "in the text box before";
     auto* ok = new QPushButton("OK", &form.form);
     ok->setDefault(true);
     form.panel->Focus(1);
     EXPECT_TRUE(static_cast<QPushButton&>(form.button(1)).isDefault());
     EXPECT_FALSE(ok->isDefault());
     form.press(Qt::Key_Return);
-    EXPECT_THAT(form.heard(1), ElementsAre(1));
+    EXPECT_THAT(form.heard(), ElementsAre(1));
     form.after->setFocus();
     EXPECT_TRUE(ok->isDefault());
     EXPECT_FALSE(static_cast<QPushButton&>(form.button(1)).isDefault());

@@ -44,16 +44,23 @@ TEST(ValueList, RemovesWhatIsSelectedByTheButtonAndByDelete) {
     EXPECT_THAT(desk.heard(), ElementsAre("ListData"));
     desk.clickItem(0);
     desk.press(Qt::Key_Down);
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, {}, true);
-    QCoreApplication::sendEvent(&desk.list(), &held);
+    const auto hold = [&desk](Qt::Key key) {
+        QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &held);
+    };
+    hold(Qt::Key_Delete);
     EXPECT_EQ(desk.items(), "[a][c]");
     desk.press(Qt::Key_Delete);
     EXPECT_EQ(desk.items(), "[a]");
     desk.button().setFocus();
+    hold(Qt::Key_Return);
+    EXPECT_EQ(desk.items(), "[a]");
     desk.press(Qt::Key_Return);
     EXPECT_EQ(desk.items() + utf8(desk.admin->ListData()), "");
     EXPECT_EQ(desk.says(), "-Remove from List");
     EXPECT_EQ(desk.focus(), "lstAddtoList");
+    hold(Qt::Key_Return);
+    EXPECT_THAT(desk.heard(), testing::Not(testing::Contains("ok"))) << "held down still";
 }
 
 TEST(ValueList, TheButtonDoesWhatTheUserWentToLast) {
@@ -148,6 +155,25 @@ TEST(ValueList, CanBeEditedOnlyForAListBoxThatTheFormLetsBeEdited) {
     desk.admin->displayType(1);
     desk.admin->UpdateEnabled(true);
     EXPECT_FALSE(editable());
+}
+
+TEST(ValueList, LeavesNoOthersValuesInSightWhereTheyAreNotUsed) {
+    AdminDesk desk;
+    desk.admin->disableAddToList();
+    EXPECT_EQ(desk.items(), "[a][b][c]") << "a list box, which is only not to be edited";
+    desk.admin->displayType(1);
+    desk.admin->disableAddToList();
+    EXPECT_EQ(desk.items() + utf8(desk.admin->ListData()), "a/b/c");
+    desk.admin->UpdateEnabled(false);
+    desk.admin->displayType(3);
+    desk.admin->EnableAddToList();
+    EXPECT_EQ(desk.items(), "[a][b][c]") << "of use again";
+    desk.admin->displayType(1);
+    desk.admin->ListData("");
+    desk.admin->disableAddToList();
+    desk.admin->displayType(3);
+    desk.admin->EnableAddToList();
+    EXPECT_EQ(desk.items(), "") << "of the next field, which has none";
 }
 
 } // namespace Korvane

@@ -44,7 +44,10 @@ PanelButton& ButtonPanel::button(int index) const {
 }
 
 void ButtonPanel::Focus(qint16 index) {
-    button(index).setFocus();
+    // A hidden one would take it when it is shown, from wherever the user is by then.
+    PanelButton& wanted = button(index);
+    const bool away = wanted.isHidden() && wanted.testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (!away) wanted.setFocus();
 }
 
 QString ButtonPanel::caption(int index) const {

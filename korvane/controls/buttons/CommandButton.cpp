@@ -2,10 +2,24 @@
 
 #include <QFocusEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QShortcutEvent>
 #include <QStyleOptionButton>
 #include <QToolTip>
 
 namespace Korvane {
+
+namespace {
+
+/// As it is shown: without the mark of its accelerator, and one ampersand for two.
+QString withoutMark(QString caption) {
+    for (qsizetype at = 0; (at = caption.indexOf(u'&', at)) >= 0; ++at)
+        caption.remove(at, 1);
+    return caption;
+}
+
+} // namespace
 
 CommandButton::CommandButton(QWidget* parent) : QPushButton(parent) {
     setAutoDefault(false);
@@ -14,8 +28,9 @@ CommandButton::CommandButton(QWidget* parent) : QPushButton(parent) {
 bool CommandButton::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::Shortcut:
-        setFocus(Qt::ShortcutFocusReason);
-        return !hasFocus() || QPushButton::event(event);
+        if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) break;
+        goThereAndClick();
+        return true;
     case QEvent::ToolTip:
         if (!toolTip().isEmpty()) break;
         showWholeCaption(static_cast<QHelpEvent*>(event)->globalPos());
@@ -26,10 +41,23 @@ bool CommandButton::event(QEvent* event) {
     return QPushButton::event(event);
 }
 
+/// Qt would show the button pressed for a while and click it then, whether or not it can still be clicked.
+void CommandButton::goThereAndClick() {
+    const QPointer<CommandButton> self = this;
+    setFocus(Qt::ShortcutFocusReason);
+    if (self && hasFocus()) click();
+}
+
+/// Enter that is held down would go on clicking, and with "Remove from List" empty the list.
+void CommandButton::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || !event->isAutoRepeat()) QPushButton::keyPressEvent(event);
+}
+
 void CommandButton::showWholeCaption(const QPoint& at) {
     QStyleOptionButton option;
     initStyleOption(&option);
-    if (option.text != text()) QToolTip::showText(at, text().remove(u'&'), this);
+    if (option.text != text()) QToolTip::showText(at, withoutMark(text()), this);
 }
 
 /// A dialog that has no default button of its own takes the first one that may become it by itself: this one

@@ -4,12 +4,15 @@
 
 namespace Korvane {
 
+/// The room in twips that one caption asks for at most: none makes a form wider than the screen.
+constexpr int widestCaption = 6000;
+
 /// A button on a form. What is more than a push button:
 ///
-/// - Enter clicks it while it has the focus, and it shows the mark of the default button then. It never
-///   becomes the default button of a dialog otherwise: Enter in a text box does not reach it.
-/// - Its accelerator gives it the focus before the click: what refuses to let the focus go holds the click
-/// up.
+/// - Enter clicks it while it has the focus, once for each press, and it shows the mark of the default button
+///   then. It never becomes the default button of a dialog otherwise: Enter in a text box does not reach it.
+/// - Its accelerator gives it the focus and clicks it, both at once: what refuses to let the focus go holds
+///   the click up, and a button that has been disabled since is never clicked.
 /// - A caption that has no room is shortened and shown whole as a tool tip.
 class CommandButton : public QPushButton {
     Q_OBJECT
@@ -19,12 +22,14 @@ class CommandButton : public QPushButton {
 
   protected:
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void initStyleOption(QStyleOptionButton* option) const override;
     virtual QFont captionFont() const { return font(); }
 
   private:
+    void goThereAndClick();
     void showWholeCaption(const QPoint& at);
 };
 

@@ -24,9 +24,18 @@ void ValueList::setData(const QString& text) {
 }
 
 void ValueList::clear() {
+    hideData();
+    mData.clear();
+}
+
+void ValueList::hideData() {
     const QSignalBlocker quiet(lstAddtoList);
     lstAddtoList->clear();
-    mData.clear();
+}
+
+/// A text that is not empty has values: where none are shown, they were hidden.
+void ValueList::showData() {
+    if (lstAddtoList->count() == 0) setData(mData);
 }
 
 QString ValueList::entryText() const {
@@ -119,12 +128,13 @@ bool ValueList::eventFilter(QObject* watched, QEvent* event) {
 }
 
 /// Enter does not reach the default button of a dialog, not even from an empty box: it may be one too many.
-/// A Delete that is held down removes one value, not all of them.
+/// A Delete that is held down removes one value, not all of them; nor does an Enter that emptied the list by
+/// the button, and is still held down, reach the dialog from it.
 bool ValueList::take(const QObject* part, const QKeyEvent& key) {
     const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (part == txtAddtoList && enter) {
-        add();
+    if (enter && (part == txtAddtoList || key.isAutoRepeat())) {
+        if (!key.isAutoRepeat()) add();
         return true;
     }
     if (part != lstAddtoList || key.key() != Qt::Key_Delete || !plain) return false;

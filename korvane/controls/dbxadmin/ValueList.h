@@ -32,6 +32,9 @@ class ValueList : public QWidget {
     void setData(const QString& text);
     /// No values, and an empty text.
     void clear();
+    /// Shows no values, but keeps the text; and shows them again where that was done.
+    void hideData();
+    void showData();
 
     /// The text in the entry box; setting it is no typing.
     QString entryText() const;

@@ -74,11 +74,14 @@ void dbxadmin::enableEntries() {
 }
 
 void dbxadmin::enableList() {
-    mForm->values().setEditable(mUpdateEnabled && mAddToList && displayType() == ListBox);
+    const bool used = mAddToList && displayType() == ListBox;
+    if (used) mForm->values().showData();
+    mForm->values().setEditable(mUpdateEnabled && used);
 }
 
 void dbxadmin::setAddToList(bool on) {
     mAddToList = on;
+    if (!on && displayType() != ListBox) mForm->values().hideData();
     enableList();
 }
 
