@@ -88,6 +88,13 @@ TEST(PropertyBag, WrittenByHandLoadsWithDefaultsAndSaysWhatIsWrong) {
               "btnText2 holds [\"a\",\"b\"]: that is no text, \"2\" is used\n"
               "buttonCount holds 9: buttonCount must not be greater than 5. 5 is used\n"
               "buttonStyle holds 70000: that is no whole number of 16 bits, 1 is used");
+    EXPECT_EQ(panel.BackColor(), buttonFace);
+    const auto other = PropertyBag::fromJson({{"BackColor", 4294967551.0}, {"FrameFontSize", -3}});
+    panel.ReadProperties(other);
+    EXPECT_EQ(panel.BackColor(), buttonFace);
+    EXPECT_EQ(other.problems().join('\n').toStdString(),
+              "BackColor holds 4294967551: that has more than 32 bits, the button face is used\n"
+              "FrameFontSize holds -3: that is no size, 1 is used");
 }
 
 TEST(PropertyBag, TakesOnlyABooleanForABoolean) {

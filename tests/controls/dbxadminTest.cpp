@@ -129,6 +129,10 @@ TEST(dbxadmin, KeepsACodeThatItDoesNotKnowUntilAnotherIsChosen) {
         EXPECT_EQ(types.placeholderText(), code == -1 ? QString(" ") : QString::number(code));
         EXPECT_FALSE(desk.list().isEnabled());
     }
+    for (const char* name : {"displayType", "FieldRequired", "ListMode"})
+        desk.admin->setProperty(name, 65536 + 1);
+    EXPECT_EQ(desk.admin->displayType() + desk.admin->FieldRequired(), -2) << "no 16-bit numbers";
+    EXPECT_EQ(desk.admin->ListMode(), 0);
     types.setFocus();
     desk.press(Qt::Key_End);
     EXPECT_EQ(desk.admin->displayType(), dbxadmin::Email);

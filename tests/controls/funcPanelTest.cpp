@@ -1,8 +1,11 @@
 #include "support/ButtonForm.h"
 
+#include <korvane/controls/buttons/CommandButton.h>
 #include <korvane/controls/buttons/funcPanel.h>
 
+#include <QHelpEvent>
 #include <QMetaProperty>
+#include <QToolTip>
 
 namespace Korvane {
 
@@ -43,6 +46,11 @@ TEST(funcPanel, DividesAResizedControlAmongItsButtons) {
         made.resize(300, 3000);
         made.resize(3000, 600);
         EXPECT_TRUE(made.isAt(made.frame(), 5, 25, row.frameWidth, row.frameHeight)) << "too small to follow";
+        for (const int points : {9, 10, 12, 18}) { // a twip is a fraction of a pixel
+            made.panel.setFont(QFont(made.panel.font().family(), points));
+            made.resize(350, 650);
+            EXPECT_TRUE(made.isAt(made.frame(), 5, 25, 340, 600)) << points;
+        }
     }
 }
 
@@ -61,6 +69,11 @@ TEST(funcPanel, ShowsMoreButtonsAtOnceAndFewerWithTheNextResize) {
     EXPECT_FALSE(made.button(4).isVisible());
     EXPECT_TRUE(made.isAt(made.button(3), 150, 345 + 3 * (775 + 40), 2700, (3600 - 500) / 4));
     EXPECT_NEAR(made.panel.height(), made.twips().px(345 + 4 * 775 + 3 * 40 + 350), 1);
+    made.panel.setFixedSize(made.panel.size());
+    made.panel.buttonCount(1);
+    EXPECT_TRUE(made.button(3).isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(made.button(1).isVisible()) << "its height is what it was";
 }
 
 TEST(funcPanel, RefusesACountWithoutButtonsOrWithMoreThanItHas) {
@@ -71,6 +84,9 @@ TEST(funcPanel, RefusesACountWithoutButtonsOrWithMoreThanItHas) {
     form.panel->buttonCount(0);
     form.panel->buttonCount(6);
     form.panel->setProperty("buttonCount", 65536 + 2);
+    for (const char* code : {"buttonStyle", "FrameFontSize", "ButtonFontSize"})
+        form.panel->setProperty(code, 65536);
+    EXPECT_EQ(form.panel->buttonStyle() + form.panel->FrameFontSize() + form.panel->ButtonFontSize(), 3);
     EXPECT_EQ(form.panel->buttonCount(), 3);
     EXPECT_EQ(form.panel->height(), height);
     EXPECT_THAT(marked.names, IsEmpty());
@@ -124,6 +140,18 @@ TEST(funcPanel, TakesItsFontsByCodeAndGrowsWithALargeForm) {
     EXPECT_GT(made.button(3).width(), text.horizontalAdvance("Sign and close"));
     EXPECT_GT(made.button(3).height(), text.height());
     EXPECT_GT(made.button(0).y(), made.frame().fontMetrics().height()) << "below the frame's caption";
+}
+
+TEST(funcPanel, ShortensACaptionThatHasNoRoomAndTellsAllOfIt) {
+    funcPanel panel;
+    panel.FrameCaption(QString(5000, 'W'));
+    panel.btnText1("Salt && &Pepper" + QString(5000, 'W'));
+    EXPECT_LT(panel.minimumSizeHint().width(), 2 * Twips(panel).px(widestCaption));
+    QWidget& button = ButtonForm<funcPanel>::buttonOf(panel, 0);
+    QHelpEvent asked(QEvent::ToolTip, {}, {});
+    QCoreApplication::sendEvent(&button, &asked);
+    EXPECT_EQ(QToolTip::text(), "Salt & Pepper" + QString(5000, 'W'));
+    QToolTip::hideText();
 }
 
 TEST(funcPanel, WritesItsCaptionSoThatItCanBeReadOnTheBackColour) {

@@ -4,7 +4,6 @@ namespace Korvane {
 
 namespace {
 
-constexpr QSize smallest(350, 650);
 constexpr QSize aroundFrame(10, 50);
 constexpr QSize aroundButtons(300, 600);
 constexpr int aroundButtonsWhenDivided = 500;
@@ -19,8 +18,7 @@ int below(const QRect& rect) {
 
 } // namespace
 
-bool ButtonColumn::fit(QSize control, int count) {
-    if (control.height() < smallest.height() || control.width() < smallest.width()) return false;
+void ButtonColumn::fit(QSize control, int count) {
     frame.setSize(control - aroundFrame);
     const int width = frame.width() - aroundButtons.width();
     for (std::size_t i = 0; i < most; ++i) {
@@ -32,7 +30,6 @@ bool ButtonColumn::fit(QSize control, int count) {
         buttons[i].moveLeft((frame.width() - width) / 2);
     }
     stack(count, (frame.height() - aroundButtons.height()) / count);
-    return true;
 }
 
 void ButtonColumn::divide(int count) {

@@ -14,12 +14,14 @@ namespace Korvane {
 /// twips of it to the caption and the edges, a raised count of buttons 500.
 struct ButtonColumn {
     static constexpr int most = 5;
+    /// A smaller control is not followed.
+    static constexpr QSize smallest{350, 650};
 
     QRect frame{5, 25, 0, 0};
     std::array<QRect, most> buttons{};
 
-    /// Follows the control. False when that is too small: nothing has changed then.
-    bool fit(QSize control, int count);
+    /// Follows the control.
+    void fit(QSize control, int count);
     /// Makes room for more buttons in the frame as it is; their widths stay.
     void divide(int count);
     /// The height of a control that ends below button `count` - 1.

@@ -1,6 +1,7 @@
 #include <korvane/controls/buttons/PanelButton.h>
 
 #include <korvane/controls/buttons/ButtonFocus.h>
+#include <korvane/controls/container/Twips.h>
 
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
@@ -33,7 +34,8 @@ void PanelButton::setSymbol(std::optional<MoveSymbol> symbol) {
 QSize PanelButton::sizeHint() const {
     const QSize natural = CommandButton::sizeHint();
     if (mSymbol) return {natural.height() * 3 / 2, natural.height()};
-    return natural + QSize(2 * fontMetrics().averageCharWidth(), 0);
+    const int width = natural.width() + 2 * fontMetrics().averageCharWidth();
+    return {qMin(width, Twips(*this).px(widestCaption)), natural.height()};
 }
 
 QSize PanelButton::minimumSizeHint() const {

@@ -1,9 +1,18 @@
 #include <korvane/controls/buttons/PanelFrame.h>
 
+#include <korvane/controls/buttons/CommandButton.h>
+#include <korvane/controls/container/Twips.h>
+
 #include <QStyleOptionGroupBox>
 #include <QStylePainter>
 
 namespace Korvane {
+
+QSize PanelFrame::minimumSizeHint() const {
+    QSize all = QGroupBox::minimumSizeHint();
+    all.setWidth(qMin(all.width(), Twips(*this).px(widestCaption)));
+    return all.expandedTo(QWidget::minimumSizeHint());
+}
 
 void PanelFrame::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);

@@ -10,6 +10,8 @@ class PanelFrame : public QGroupBox {
   public:
     using QGroupBox::QGroupBox;
 
+    QSize minimumSizeHint() const override;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 };

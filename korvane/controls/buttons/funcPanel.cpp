@@ -46,12 +46,12 @@ funcPanel::funcPanel(QWidget* parent) : ButtonPanel(most, QStringLiteral("cmdBut
 }
 
 void funcPanel::setButtonCount(int count) {
-    if (size() != mArranged) arrange();
     const QString why = refusal(count);
     if (!why.isEmpty()) {
         Interaction::current().MsgBox(utf8(why), MsgBoxStyle::OkOnly, {});
         return;
     }
+    if (size() != mArranged) arrange();
     const int before = std::exchange(mCount, static_cast<qint16>(count));
     if (count > before) {
         mColumn.divide(count);
@@ -63,6 +63,8 @@ void funcPanel::setButtonCount(int count) {
         const QScopedValueRollback later(mArrangesLater, true);
         resize(width(), Twips(*this).px(mColumn.heightFor(count)));
     }
+    QMetaObject::invokeMethod(
+        this, [this] { arrange(); }, Qt::QueuedConnection);
     updateGeometry();
     emit PropertyChanged(QStringLiteral("buttonCount"));
 }
@@ -115,13 +117,9 @@ void funcPanel::showFonts() {
         setBold(i, button(i).font().bold());
 }
 
-/// A count that was set shows its buttons as they are until it is heard of.
+/// The resize of a count that was set shows the buttons as they are until the next turn of the event loop.
 void funcPanel::resizeEvent(QResizeEvent* event) {
-    if (mArrangesLater)
-        QMetaObject::invokeMethod(
-            this, [this] { arrange(); }, Qt::QueuedConnection);
-    else
-        ButtonPanel::resizeEvent(event);
+    if (!mArrangesLater) ButtonPanel::resizeEvent(event);
 }
 
 void funcPanel::changeEvent(QEvent* event) {
@@ -132,7 +130,10 @@ void funcPanel::changeEvent(QEvent* event) {
 
 void funcPanel::arrange() {
     mArranged = size();
-    if (!mColumn.fit(inTwips(), mCount)) return;
+    const Twips twips(*this);
+    const QSize least = ButtonColumn::smallest;
+    if (width() < twips.px(least.width()) || height() < twips.px(least.height())) return;
+    mColumn.fit(inTwips().expandedTo(least), mCount); // which may be a few less, a pixel being many
     for (int i = 0; i < most; ++i)
         button(i).setVisible(i < mCount);
     placeAll();

@@ -3,6 +3,7 @@
 #include <korvane/controls/buttons/BackColour.h>
 #include <korvane/controls/buttons/ButtonColumn.h>
 #include <korvane/controls/buttons/ButtonPanel.h>
+#include <korvane/controls/container/Code.h>
 
 #include <QColor>
 #include <QString>
@@ -43,9 +44,9 @@ class funcPanel : public ButtonPanel {
     Q_PROPERTY(FontSize ButtonFontSize READ buttonFontCode WRITE buttonFontCode)
 
   public:
-    enum ButtonStyle { Flat = 0, ThreeDimensional = 1 };
+    enum ButtonStyle : int { Flat = 0, ThreeDimensional = 1 };
     Q_ENUM(ButtonStyle)
-    enum FontSize { EightPoints = 0, TenPoints = 1, TwelvePoints = 2 };
+    enum FontSize : int { EightPoints = 0, TenPoints = 1, TwelvePoints = 2 };
     Q_ENUM(FontSize)
 
     explicit funcPanel(QWidget* parent = nullptr);
@@ -76,7 +77,8 @@ class funcPanel : public ButtonPanel {
     ///
     /// More buttons are shown at once, and share the frame's height less 500 until the control is resized.
     /// Fewer hide none: the next resize does. In either case the control becomes as high as to end 350 below
-    /// the last of them; that is a resize, which takes effect with the next turn of the event loop.
+    /// the last of them; that is a resize, which takes effect with the next turn of the event loop, also
+    /// where something else keeps the height as it was.
     /// Set through Qt's property system before the control was first shown, as a form does that is being
     /// loaded, the control keeps its size, and exactly so many buttons show.
     qint16 buttonCount() const { return mCount; }
@@ -127,15 +129,22 @@ class funcPanel : public ButtonPanel {
     void setButtonCount(int count);
     void givenButtonCount(int count);
     ButtonStyle styleCode() const { return static_cast<ButtonStyle>(mStyle); }
-    void styleCode(ButtonStyle style) { buttonStyle(static_cast<qint16>(style)); }
+    void styleCode(ButtonStyle style) {
+        if (const auto code = codeFrom(style, "buttonStyle")) buttonStyle(*code);
+    }
     FontSize frameFontCode() const { return static_cast<FontSize>(mFrameFontSize); }
-    void frameFontCode(FontSize code) { FrameFontSize(static_cast<qint16>(code)); }
+    void frameFontCode(FontSize size) {
+        if (const auto code = codeFrom(size, "FrameFontSize")) FrameFontSize(*code);
+    }
     FontSize buttonFontCode() const { return static_cast<FontSize>(mButtonFontSize); }
-    void buttonFontCode(FontSize code) { ButtonFontSize(static_cast<qint16>(code)); }
+    void buttonFontCode(FontSize size) {
+        if (const auto code = codeFrom(size, "ButtonFontSize")) ButtonFontSize(*code);
+    }
 
     void setButtonEnabled(int index, bool on);
     void setBold(int index, bool bold);
     static QString refusal(int count);
+    void readBackColor(const PropertyBag& bag);
     void readCount(const PropertyBag& bag);
     void showBackColour();
     void showStyle();

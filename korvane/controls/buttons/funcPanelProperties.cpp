@@ -1,11 +1,11 @@
 #include <korvane/controls/buttons/funcPanel.h>
 
 #include <korvane/controls/buttons/PanelButton.h>
-#include <korvane/controls/container/ReadCode.h>
 
 #include <QGroupBox>
 
 #include <algorithm>
+#include <limits>
 
 namespace Korvane {
 
@@ -19,6 +19,13 @@ const QStringList& captions() {
 /// What a code is taken for, where it is one.
 void takeSize(qint16& size, qint16 code) {
     if (code >= 0) size = std::min<qint16>(code, funcPanel::TwelvePoints);
+}
+
+void readSize(qint16& size, const PropertyBag& bag, const char* name) {
+    const qint16 code = readCode(bag, name, funcPanel::TenPoints);
+    if (code < 0)
+        bag.addProblem(QLatin1String(name), QStringLiteral("that is no size, %1 is used").arg(size));
+    takeSize(size, code);
 }
 
 } // namespace
@@ -82,6 +89,15 @@ void funcPanel::InitProperties() {
     buttonCount(most);
 }
 
+/// Written by hand it may be the number without a sign.
+void funcPanel::readBackColor(const PropertyBag& bag) {
+    const qlonglong code = bag.ReadProperty("BackColor", qlonglong{buttonFace}).toLongLong();
+    const bool fits =
+        code >= std::numeric_limits<qint32>::min() && code <= std::numeric_limits<quint32>::max();
+    if (!fits) bag.addProblem("BackColor", "that has more than 32 bits, the button face is used");
+    mBackColor = fits ? static_cast<qint32>(code) : buttonFace;
+}
+
 /// A count that would be refused is one of the bag's problems: no form opens with a message box.
 void funcPanel::readCount(const PropertyBag& bag) {
     const qint16 count = readCode(bag, "buttonCount", most);
@@ -92,12 +108,12 @@ void funcPanel::readCount(const PropertyBag& bag) {
 
 /// The control keeps its size, which is the host's to restore.
 void funcPanel::ReadProperties(const PropertyBag& bag) {
-    mBackColor = static_cast<qint32>(bag.ReadProperty("BackColor", qlonglong{buttonFace}).toLongLong());
+    readBackColor(bag);
     readCaptions(bag, captions());
     mStyle = readCode(bag, "buttonStyle", ThreeDimensional);
     frame().setTitle(bag.ReadProperty("FrameCaption", "Function Btn").toString());
-    takeSize(mFrameFontSize, readCode(bag, "FrameFontSize", TenPoints));
-    takeSize(mButtonFontSize, readCode(bag, "ButtonFontSize", TenPoints));
+    readSize(mFrameFontSize, bag, "FrameFontSize");
+    readSize(mButtonFontSize, bag, "ButtonFontSize");
     readCount(bag);
     showBackColour();
     showStyle();

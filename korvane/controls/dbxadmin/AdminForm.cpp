@@ -115,13 +115,15 @@ int AdminForm::besideWidth() const {
 
 QSize AdminForm::sizeHint() const {
     const int line = txtFldName->sizeHint().height() + mRows->verticalSpacing();
-    return {besideWidth() + scrollBarWidth(), lines * line + mMoves->sizeHint().height()};
+    const int width = std::min(besideWidth(), Twips(*this).px(widest));
+    return {width + scrollBarWidth(), lines * line + mMoves->sizeHint().height()};
 }
 
 /// With everything below each other. What is lower is scrolled to.
 QSize AdminForm::minimumSizeHint() const {
     const int width = std::max(mMoves->minimumSizeHint().width(), cmdUpdate->minimumSizeHint().width());
-    return {width + scrollBarWidth(), Twips(*this).px(leastHeight)};
+    const Twips twips(*this);
+    return {std::min(width, twips.px(widestCaption)) + scrollBarWidth(), twips.px(leastHeight)};
 }
 
 void AdminForm::resizeEvent(QResizeEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <korvane/controls/container/Code.h>
 #include <korvane/controls/container/UserControl.h>
 
 #include <QString>
@@ -108,6 +109,9 @@ class dbxadmin : public UserControl {
 
     /// Lets the user edit the list, or not. Default on. On or off, it can be edited only while the display
     /// type is "List box" and updates are enabled.
+    ///
+    /// With any other display type, off empties the list that is shown: another field's values do not stay
+    /// there. `ListData` is kept, and shown again once the list can be used.
     void EnableAddToList() { setAddToList(true); }
     void disableAddToList() { setAddToList(false); }
 
@@ -158,11 +162,17 @@ class dbxadmin : public UserControl {
 
   private:
     DisplayType displayTypeCode() const { return static_cast<DisplayType>(displayType()); }
-    void displayTypeCode(DisplayType type) { displayType(static_cast<qint16>(type)); }
+    void displayTypeCode(DisplayType type) {
+        if (const auto code = codeFrom(type, "displayType")) displayType(*code);
+    }
     Requirement requirementCode() const { return static_cast<Requirement>(FieldRequired()); }
-    void requirementCode(Requirement required) { FieldRequired(static_cast<qint16>(required)); }
+    void requirementCode(Requirement required) {
+        if (const auto code = codeFrom(required, "FieldRequired")) FieldRequired(*code);
+    }
     ListAction listActionCode() const { return static_cast<ListAction>(ListMode()); }
-    void listActionCode(ListAction action) { ListMode(static_cast<qint16>(action)); }
+    void listActionCode(ListAction action) {
+        if (const auto code = codeFrom(action, "ListMode")) ListMode(*code);
+    }
 
     QString caption(int index) const;
     void caption(int index, const QString& text);

@@ -1,6 +1,5 @@
 #include <korvane/controls/dbxadmin/dbxadmin.h>
 
-#include <korvane/controls/container/ReadCode.h>
 #include <korvane/controls/dbxadmin/AdminForm.h>
 #include <korvane/controls/dbxadmin/CodeBox.h>
 #include <korvane/controls/dbxadmin/MoveRow.h>
