@@ -59,6 +59,7 @@ TEST(ButtonPanel, EachClickIsHeardOnceButNoneInDesignMode) {
         form.press(Qt::Key_Return);
         form.press(Qt::Key_Enter, Qt::KeypadModifier);
         form.press(Qt::Key_S, Qt::AltModifier);
+        QTest::simulateEvent(&form.button(4), true, Qt::Key_S, Qt::AltModifier, "s", true);
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
         QCoreApplication::sendEvent(&form.button(4), &held);
     };

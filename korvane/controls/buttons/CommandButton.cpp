@@ -28,9 +28,7 @@ CommandButton::CommandButton(QWidget* parent) : QPushButton(parent) {
 bool CommandButton::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::Shortcut:
-        if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) break;
-        goThereAndClick();
-        return true;
+        return takeAccelerator(static_cast<QShortcutEvent&>(*event)) || QPushButton::event(event);
     case QEvent::ToolTip:
         if (!toolTip().isEmpty()) break;
         showWholeCaption(static_cast<QHelpEvent*>(event)->globalPos());
@@ -42,10 +40,14 @@ bool CommandButton::event(QEvent* event) {
 }
 
 /// Qt would show the button pressed for a while and click it then, whether or not it can still be clicked.
-void CommandButton::goThereAndClick() {
+/// One that several buttons have moves on among them.
+bool CommandButton::takeAccelerator(const QShortcutEvent& accelerator) {
+    if (accelerator.isAmbiguous()) return false;
+    setShortcutAutoRepeat(accelerator.shortcutId(), false);
     const QPointer<CommandButton> self = this;
     setFocus(Qt::ShortcutFocusReason);
     if (self && hasFocus()) click();
+    return true;
 }
 
 /// Enter that is held down would go on clicking, and with "Remove from List" empty the list.

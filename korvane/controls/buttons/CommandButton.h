@@ -2,6 +2,8 @@
 
 #include <QPushButton>
 
+class QShortcutEvent;
+
 namespace Korvane {
 
 /// The room in twips that one caption asks for at most: none makes a form wider than the screen.
@@ -11,8 +13,9 @@ constexpr int widestCaption = 6000;
 ///
 /// - Enter clicks it while it has the focus, once for each press, and it shows the mark of the default button
 ///   then. It never becomes the default button of a dialog otherwise: Enter in a text box does not reach it.
-/// - Its accelerator gives it the focus and clicks it, both at once: what refuses to let the focus go holds
-///   the click up, and a button that has been disabled since is never clicked.
+/// - Its accelerator gives it the focus and clicks it, at once and once for each press. What refuses to let
+/// the
+///   focus go holds the click up, and a button that has been disabled since is never clicked.
 /// - A caption that has no room is shortened and shown whole as a tool tip.
 class CommandButton : public QPushButton {
     Q_OBJECT
@@ -29,7 +32,7 @@ class CommandButton : public QPushButton {
     virtual QFont captionFont() const { return font(); }
 
   private:
-    void goThereAndClick();
+    bool takeAccelerator(const QShortcutEvent& accelerator);
     void showWholeCaption(const QPoint& at);
 };
 
