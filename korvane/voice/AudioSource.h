@@ -27,7 +27,7 @@ class AudioSource {
 
     /// Fills the front of `samples` and returns how many were filled; waits no longer than `patience` for
     /// the first. 0 when there is nothing yet, nothing at the end of the sound. Called on the engine's thread
-    /// between `Start` and `Stop`.
+    /// between `Start` and `Stop`. What it raises ends the sound, with its description as the reason.
     virtual std::optional<std::size_t> Read(std::span<std::int16_t> samples,
                                             std::chrono::milliseconds patience) = 0;
 

@@ -119,6 +119,20 @@ TEST_F(SpeechHeard, EndsWithTheEngineWhateverWasSaid) {
     EXPECT_THROW(ear->microphone->On(true), RuntimeError);
 }
 
+TEST_F(SpeechHeard, EndsWithTheReasonThatItsSourceRaises) {
+    struct Broken : StreamSource {
+        std::optional<std::size_t> Read(std::span<std::int16_t>, std::chrono::milliseconds) override {
+            throw RuntimeError(RuntimeError::DeviceIo, "The headset is out of reach.");
+        }
+    };
+    const auto engine = openPocketSphinx(
+        std::make_shared<Broken>(), [this](std::function<void()> work) { ear->loop->post(std::move(work)); });
+    const auto microphone = engine->MakeMicrophone();
+    microphone->On(true);
+    ASSERT_TRUE(ear->loop->runUntil([&] { return !microphone->On(); }));
+    EXPECT_EQ(microphone->Status(), "The headset is out of reach.");
+}
+
 TEST(SpeechEngine, SaysWhatIsMissing) {
     try {
         openPocketSphinx(

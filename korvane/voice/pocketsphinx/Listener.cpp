@@ -73,11 +73,14 @@ bool Listener::takeOver() {
 
 void Listener::read() {
     constexpr std::chrono::milliseconds patience{20};
-    const auto count = mSource->Read(std::span(mFrame).subspan(mFilled), patience);
-    if (!count) {
-        finish();
-        return;
+    std::optional<std::size_t> count;
+    std::string why;
+    try {
+        count = mSource->Read(std::span(mFrame).subspan(mFilled), patience);
+    } catch (...) {
+        why = currentError().Description();
     }
+    if (!count) return finish(std::move(why));
     mFilled += *count;
     if (mFilled < mFrame.size()) return;
     mFilled = 0;
@@ -98,7 +101,7 @@ void Listener::push(std::span<const std::int16_t, Endpointer::frame> frame) {
 }
 
 /// What was said up to the very end is over with it.
-void Listener::finish() {
+void Listener::finish(std::string why) {
     mFrame.fill(0);
     for (int i = 0; i < Endpointer::hangover; ++i)
         push(mFrame);
@@ -107,7 +110,7 @@ void Listener::finish() {
         const std::lock_guard lock(mMutex);
         if (mNextSession == session) mNextSession = 0;
     }
-    mReports.ended(session);
+    mReports.ended(session, std::move(why));
 }
 
 std::string Listener::answer() {

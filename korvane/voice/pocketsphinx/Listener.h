@@ -22,8 +22,9 @@ class Listener {
     /// Called on the listener's thread.
     struct Reports {
         std::function<void(std::uint64_t version, std::string words)> heard;
-        std::function<void(std::uint64_t session)> ended; ///< the sound is at its end
-        std::function<void(std::string why)> failed;      ///< what is wanted cannot be listened for
+        /// The sound is at its end; `why` is what the source raised, empty when it did not.
+        std::function<void(std::uint64_t session, std::string why)> ended;
+        std::function<void(std::string why)> failed; ///< what is wanted cannot be listened for
     };
 
     Listener(std::shared_ptr<AudioSource> source, std::unique_ptr<Decoder> decoder, Reports reports);
@@ -42,7 +43,7 @@ class Listener {
     bool takeOver();
     void read();
     void push(std::span<const std::int16_t, Endpointer::frame> frame);
-    void finish();
+    void finish(std::string why);
     std::string answer();
 
     std::shared_ptr<AudioSource> mSource;

@@ -40,9 +40,9 @@ class PocketSphinxEngine : public SpeechEngine {
                     if (const auto there = audience.lock()) there->heard(version, words);
                 });
             },
-            [post, microphone](std::uint64_t session) {
-                post([microphone, session] {
-                    if (const auto there = microphone.lock()) there->ended(session);
+            [post, microphone](std::uint64_t session, const std::string& why) {
+                post([microphone, session, why] {
+                    if (const auto there = microphone.lock()) there->ended(session, why);
                 });
             },
             [post, microphone](const std::string& why) {

@@ -42,8 +42,8 @@ void SharedMicrophone::on(bool on) {
     Changed.raise(true);
 }
 
-void SharedMicrophone::ended(std::uint64_t session) {
-    if (session == mSession) off(mSource->WhyEnded());
+void SharedMicrophone::ended(std::uint64_t session, const std::string& why) {
+    if (session == mSession) off(why.empty() ? mSource->WhyEnded() : why);
 }
 
 void SharedMicrophone::off(std::string why) {

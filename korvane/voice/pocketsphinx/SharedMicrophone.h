@@ -21,8 +21,8 @@ class SharedMicrophone {
     bool on() const { return mSession != 0; }
     /// Raises as `MicrophoneSwitch::On`.
     void on(bool on);
-    /// The sound of a session has ended by itself.
-    void ended(std::uint64_t session);
+    /// The sound of a session has ended by itself; without a reason, for that of the source.
+    void ended(std::uint64_t session, const std::string& why);
     void problem(std::string why) { mStatus = std::move(why); }
 
     const std::string& status() const { return mStatus; }
