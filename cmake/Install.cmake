@@ -1,18 +1,11 @@
-# `find_package(Korvane COMPONENTS Core Controls QtSql)` for whoever builds on the installed library.
+# `find_package(Korvane COMPONENTS Core Controls QtSql Voice)` for whoever builds on the installed library. What belongs to a
+# component of it installs itself (Library.cmake); the install components are Debian's packages (Package.cmake).
 include(CMakePackageConfigHelpers)
 
-set(korvane_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Korvane)
-configure_package_config_file(cmake/KorvaneConfig.cmake.in ${CMAKE_BINARY_DIR}/KorvaneConfig.cmake
-    INSTALL_DESTINATION ${korvane_package_dir})
-write_basic_package_version_file(${CMAKE_BINARY_DIR}/KorvaneConfigVersion.cmake COMPATIBILITY SameMinorVersion)
-install(FILES ${CMAKE_BINARY_DIR}/KorvaneConfig.cmake ${CMAKE_BINARY_DIR}/KorvaneConfigVersion.cmake
-    DESTINATION ${korvane_package_dir})
-install(EXPORT KorvaneCore NAMESPACE Korvane:: DESTINATION ${korvane_package_dir})
-if(KORVANE_CONTROLS)
-    install(EXPORT KorvaneControls NAMESPACE Korvane:: DESTINATION ${korvane_package_dir})
-    install(EXPORT KorvaneQtSql NAMESPACE Korvane:: DESTINATION ${korvane_package_dir})
-endif()
-if(KORVANE_VOICE)
-    install(EXPORT KorvaneVoice NAMESPACE Korvane:: DESTINATION ${korvane_package_dir})
-endif()
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+configure_package_config_file(cmake/KorvaneConfig.cmake.in ${PROJECT_BINARY_DIR}/KorvaneConfig.cmake
+    INSTALL_DESTINATION ${korvane_package_dir} NO_SET_AND_CHECK_MACRO NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/KorvaneConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/KorvaneConfig.cmake ${PROJECT_BINARY_DIR}/KorvaneConfigVersion.cmake
+    DESTINATION ${korvane_package_dir} COMPONENT libkorvane-dev)
+korvane_install_copyright(libkorvane)
+korvane_install_copyright(libkorvane-dev)

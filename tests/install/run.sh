@@ -12,5 +12,17 @@ cmake -S "$source/tests/install" -B "$work/build" -DCMAKE_PREFIX_PATH="$work/pre
 cmake --build "$work/build"
 "$work/build/batch"
 "$work/build/lender"
-# The window stays open until somebody closes it: it only has to come up and live.
-cd "$work" && { QT_QPA_PLATFORM=offscreen timeout 3 "$work/build/host" || [ $? -eq 124 ]; }
+[ ! -x "$work/build/listener" ] || "$work/build/listener"
+export QT_QPA_PLATFORM=offscreen
+timeout 60 "$work/build/host" --unattended | grep -x "Encounter 1, due 11/15/2026, pulse 72"
+# This window stays open until somebody closes it: it only has to come up and live.
+cd "$work" && { timeout 3 "$work/build/shown" || [ $? -eq 124 ]; }
+
+echo "With pkg-config"
+PKG_CONFIG_PATH=$(dirname "$(find "$work/prefix" -name korvane-core.pc)")
+export PKG_CONFIG_PATH
+pkg-config --exists --print-errors korvane-controls korvane-qtsql
+"${CXX:-c++}" -std=c++20 $flags "$source/tests/install/batch.cpp" $(pkg-config --cflags --libs korvane-core) -o "$work/pkg"
+LD_LIBRARY_PATH=$(pkg-config --variable=libdir korvane-core) "$work/pkg"
+
+"$work/prefix/bin/korvane-clinic" --version
