@@ -29,7 +29,8 @@ ControlPage::ControlPage(Exhibit exhibit)
     told->addWidget(mBag);
     for (QSplitter* each : {sides, shown, told}) {
         each->setChildrenCollapsible(false);
-        each->setStretchFactor(0, 1);
+        each->setStretchFactor(0, 7);
+        each->setStretchFactor(1, 3);
         each->setSizes({700, 300});
     }
     auto* all = new QVBoxLayout(this);

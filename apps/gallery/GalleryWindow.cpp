@@ -14,7 +14,7 @@ GalleryWindow::GalleryWindow(QWidget* parent) : QTabWidget(parent) {
         addTab(page, page->control().objectName());
     }
     addShortcuts();
-    const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 48);
+    const QSize wanted(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 50);
     resize(wanted.boundedTo(screen()->availableSize()));
 }
 
