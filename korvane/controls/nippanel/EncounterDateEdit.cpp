@@ -42,8 +42,11 @@ EncounterDateEdit::EncounterDateEdit(QWidget* parent) : QDateTimeEdit(parent) {
     setCalendarPopup(true);
     setKeyboardTracking(false);
     setFocusPolicy(Qt::StrongFocus);
-    // What comes by other ways than keys: pasted, cut, composed.
-    connect(lineEdit(), &QLineEdit::textEdited, this, &EncounterDateEdit::typed);
+    // What comes by other ways than keys: pasted, cut, composed. The base hears no more of it than of keys.
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
+        lineEdit()->blockSignals(!isShown(text()));
+        emit typed();
+    });
 }
 
 bool EncounterDateEdit::isShown(const QString& text) const {
