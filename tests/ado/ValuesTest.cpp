@@ -65,7 +65,11 @@ TEST_P(Values, OfTextComeBackByteForByte) {
         mDb->Execute("Update Visit Set [Name]='',[Note]='" + escapeQuotes(text) + "' Where ID='" + key + "'");
         EXPECT_EQ(one("Select ID From Visit Where Note='" + escapeQuotes(text) + "'"), key);
     }
-    EXPECT_EQ(one("Select Count(*) From Visit"), std::to_string(id));
+    EXPECT_EQ(errorOf([&] {
+                  mDb->Execute({"Delete From Visit\0 Where ID=0", 29});
+              }),
+              RuntimeError::InvalidArgument);
+    EXPECT_EQ(one("Select Count(*) From Visit"), std::to_string(id)) << "not cut at the NUL";
     const auto note = [&](const std::string& text) {
         mDb->Execute("Update Visit Set [Note]='" + text + "'");
     };

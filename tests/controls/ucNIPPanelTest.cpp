@@ -134,7 +134,7 @@ TEST(ucNIPPanel, ALoadThatFailsLeavesNothingOfThePatientBeforeAndTheNextReadsAll
         EXPECT_EQ(desk.told().back(),
                   (ShownBox{"This Nip could not be read from the database. Please try again.",
                             MsgBoxStyle::Exclamation, ""}));
-        EXPECT_EQ(desk.description().text(), "");
+        EXPECT_EQ(desk.description().text() + desk.panel.PatientID(), "");
         EXPECT_TRUE(statement == structure || desk.pulse().text().isEmpty());
         desk.db->failOn.clear();
         EXPECT_TRUE(desk.load());

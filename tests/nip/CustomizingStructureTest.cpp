@@ -155,7 +155,7 @@ TEST_F(CustomizingStructure, RefusesNamesThatAGroupCannotHold) {
 }
 
 TEST_F(CustomizingStructure, RenamesAFieldWithItsDataItsValuesAndWhatItCarriesForward) {
-    for (const char* name : {"Humour", "humour", "Order", "Sp\"ecial", "Top"}) {
+    for (const char* name : {"Humour", "humour", "Order", "Sp\"ecial", "it's", "Top"}) {
         ASSERT_TRUE(nip.EditField(1, 3,
                                   {.fieldName = name,
                                    .caption = "Mood",
@@ -416,6 +416,11 @@ TEST_F(CustomizedElsewhere, IsNotSuspectedOfATableThatIsNoneOfTheNips) {
     nips.db->quietly("Create Table Unrelated (A INTEGER)");
     EXPECT_TRUE(nip.Save()) << nips.errorLog();
     EXPECT_TRUE(nip.Load(7, "P1", false));
+    nips.db->failAfter = 1;
+    nips.db->insteadOfFailing = [&] { nips.db->quietly("Alter Table NIP_Custom2 Add Column halfway TEXT"); };
+    EXPECT_TRUE(nip.Save()) << nips.errorLog();
+    EXPECT_EQ(nips.db->failAfter, -1);
+    EXPECT_THAT(stored(), Not(HasSubstr("halfway"))) << "begun anew when it came to light before the commit";
     nips.db->quietly("Drop Table Unrelated");
     EXPECT_TRUE(nip.CreateField(1, temperature));
     EXPECT_TRUE(nip.SaveStructure()) << nips.errorLog();

@@ -96,13 +96,15 @@ TEST_F(LoadStructure, GivesEveryFieldItsOwnAllowedValues) {
     nips.allowed(2, "SMOKER'S", "daily", 1, true);
     nips.allowed(2, "Smoker's", "it's | \n", 2);
     nips.allowed(3, "Smoker's", "other", 1);
+    nips.allowed(3, "Smoker's", "null", 2);
+    nips.db->quietly("Update DBFieldValues Set FieldValue=Null,DefaultValue=Null Where FieldValue='null'");
     nips.allowed(4, "Smoker's", "nobody's", 1, true);
     loadStructure();
     EXPECT_THAT(nip.ValueList(1, 1).array().elements,
                 ElementsAre(Variant(), Variant("daily"), Variant("it's | \n"), Variant("never")));
     EXPECT_EQ(nip.ValueListCount(1, 1), 3);
     EXPECT_EQ(nip.DefaultValue(1, 1), Variant("never")) << "of two defaults the later one counts";
-    EXPECT_THAT(nip.ValueList(2, 1).array().elements, ElementsAre(Variant(), Variant("other")));
+    EXPECT_THAT(nip.ValueList(2, 1).array().elements, ElementsAre(Variant(), Variant("other"), Variant("")));
     EXPECT_THAT(nip.ValueList(1, 2).array().elements, ElementsAre(Variant()));
     EXPECT_EQ(nip.ValueListCount(1, 2), 0);
     EXPECT_TRUE(nip.DefaultValue(2, 1).isEmpty());
