@@ -97,7 +97,7 @@ TEST(PropertyBag, WrittenByHandLoadsWithDefaultsAndSaysWhatIsWrong) {
               "FrameFontSize holds -3: that is no size, 1 is used");
 }
 
-TEST(PropertyBag, TakesOnlyABooleanForABoolean) {
+TEST(PropertyBag, TakesOnlyABooleanForABooleanAndAnyKindOfNumber) {
     const std::vector<std::pair<QVariant, std::optional<bool>>> rows{
         {"False", false}, {"true", true}, {"0", false}, {0, false}, {-1, true}, {"perhaps", {}}, {"", {}}};
     for (const auto& [value, taken] : rows) {
@@ -107,6 +107,12 @@ TEST(PropertyBag, TakesOnlyABooleanForABoolean) {
         for (const bool byDefault : {false, true})
             EXPECT_EQ(bag.ReadProperty("Shown", byDefault).toBool(), taken.value_or(byDefault));
         EXPECT_EQ(bag.problems().isEmpty(), taken.has_value());
+    }
+    for (const QVariant& value :
+         {QVariant(2U), QVariant(2ULL), QVariant(2.0F), QVariant::fromValue(Qt::AlignRight)}) {
+        PropertyBag bag;
+        bag.WriteProperty("Count", value, {});
+        EXPECT_EQ(bag.ReadProperty("Count", 5), 2) << value.typeName();
     }
     PropertyBag none;
     none.Contents("{\"Shown\": ");

@@ -161,6 +161,15 @@ TEST(dbxadmin, TellsOfMovesAndUpdatesAndWhatIsChangedSince) {
         EXPECT_EQ(desk.admin->DataChanged(), changed);
     }
     EXPECT_EQ(desk.admin->fldName(), "typed meanwhile");
+    for (const bool typed : {false, true}) {
+        desk.admin->ListBoxText("d");
+        desk.entry().setFocus();
+        if (typed) desk.type("e");
+        desk.admin->DataChanged(true);
+        onUpdate.emplace_back([] {});
+        desk.click(desk.button("cmdUpdate"));
+        EXPECT_EQ(desk.admin->DataChanged(), typed) << "and not added";
+    }
     desk.heard();
     desk.admin->setDesignMode(true);
     for (const char* name : {"cmdMove(0)", "cmdUpdate", "cmdAddtoList"})

@@ -23,16 +23,21 @@ bool isBoolean(const QVariant& value) {
 bool isWholeType(QMetaType type) {
     switch (type.id()) {
     case QMetaType::Short:
+    case QMetaType::UShort:
     case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
     case QMetaType::LongLong:
+    case QMetaType::ULongLong:
         return true;
     default:
-        return false;
+        return type.flags() & QMetaType::IsEnumeration;
     }
 }
 
 bool isNumberType(QMetaType type) {
-    return isWholeType(type) || type.id() == QMetaType::Double;
+    return isWholeType(type) || type.id() == QMetaType::Double || type.id() == QMetaType::Float;
 }
 
 std::optional<double> numberOf(const QVariant& value) {

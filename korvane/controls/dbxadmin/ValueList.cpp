@@ -45,6 +45,7 @@ QString ValueList::entryText() const {
 void ValueList::setEntryText(const QString& text) {
     const QSignalBlocker quiet(txtAddtoList);
     txtAddtoList->setText(text);
+    mTyped = false;
     setRemoves(mRemoves);
 }
 
@@ -79,6 +80,7 @@ bool ValueList::hasWork() const {
 }
 
 void ValueList::typed() {
+    mTyped = !entryText().isEmpty();
     mButtonOn = false;
     setRemoves(false);
     emit entryChanged();

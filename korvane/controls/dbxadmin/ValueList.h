@@ -39,6 +39,8 @@ class ValueList : public QWidget {
     /// The text in the entry box; setting it is no typing.
     QString entryText() const;
     void setEntryText(const QString& text);
+    /// Whether the user has typed something there that is not in the list yet, and could be.
+    bool hasTyped() const { return mTyped && mEditable; }
 
     bool removes() const { return mRemoves; }
     void setRemoves(bool on);
@@ -80,6 +82,7 @@ class ValueList : public QWidget {
     QListWidget* lstAddtoList;
     QBoxLayout* mEntryRow;
     QString mData;
+    bool mTyped = false;
     bool mRemoves = false;
     bool mEditable = true;
     int mButtonWidth = 0;  ///< with room for either caption

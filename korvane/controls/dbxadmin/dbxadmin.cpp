@@ -61,7 +61,7 @@ void dbxadmin::updateClicked() {
     const QPointer<dbxadmin> self = this;
     const unsigned before = mChanges;
     emit UpdateClick();
-    if (self && mChanges == before) mDataChanged = false;
+    if (self && mChanges == before) mDataChanged = mForm->values().hasTyped();
 }
 
 /// From the last part to the first, see `ValueList::setEditable`.

@@ -73,8 +73,9 @@ class dbxadmin : public UserControl {
     explicit dbxadmin(QWidget* parent = nullptr);
 
     /// Whether the user has changed something, a text in the list's entry box included. False again once
-    /// `UpdateClick` has been heard, unless one of its slots has set it or the user has changed something
-    /// meanwhile; the form may set and clear it. Not kept in the host's bag.
+    /// `UpdateClick` has been heard, unless one of its slots has set it, the user has changed something
+    /// meanwhile, or what was typed for the list has not been added to it; the form may set and clear it.
+    /// Not kept in the host's bag.
     bool DataChanged() const { return mDataChanged; }
     void DataChanged(bool changed);
 
