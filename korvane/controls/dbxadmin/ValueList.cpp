@@ -100,10 +100,12 @@ void ValueList::add() {
     txtAddtoList->clear();
 }
 
-void ValueList::remove() {
+/// One value for each selection by the button: a click or a key too many takes none away.
+void ValueList::remove(bool selectsNext) {
     const int row = selectedRow();
     if (row < 0) return;
     delete lstAddtoList->takeItem(row);
+    if (!selectsNext) lstAddtoList->clearSelection();
     if (lstAddtoList->count() == 0) {
         if (cmdAddtoList->hasFocus()) lstAddtoList->setFocus();
         mButtonOn = false;
@@ -140,7 +142,7 @@ bool ValueList::take(const QObject* part, const QKeyEvent& key) {
         return true;
     }
     if (part != lstAddtoList || key.key() != Qt::Key_Delete || !plain) return false;
-    if (!key.isAutoRepeat()) remove();
+    if (!key.isAutoRepeat()) remove(true);
     return true;
 }
 

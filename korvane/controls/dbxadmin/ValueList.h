@@ -68,7 +68,7 @@ class ValueList : public QWidget {
     bool take(const QObject* part, const QKeyEvent& key);
     void typed();
     void add();
-    void remove();
+    void remove(bool selectsNext);
     void changed();
     int selectedRow() const;
     bool hasWork() const;

@@ -60,7 +60,7 @@ void ValueList::makeEntry() {
     connect(txtAddtoList, &QLineEdit::inputRejected, this, &ValueList::explainSeparator);
     cmdAddtoList->setObjectName(QStringLiteral("cmdAddtoList"));
     connect(cmdAddtoList, &QPushButton::clicked, this, [this] {
-        if (!mControl.designMode()) mRemoves ? remove() : add();
+        if (!mControl.designMode()) mRemoves ? remove(false) : add();
     });
 }
 
