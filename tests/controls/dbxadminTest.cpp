@@ -64,6 +64,7 @@ TEST(dbxadmin, ComesBackFromTheBagButForItsRecordNumber) {
     EXPECT_EQ(read.FieldRequired(), 0) << "no 16-bit number";
     EXPECT_EQ(bag.problems().size(), 1);
     EXPECT_FALSE(read.UpdateEnabled());
+    EXPECT_EQ(read.findChild<QListWidget*>("lstAddtoList")->count(), 0) << "what it had before";
 }
 
 TEST(dbxadmin, HasItsDefaultsWhenNewAndOthersFromAnEmptyBag) {
@@ -190,6 +191,11 @@ TEST(dbxadmin, WithoutUpdatesOneCanOnlyMove) {
     EXPECT_EQ(desk.focus(), "cmdMove(0)");
     desk.click(desk.button("cmdMove(3)"));
     EXPECT_THAT(desk.heard(), ElementsAre("UpdateEnabled", "move 3"));
+    desk.admin->UpdateEnabled(true);
+    QObject::connect(desk.admin, &dbxadmin::UpdateClick, [&] { desk.admin->UpdateEnabled(false); });
+    desk.button("cmdUpdate").setFocus();
+    desk.press(Qt::Key_Return);
+    EXPECT_EQ(desk.focus(), "cmdMove(3)") << "not the dialog's OK";
 }
 
 TEST(dbxadmin, GoesThroughItsPartsByTabAndToOneByTheKeyOfItsCaption) {

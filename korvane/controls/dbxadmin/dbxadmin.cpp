@@ -64,8 +64,10 @@ void dbxadmin::updateClicked() {
     if (self && mChanges == before) mDataChanged = mForm->values().hasTyped();
 }
 
-/// From the last part to the first, see `ValueList::setEditable`.
+/// From the last part to the first, see `ValueList::setEditable`. The update button does not pass the focus
+/// on to what is behind the control: that may be the OK of a dialog, and Enter still be held down.
 void dbxadmin::enableEntries() {
+    if (!mUpdateEnabled && mForm->updateButton().hasFocus()) mForm->moves().setFocus();
     mForm->updateButton().setEnabled(mUpdateEnabled);
     enableList();
     for (QWidget* part : std::initializer_list<QWidget*>{&mForm->required(), &mForm->inputDisplay(),

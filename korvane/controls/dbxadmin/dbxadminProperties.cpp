@@ -163,6 +163,7 @@ void dbxadmin::ReadProperties(const PropertyBag& bag) {
     frame1->setTitle(bag.ReadProperty("FrameName", "").toString());
     showText(mForm->name(), bag.ReadProperty("fldName", "").toString());
     showText(mForm->fieldCaption(), bag.ReadProperty("FieldCaption", "").toString());
+    mForm->values().clear();
     mForm->values().setData(bag.ReadProperty("ListData", "").toString());
     mForm->values().setRemoves(readCode(bag, "ListMode", AddToList) != AddToList);
     mForm->values().setEntryText(bag.ReadProperty("ListBoxText", "").toString());
