@@ -1,6 +1,7 @@
 #pragma once
 
 #include <korvane/runtime/Event.h>
+#include <korvane/voice/DatePart.h>
 
 #include <cstdint>
 #include <string>
@@ -30,6 +31,13 @@ class DictationControl {
     /// for which an engine may have no words: then nothing is delivered.
     virtual bool DateWords() const = 0;
     virtual void DateWords(bool on) = 0;
+
+    /// Which part of a date the next words are for, as the box has it that has the focus. Default `Any`. An
+    /// engine may use it to tell numbers that sound alike: what the part cannot be is then not recognised. A
+    /// whole date is always understood, and so is the name of a month. What counts is the part at the moment
+    /// at which somebody begins to speak: words for a part that is awaited no more are dropped.
+    virtual DatePart Awaited() const = 0;
+    virtual void Awaited(DatePart part) = 0;
 
     /// Listening starts and ends. While several are active, the one activated last is delivered to. A word
     /// that was said before the end and not yet delivered is dropped.

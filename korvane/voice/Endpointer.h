@@ -41,6 +41,9 @@ class Endpointer {
     /// What was said and the quiet around it; until the next `push` that tells of something else.
     std::span<const std::int16_t> said() const { return mSaid; }
 
+    /// Whether something is being said, also what is dropped.
+    bool isSaying() const { return mState != State::Quiet; }
+
     /// Whether it stands out from its surroundings by enough that its words can be told: `clearBy` on
     /// average. In more noise than that a wrong word is likelier than the right one.
     bool isClear() const;

@@ -58,8 +58,11 @@ TEST(axDateVoice, BuildsItsMenuOnceWhenItsPropertiesAreRead) {
     EXPECT_EQ(speech.take(), built);
     form.date->NextFieldCommand("Further");
     form.press("\t");
-    EXPECT_THAT(speech.take(), ElementsAre("A has the focus", "deDate.Activate true"));
-    form.press("\t\t\t");
+    EXPECT_THAT(speech.take(),
+                ElementsAre("A has the focus", "deDate.Awaited Month", "deDate.Activate true"));
+    form.press("\t\t");
+    EXPECT_THAT(speech.take(), ElementsAre("deDate.Awaited Day", "deDate.Awaited Year"));
+    form.press("\t");
     EXPECT_THAT(speech.take(), ElementsAre("deDate.Activate false", "A lost the focus"));
     form.read("DragonSpeechEnabled", false);
     EXPECT_THAT(speech.take(), ElementsAre("menu ends"));
@@ -160,7 +163,8 @@ TEST(axDateVoice, OfTwoControlsTheOneWithTheFocusListens) {
     other.read("DragonSpeechEnabled", true);
     l.speech.take();
     other.press("\t");
-    EXPECT_THAT(l.speech.take(), ElementsAre("B has the focus", "deDate.Activate true"));
+    EXPECT_THAT(l.speech.take(),
+                ElementsAre("B has the focus", "deDate.Awaited Month", "deDate.Activate true"));
     l.speech.command(1, 0);
     l.speech.command(2, 1);
     EXPECT_EQ(other.focus(), "2");

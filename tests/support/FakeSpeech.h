@@ -72,6 +72,11 @@ class FakeSpeech {
         void Language(std::int32_t language) override { log.write("deDate.Language", language); }
         bool DateWords() const override { return false; }
         void DateWords(bool on) override { log.write("deDate.DateWords", on); }
+        voice::DatePart Awaited() const override { return voice::DatePart::Any; }
+        void Awaited(voice::DatePart part) override {
+            constexpr const char* names[] = {"Any", "Month", "Day", "Year"};
+            log.write("deDate.Awaited", names[static_cast<int>(part)]);
+        }
         void Activate(bool on) override { log.write("deDate.Activate", on); }
     };
     struct Microphone : voice::MicrophoneSwitch {

@@ -63,21 +63,30 @@ bool hasRecordedVoices() {
     return has;
 }
 
+bool isTuning() {
+    static const bool is = std::getenv("KORVANE_VOICE_TUNING") != nullptr;
+    return is;
+}
+
 Speaker anySpeaker(std::mt19937& chance, bool recorded) {
-    constexpr const char* synthetic[] = {
-        "en-us",    "en-us+m1", "en-us+m2", "en-us+m3", "en-us+m4", "en-us+m5", "en-us+m6", "en-us+m7",
-        "en-us+f1", "en-us+f2", "en-us+f3", "en-us+f4", "en-gb",    "en-gb+m3", "en-gb+f2", "en-gb-x-rp"};
-    constexpr const char* people[] = {"flite slt", "flite rms", "flite awb", "flite kal16"};
+    constexpr const char* synthetic[][16] = {
+        {"en-us+f5", "en-us+m8", "en-us+Andy", "en-us+Annie", "en-us+Alicia", "en-us+Denis", "en-us+Gene",
+         "en-us+Michael", "en-us+adam", "en-us+belinda", "en-us+benjamin", "en-us+linda", "en-gb+david",
+         "en-gb+steph", "en-gb+max", "en-gb-scotland"},
+        {"en-us", "en-us+m1", "en-us+m2", "en-us+m3", "en-us+m4", "en-us+m5", "en-us+m6", "en-us+m7",
+         "en-us+f1", "en-us+f2", "en-us+f3", "en-us+f4", "en-gb", "en-gb+m3", "en-gb+f2", "en-gb-x-rp"}};
+    constexpr const char* people[][2] = {{"flite awb", "flite kal16"}, {"flite slt", "flite rms"}};
     const auto between = [&](int low, int high) { return std::uniform_int_distribution(low, high)(chance); };
-    if (recorded) return {people[between(0, 3)]};
-    return {synthetic[between(0, std::ssize(synthetic) - 1)], between(120, 190), between(30, 70)};
+    const char* const* voices = recorded ? people[isTuning()] : synthetic[isTuning()];
+    return {voices[between(0, recorded ? 1 : 15)], between(110, 150), between(30, 70)};
 }
 
 Sound speak(const Speaker& speaker, const std::string& words) {
     const auto said = scratch("said.wav").string(), cut = scratch("cut.wav").string();
     const bool spoken =
         speaker.voice.starts_with("flite ")
-            ? run("flite -voice " + speaker.voice.substr(6) + " -t '" + words + "' -o " + said)
+            ? run("flite -voice " + speaker.voice.substr(6) + " --setf duration_stretch=" +
+                  std::to_string(130.0 / speaker.speed) + " -t '" + words + "' -o " + said)
             : run("espeak-ng -v " + speaker.voice + " -s " + std::to_string(speaker.speed) + " -p " +
                   std::to_string(speaker.pitch) + " -w " + said + " '" + words + "'");
     const std::string trim = " silence 1 0.01 0.1% reverse silence 1 0.01 0.1% reverse";

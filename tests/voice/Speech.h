@@ -22,7 +22,11 @@ bool canSpeak();
 /// Whether flite is there, too, whose voices are put together from recordings of people.
 bool hasRecordedVoices();
 
-/// A speaker by chance, of espeak-ng or of flite.
+/// KORVANE_VOICE_TUNING=1: those speak, and that is said, with which the engine was tuned. Without it others
+/// do, so that what is measured was not known when the choices were made.
+bool isTuning();
+
+/// A speaker by chance, of espeak-ng or of flite, at the pace of dictation: 110 to 150 words a minute.
 Speaker anySpeaker(std::mt19937& chance, bool recorded);
 
 /// What somebody says, without silence around it, at a level of -9 dB. Empty when the program failed.

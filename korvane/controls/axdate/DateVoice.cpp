@@ -90,8 +90,14 @@ void DateVoice::activateMenu(bool on) {
     if (mMenu) mMenu->Activate(on);
 }
 
+void DateVoice::await(voice::DatePart part) {
+    mAwaited = part;
+    if (mIsDictating && dictation()) deDate->Awaited(part);
+}
+
 void DateVoice::activateDictation(bool on) {
     if (on == mIsDictating || !dictation()) return;
+    if (on) deDate->Awaited(mAwaited);
     deDate->Activate(on);
     mIsDictating = on;
     mWasAway = false;

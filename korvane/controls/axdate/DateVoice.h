@@ -40,6 +40,9 @@ class DateVoice : public QObject {
     /// Listening for the commands starts and ends; does nothing where there is no menu.
     void activateMenu(bool on);
 
+    /// The part of the date whose box has the focus, which the values to come are for.
+    void await(voice::DatePart part);
+
     /// Listening for values starts and ends. Ending it where it was not started does nothing.
     void activateDictation(bool on);
 
@@ -60,6 +63,7 @@ class DateVoice : public QObject {
     std::unique_ptr<voice::MicrophoneSwitch> DgnMicBtn1;
     QMetaObject::Connection mWatch;
     EventHandle mCommandHandle, mDictatedHandle;
+    voice::DatePart mAwaited = voice::DatePart::Any;
     bool mHasFocus = false;
     bool mIsDictating = false;
     bool mWasAway = false; ///< with the dictation on, which may have passed to another control

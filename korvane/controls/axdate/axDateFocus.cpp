@@ -15,6 +15,9 @@ namespace Korvane {
 
 namespace {
 
+constexpr voice::DatePart awaitedParts[] = {voice::DatePart::Month, voice::DatePart::Day,
+                                            voice::DatePart::Year};
+
 /// -1 for the whole date box.
 int indexOf(const QWidget& part) {
     const auto* box = qobject_cast<const DatePartBox*>(&part);
@@ -55,6 +58,7 @@ void axDate::gotFocus(QWidget& part) {
     txtWholeDate->hide();
     box(index).selectAll();
     mIndex = static_cast<qint16>(index);
+    mVoice->await(awaitedParts[index]);
     emit OnIndexChange(mIndex);
 }
 

@@ -23,11 +23,19 @@ void Audience::changed() {
     wanted.commands.erase(std::unique(wanted.commands.begin(), wanted.commands.end()), wanted.commands.end());
     const auto dictating = dictation();
     wanted.dates = dictating && dictating->dates;
+    if (dictating) wanted.awaited = dictating->awaited;
 
     wanted.version = mWanted.version + 1;
     mWanted = std::move(wanted);
     mHearing = std::move(hearing);
     mDictation = dictating;
+    if (wants) wants(mWanted);
+}
+
+void Audience::awaited() {
+    const auto dictating = mDictation.lock();
+    if (!dictating || mWanted.awaited == dictating->awaited) return;
+    mWanted.awaited = dictating->awaited;
     if (wants) wants(mWanted);
 }
 
@@ -51,11 +59,12 @@ std::shared_ptr<Audience::Dictation> Audience::dictation() const {
     return mDictations.empty() ? nullptr : mDictations.back().lock();
 }
 
-void Audience::heard(std::uint64_t version, const std::string& words) {
-    if (version != mWanted.version || command(words) || !mWanted.dates) return;
-    for (const auto& value : spokenValues(words)) {
+void Audience::heard(const Sentence& said) {
+    if (said.version != mWanted.version || command(said.words)) return;
+    if (!mWanted.dates || said.awaited != mWanted.awaited) return;
+    for (const auto& value : spokenValues(said.words)) {
         const auto dictating = mDictation.lock();
-        if (version != mWanted.version || !dictating) return;
+        if (said.version != mWanted.version || !dictating) return;
         dictating->dictated(value);
     }
 }

@@ -2,6 +2,7 @@
 
 #include <korvane/runtime/Event.h>
 #include <korvane/voice/WindowHandle.h>
+#include <korvane/voice/pocketsphinx/Sentence.h>
 #include <korvane/voice/pocketsphinx/Wanted.h>
 
 #include <cstdint>
@@ -29,6 +30,7 @@ class Audience {
     };
     struct Dictation {
         bool dates = true;
+        DatePart awaited = DatePart::Any;
         std::function<void(const std::string&)> dictated;
     };
 
@@ -42,9 +44,12 @@ class Audience {
     /// The one activated last is delivered to.
     void activate(const std::shared_ptr<Dictation>& dictation, bool on);
 
-    /// The words of a sentence that was said while `version` was wanted. A listener may change anything: what
-    /// was said to those who listened before it then goes to nobody else.
-    void heard(std::uint64_t version, const std::string& words);
+    /// The part of a date that a dictation awaits was changed.
+    void awaited();
+
+    /// A listener may change anything: what was said to those who listened before it then goes to nobody
+    /// else.
+    void heard(const Sentence& said);
 
   private:
     bool hears(const Menu& menu) const;

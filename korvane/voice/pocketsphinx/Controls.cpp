@@ -83,6 +83,11 @@ class DateDictation : public DictationControl {
         mDictation->dates = on;
         changed(mAudience);
     }
+    DatePart Awaited() const override { return mDictation->awaited; }
+    void Awaited(DatePart part) override {
+        mDictation->awaited = part;
+        if (const auto audience = mAudience.lock()) audience->awaited();
+    }
     void Activate(bool on) override {
         if (const auto audience = mAudience.lock()) audience->activate(mDictation, on);
     }

@@ -43,6 +43,11 @@ fsg_model_t* toFsg(const WordGraph& graph, logmath_t* logmath) {
     return fsg;
 }
 
+const char* nameOf(DatePart part) {
+    constexpr const char* names[] = {"any", "month", "day", "year"};
+    return names[static_cast<int>(part)];
+}
+
 /// With a faint noise. A line that is silent between the words, as that of a file may be, would stand so far
 /// from any room that the words beside it were not recognised.
 std::vector<std::int16_t> withoutDeadSilence(std::span<const std::int16_t> sound) {
@@ -81,15 +86,25 @@ Decoder::Decoder(const std::filesystem::path& model) {
 Decoder::~Decoder() = default;
 
 void Decoder::want(const Wanted& wanted) {
-    mWanted = wantedSentences(wanted);
-    auto graph = mWanted;
+    if (mWanted && mWanted->sameSentences(wanted)) return;
+    mWanted.reset();
+    mSentences.clear();
+    for (const auto part : {DatePart::Any, DatePart::Month, DatePart::Day, DatePart::Year}) {
+        if (part == DatePart::Any || wanted.dates) prepare(wanted, part);
+    }
+    mWanted = wanted;
+}
+
+void Decoder::prepare(const Wanted& wanted, DatePart awaited) {
+    auto graph = wantedSentences(wanted, awaited);
+    mSentences[awaited] = graph;
     addOtherSentences(graph);
     for (const auto& arc : graph.arcs())
         if (!arc.word.empty()) learn(arc.word, pronounce(arc.word));
     auto* fsg = toFsg(graph, ps_get_logmath(mDecoder.get()));
-    const bool taken = ps_set_fsg(mDecoder.get(), "korvane", fsg) == 0;
+    const bool taken = ps_set_fsg(mDecoder.get(), nameOf(awaited), fsg) == 0;
     fsg_model_free(fsg);
-    if (!taken || ps_set_search(mDecoder.get(), "korvane") != 0)
+    if (!taken)
         throw RuntimeError(RuntimeError::InvalidProcedureCall, "The speech engine refused the commands.");
 }
 
@@ -100,14 +115,17 @@ void Decoder::learn(const std::string& word, const std::string& sounds) {
         ps_add_word(mDecoder.get(), word.c_str(), sounds.c_str(), FALSE);
 }
 
-std::string Decoder::words(std::span<const std::int16_t> sound) {
+std::string Decoder::words(std::span<const std::int16_t> sound, DatePart awaited) {
+    const auto sentences = mSentences.find(mSentences.contains(awaited) ? awaited : DatePart::Any);
+    if (sentences == mSentences.end() || ps_set_search(mDecoder.get(), nameOf(sentences->first)) != 0)
+        return {};
     if (ps_start_utt(mDecoder.get()) != 0) return {};
     const auto heard = withoutDeadSilence(sound);
     ps_process_raw(mDecoder.get(), heard.data(), heard.size(), FALSE, TRUE);
     ps_end_utt(mDecoder.get());
     int32 score = 0;
     const char* found = ps_get_hyp(mDecoder.get(), &score);
-    return found && mWanted.accepts(found) ? found : "";
+    return found && sentences->second.accepts(found) ? found : "";
 }
 
 } // namespace Korvane::voice

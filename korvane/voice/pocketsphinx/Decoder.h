@@ -5,7 +5,9 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -23,20 +25,24 @@ class Decoder {
     Decoder& operator=(const Decoder&) = delete;
 
     /// What the sentences to come are compared with. Words that the dictionary does not have are pronounced
-    /// by rule. Raises `RuntimeError` 5 when that is refused.
+    /// by rule. Takes some tens of milliseconds when they are others than before. Raises `RuntimeError` 5
+    /// when that is refused.
     void want(const Wanted& wanted);
 
-    /// The words of what was said if it is one of the sentences wanted; empty when it is something else.
-    std::string words(std::span<const std::int16_t> sound);
+    /// The words of what was said if it is one of the sentences wanted, while that part of a date is awaited;
+    /// empty when it is something else.
+    std::string words(std::span<const std::int16_t> sound, DatePart awaited);
 
   private:
+    void prepare(const Wanted& wanted, DatePart awaited);
     void learn(const std::string& word, const std::string& sounds);
 
     struct Free {
         void operator()(ps_decoder_s* decoder) const;
     };
     std::unique_ptr<ps_decoder_s, Free> mDecoder;
-    WordGraph mWanted;
+    std::optional<Wanted> mWanted;            ///< what is prepared
+    std::map<DatePart, WordGraph> mSentences; ///< by what is awaited
 };
 
 } // namespace Korvane::voice

@@ -30,8 +30,9 @@ constexpr std::string_view commonWords = "the i and a of you that in it is but k
                                          "back any new our also";
 
 // Costs, in nats; sound itself is overconfident, so they are large. Chosen by measuring, see docs/voice.md.
-constexpr double otherSentence = 25, otherWord = 30, command = 52;
-constexpr double year = 6, rareYear = 30, digits = 35, restOfDate = 60;
+constexpr double otherSentence = 37, otherWord = 30, command = 64;
+constexpr double notAwaited = 12, elsewhere = 42, restOfDate = 72; // beside what is awaited
+constexpr double year = 6, rareYear = 30, digits = 35, shortYear = 20;
 
 void addDay(WordGraph& graph, int from, int to, double cost) {
     for (const auto words : {ones, teens, ordinals, laterOrdinals})
@@ -81,11 +82,11 @@ void addYear(WordGraph& graph, int from, int to, double cost) {
 }
 
 /// "one nine eight four", "two oh oh five".
-void addDigits(WordGraph& graph, int from, int to) {
+void addDigits(WordGraph& graph, int from, int to, double cost) {
     const int one = graph.state(), two = graph.state(), century = graph.state(), decade = graph.state();
-    graph.either(from, one, "one", digits);
+    graph.either(from, one, "one", cost);
     graph.either(one, century, "eight nine");
-    graph.either(from, two, "two", digits);
+    graph.either(from, two, "two", cost);
     graph.either(two, century, zeros);
     for (const auto words : {ones, zeros}) {
         graph.either(century, decade, words);
@@ -93,13 +94,10 @@ void addDigits(WordGraph& graph, int from, int to) {
     }
 }
 
-void addDates(WordGraph& graph) {
+/// A month, or a date that begins with one.
+void addMonth(WordGraph& graph, double cost) {
     constexpr int from = WordGraph::start, to = WordGraph::end;
-    graph.either(from, to, months);
-    addDay(graph, from, to, 0);
-    addYear(graph, from, to, year);
-    addDigits(graph, from, to);
-
+    graph.either(from, to, months, cost);
     const int month = graph.state(), day = graph.state();
     graph.either(from, month, months, restOfDate);
     addDay(graph, month, day, 0);
@@ -107,13 +105,42 @@ void addDates(WordGraph& graph) {
     addYear(graph, day, to, year);
 }
 
+void addDates(WordGraph& graph, DatePart awaited) {
+    constexpr int from = WordGraph::start, to = WordGraph::end;
+    switch (awaited) {
+    case DatePart::Any:
+        addMonth(graph, notAwaited);
+        addDay(graph, from, to, notAwaited);
+        addYear(graph, from, to, notAwaited + year);
+        addDigits(graph, from, to, notAwaited + digits);
+        break;
+    case DatePart::Month:
+        addMonth(graph, 0);
+        graph.either(from, to, ones);
+        graph.either(from, to, "ten eleven twelve");
+        break;
+    case DatePart::Day:
+        addMonth(graph, elsewhere);
+        addDay(graph, from, to, 0);
+        break;
+    case DatePart::Year:
+        addMonth(graph, elsewhere);
+        addYear(graph, from, to, 0);
+        addDigits(graph, from, to, digits);
+        const int twoDigits = graph.state();
+        graph.skip(from, twoDigits, shortYear);
+        addPair(graph, twoDigits, to, 0);
+        break;
+    }
+}
+
 } // namespace
 
-WordGraph wantedSentences(const Wanted& wanted) {
+WordGraph wantedSentences(const Wanted& wanted, DatePart awaited) {
     WordGraph graph;
     for (const auto& phrase : wanted.commands)
         graph.sequence(WordGraph::start, WordGraph::end, phrase, command);
-    if (wanted.dates) addDates(graph);
+    if (wanted.dates) addDates(graph, awaited);
     return graph;
 }
 

@@ -57,6 +57,7 @@ bool Listener::takeOver() {
         mEndpointer = Endpointer();
         mFilled = 0;
     }
+    mWanted.awaited = mNextWanted.awaited;
     if (mWanted.version == mNextWanted.version) return true;
     mWanted = mNextWanted;
     lock.unlock();
@@ -88,12 +89,13 @@ void Listener::read() {
 }
 
 void Listener::push(std::span<const std::int16_t, Endpointer::frame> frame) {
+    if (!mEndpointer.isSaying()) mAwaited = mWanted.awaited;
     switch (mEndpointer.push(frame)) {
     case Endpointer::Pausing:
         mAnswer = answer();
         break;
     case Endpointer::Over:
-        if (!mAnswer.empty()) mReports.heard(mWanted.version, std::exchange(mAnswer, {}));
+        if (!mAnswer.empty()) mReports.heard({mWanted.version, mAwaited, std::exchange(mAnswer, {})});
         break;
     default:
         break;
@@ -115,7 +117,7 @@ void Listener::finish(std::string why) {
 
 std::string Listener::answer() {
     if (mWanted.nothing() || !mEndpointer.isClear()) return {};
-    return mDecoder->words(mEndpointer.said());
+    return mDecoder->words(mEndpointer.said(), mAwaited);
 }
 
 } // namespace Korvane::voice

@@ -3,6 +3,7 @@
 #include <korvane/voice/AudioSource.h>
 #include <korvane/voice/Endpointer.h>
 #include <korvane/voice/pocketsphinx/Decoder.h>
+#include <korvane/voice/pocketsphinx/Sentence.h>
 #include <korvane/voice/pocketsphinx/Wanted.h>
 
 #include <array>
@@ -21,7 +22,7 @@ class Listener {
   public:
     /// Called on the listener's thread.
     struct Reports {
-        std::function<void(std::uint64_t version, std::string words)> heard;
+        std::function<void(Sentence)> heard;
         /// The sound is at its end; `why` is what the source raised, empty when it did not.
         std::function<void(std::uint64_t session, std::string why)> ended;
         std::function<void(std::string why)> failed; ///< what is wanted cannot be listened for
@@ -30,7 +31,8 @@ class Listener {
     Listener(std::shared_ptr<AudioSource> source, std::unique_ptr<Decoder> decoder, Reports reports);
     ~Listener();
 
-    /// What to listen for from now on. What is being said at this moment is not listened to.
+    /// What to listen for from now on. What is being said at this moment is not listened to when the version
+    /// is a new one.
     void want(Wanted wanted);
 
     /// Reads the source, which was started, until `pause` or its end. Each session has a number of its own.
@@ -62,7 +64,8 @@ class Listener {
     Endpointer mEndpointer;
     std::array<std::int16_t, Endpointer::frame> mFrame{};
     std::size_t mFilled = 0;
-    std::string mAnswer; ///< to what was said up to the last pause
+    DatePart mAwaited = DatePart::Any; ///< when somebody began to speak
+    std::string mAnswer;               ///< to what was said up to the last pause
 
     std::thread mThread; ///< last: it uses the others
 };

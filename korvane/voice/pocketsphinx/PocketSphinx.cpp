@@ -35,9 +35,9 @@ class PocketSphinxEngine : public SpeechEngine {
         const std::weak_ptr audience = mAudience;
         const std::weak_ptr microphone = mMicrophone;
         return {
-            [post, audience](std::uint64_t version, const std::string& words) {
-                post([audience, version, words] {
-                    if (const auto there = audience.lock()) there->heard(version, words);
+            [post, audience](const Sentence& said) {
+                post([audience, said] {
+                    if (const auto there = audience.lock()) there->heard(said);
                 });
             },
             [post, microphone](std::uint64_t session, const std::string& why) {
