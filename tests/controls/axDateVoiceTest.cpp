@@ -77,7 +77,8 @@ TEST(axDateVoice, IsSilentWhileItIsSwitchedOffAndHasTheSameMenuAfterwards) {
     l.form.date->SetElementFocus(1);
     EXPECT_THAT(l.speech.take(), IsEmpty());
     l.form.date->DragonSpeechEnabled(true);
-    EXPECT_THAT(l.speech.take(), ElementsAre("A has the focus", "Activate true", "deDate.Activate true"));
+    EXPECT_THAT(l.speech.take(), ElementsAre("A has the focus", "Activate true", "deDate.Awaited Day",
+                                             "deDate.Activate true"));
 }
 
 TEST(axDateVoice, TouchesNoPartOfTheEngineWhileItIsOff) {
@@ -168,6 +169,7 @@ TEST(axDateVoice, OfTwoControlsTheOneWithTheFocusListens) {
     l.speech.command(1, 0);
     l.speech.command(2, 1);
     EXPECT_EQ(other.focus(), "2");
+    EXPECT_THAT(l.speech.take(), ElementsAre("deDate.Awaited Year"));
     l.form.form.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&l.form.form));
     EXPECT_THAT(l.speech.take(), ElementsAre("A has the focus", "deDate.Activate true", "B lost the focus"))

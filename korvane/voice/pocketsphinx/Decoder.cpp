@@ -76,7 +76,7 @@ Decoder::Decoder(const std::filesystem::path& model) {
     // Where sentences begin and end is known; and a silence beside one is as likely as none.
     const std::unique_ptr<cmd_ln_t, FreeConfig> config(cmd_ln_init(
         nullptr, ps_args(), TRUE, "-hmm", sounds.c_str(), "-dict", dictionary.c_str(), "-logfn", "/dev/null",
-        "-remove_silence", "no", "-remove_noise", "yes", "-silprob", "0.5", nullptr));
+        "-remove_silence", "no", "-remove_noise", "yes", "-silprob", "0.5", "-topn", "16", nullptr));
     if (config) mDecoder.reset(ps_init(config.get()));
     if (!mDecoder)
         throw RuntimeError(RuntimeError::InvalidProcedureCall,
@@ -86,26 +86,20 @@ Decoder::Decoder(const std::filesystem::path& model) {
 Decoder::~Decoder() = default;
 
 void Decoder::want(const Wanted& wanted) {
-    if (mWanted && mWanted->sameSentences(wanted)) return;
-    mWanted.reset();
-    mSentences.clear();
-    for (const auto part : {DatePart::Any, DatePart::Month, DatePart::Day, DatePart::Year}) {
-        if (part == DatePart::Any || wanted.dates) prepare(wanted, part);
-    }
+    if (!wanted.sameSentences(mWanted)) mSentences.clear();
     mWanted = wanted;
-}
-
-void Decoder::prepare(const Wanted& wanted, DatePart awaited) {
-    auto graph = wantedSentences(wanted, awaited);
-    mSentences[awaited] = graph;
+    if (mSentences.contains(wanted.awaited)) return;
+    const auto sentences = wantedSentences(wanted);
+    auto graph = sentences;
     addOtherSentences(graph);
     for (const auto& arc : graph.arcs())
         if (!arc.word.empty()) learn(arc.word, pronounce(arc.word));
     auto* fsg = toFsg(graph, ps_get_logmath(mDecoder.get()));
-    const bool taken = ps_set_fsg(mDecoder.get(), nameOf(awaited), fsg) == 0;
+    const bool taken = ps_set_fsg(mDecoder.get(), nameOf(wanted.awaited), fsg) == 0;
     fsg_model_free(fsg);
     if (!taken)
         throw RuntimeError(RuntimeError::InvalidProcedureCall, "The speech engine refused the commands.");
+    mSentences[wanted.awaited] = sentences;
 }
 
 void Decoder::learn(const std::string& word, const std::string& sounds) {
@@ -116,7 +110,7 @@ void Decoder::learn(const std::string& word, const std::string& sounds) {
 }
 
 std::string Decoder::words(std::span<const std::int16_t> sound, DatePart awaited) {
-    const auto sentences = mSentences.find(mSentences.contains(awaited) ? awaited : DatePart::Any);
+    const auto sentences = mSentences.find(awaited);
     if (sentences == mSentences.end() || ps_set_search(mDecoder.get(), nameOf(sentences->first)) != 0)
         return {};
     if (ps_start_utt(mDecoder.get()) != 0) return {};

@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <map>
 #include <memory>
-#include <optional>
 #include <span>
 #include <string>
 
@@ -25,24 +24,23 @@ class Decoder {
     Decoder& operator=(const Decoder&) = delete;
 
     /// What the sentences to come are compared with. Words that the dictionary does not have are pronounced
-    /// by rule. Takes some tens of milliseconds when they are others than before. Raises `RuntimeError` 5
-    /// when that is refused.
+    /// by rule. Takes some tens of milliseconds; none for a part of a date that was awaited before with the
+    /// same commands. Raises `RuntimeError` 5 when that is refused.
     void want(const Wanted& wanted);
 
-    /// The words of what was said if it is one of the sentences wanted, while that part of a date is awaited;
-    /// empty when it is something else.
+    /// The words of what was said if it is one of the sentences wanted last, with that part of a date
+    /// awaited, which must have been wanted with them; empty when it is something else.
     std::string words(std::span<const std::int16_t> sound, DatePart awaited);
 
   private:
-    void prepare(const Wanted& wanted, DatePart awaited);
     void learn(const std::string& word, const std::string& sounds);
 
     struct Free {
         void operator()(ps_decoder_s* decoder) const;
     };
     std::unique_ptr<ps_decoder_s, Free> mDecoder;
-    std::optional<Wanted> mWanted;            ///< what is prepared
-    std::map<DatePart, WordGraph> mSentences; ///< by what is awaited
+    Wanted mWanted;
+    std::map<DatePart, WordGraph> mSentences; ///< those prepared, by the part that is awaited
 };
 
 } // namespace Korvane::voice

@@ -5,9 +5,9 @@
 
 namespace Korvane::voice {
 
-/// The sentences that are wanted while a part of a date is awaited: commands, what that part can be, and
-/// names of months and whole dates, which say themselves where they belong.
-WordGraph wantedSentences(const Wanted& wanted, DatePart awaited);
+/// The sentences that are wanted: commands, what the part of a date can be that is awaited, and names of
+/// months and whole dates, which say themselves where they belong.
+WordGraph wantedSentences(const Wanted& wanted);
 
 /// Adds other sentences to tell them from, made of common words and of the words of commands and dates in any
 /// order. One is put together from what sounds most like it, and then costs more than a command that sounds

@@ -57,11 +57,11 @@ bool Listener::takeOver() {
         mEndpointer = Endpointer();
         mFilled = 0;
     }
-    mWanted.awaited = mNextWanted.awaited;
-    if (mWanted.version == mNextWanted.version) return true;
+    const bool isOther = mWanted.version != mNextWanted.version;
+    if (!isOther && mWanted.awaited == mNextWanted.awaited) return true;
     mWanted = mNextWanted;
     lock.unlock();
-    mEndpointer.drop();
+    if (isOther) mEndpointer.drop();
     try {
         if (!mWanted.nothing()) mDecoder->want(mWanted);
     } catch (...) {
