@@ -22,8 +22,8 @@ bool canSpeak();
 /// Whether flite is there, too, whose voices are put together from recordings of people.
 bool hasRecordedVoices();
 
-/// KORVANE_VOICE_TUNING=1: those speak, and that is said, with which the engine was tuned. Without it others
-/// do, so that what is measured was not known when the choices were made.
+/// KORVANE_VOICE_TUNING=1: the voices speak with which the engine was tuned, and say the sentences of then.
+/// Without it others do, which the choices were not made for.
 bool isTuning();
 
 /// A speaker by chance, of espeak-ng or of flite, at the pace of dictation: 110 to 150 words a minute.

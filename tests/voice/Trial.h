@@ -20,7 +20,8 @@ struct Amount {
     int commands, values, others;
 };
 
-/// Lets speakers picked by chance say as much, amid noise of a kind (none for "") `decibels` below them.
+/// Lets speakers picked by chance say as much, each value while its part of a date is awaited, amid noise of
+/// a kind (none for "") `decibels` below them.
 Tally tryOut(Ear& ear, Amount amount, bool recordedVoices, const std::string& noiseKind, double decibels);
 
 /// Delays of commands and values after the end of the last word, sorted; of those that were heard.
