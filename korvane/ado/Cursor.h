@@ -32,8 +32,9 @@ struct FieldChange {
 /// Null included, and where it is not to be had so.
 using CellView = std::variant<std::monostate, std::int64_t, std::string_view>;
 
-/// How a result may be walked and written; the codes are those of a recordset's `CursorType` and `LockType`.
+/// How a result may be walked; the codes are those of a recordset's `CursorType`.
 enum class CursorType : int { ForwardOnly = 0, Keyset = 1, Dynamic = 2, Static = 3 };
+/// How a result may be written; the codes are those of a recordset's `LockType`.
 enum class LockType : int { ReadOnly = 1, Pessimistic = 2, Optimistic = 3, BatchOptimistic = 4 };
 
 /// The provider's side of an open recordset: one result, walked forward. Made by `Connection::openCursor`,

@@ -46,10 +46,12 @@ std::optional<Relation> findRelation(Connection& connection, std::string_view na
                                      Read what = Read::Columns);
 /// ItemNotFound when there is no such table.
 Relation requireTable(Connection& connection, std::string_view name, Read what = Read::Columns);
+/// The indexes of a table, its primary key among them.
 std::vector<StoredIndex> storedIndexes(Connection& connection, const std::string& table);
 
 /// The one of that name: spelled so, else without regard to case; null when there is none.
 const Column* columnNamed(std::span<const Column> columns, std::string_view name);
+/// ItemNotFound when the table has no such column.
 const Column& requireColumn(const Relation& table, std::string_view name);
 
 /// Refuses a column that cannot be added to those of a table.

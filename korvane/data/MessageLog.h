@@ -7,6 +7,7 @@
 
 namespace Korvane {
 
+/// @file
 /// The leveled message log of the process: level 1 is the most severe, 5 the least; a message is written when
 /// the log's level is at least its own, and messages of level 1 and 2 are shown to the user as well.
 ///
@@ -31,6 +32,7 @@ void vLogAdd(std::string_view source, std::string_view message, std::int32_t lev
 /// log.
 void vLogWrite(std::string_view text, bool stamped);
 
+/// Whether a log is open.
 bool logReady();
 /// Why the log last failed; empty when it never did.
 const std::string& lastLogError();

@@ -24,14 +24,19 @@ struct RecordColumn {
 /// Conversions from what `SQLData` reads; Empty and the empty text (a null date or text column, a missing
 /// row) give the member's zero. Errors as those of `Variant`.
 void assignColumn(std::int32_t& member, const Variant& value);
+/// @copydoc assignColumn(std::int32_t&, const Variant&)
 void assignColumn(bool& member, const Variant& value);
+/// @copydoc assignColumn(std::int32_t&, const Variant&)
 void assignColumn(Date& member, const Variant& value);
+/// @copydoc assignColumn(std::int32_t&, const Variant&)
 void assignColumn(Variant& member, const Variant& value);
+/// @copydoc assignColumn(std::int32_t&, const Variant&)
 void assignColumn(std::string& member, const Variant& value);
 
 /// Whether a value read back is the one that was written: the same text, or the same date in other words.
 bool readAlike(const Variant& stored, const Variant& written);
 
+/// What `recordColumn` makes, where the type of the record is to be found.
 template <auto Member, typename Record, typename T>
 constexpr RecordColumn<Record> recordColumnOf(T Record::*, std::string_view name, std::int32_t insertQuoting,
                                               std::int32_t updateQuoting) {
@@ -44,6 +49,7 @@ template <auto Member>
 constexpr auto recordColumn(std::string_view name, std::int32_t insertQuoting, std::int32_t updateQuoting) {
     return recordColumnOf<Member>(Member, name, insertQuoting, updateQuoting);
 }
+/// The same, quoted alike in inserts and updates.
 template <auto Member>
 constexpr auto recordColumn(std::string_view name, std::int32_t quoting) {
     return recordColumn<Member>(name, quoting, quoting);

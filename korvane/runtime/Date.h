@@ -23,6 +23,7 @@ namespace Korvane {
 /// nearest.
 class Date {
   public:
+    /// What a calendar and a clock show: the defaults are those of day 0.
     struct Parts {
         int year = 1899, month = 12, day = 30, hour = 0, minute = 0, second = 0;
         int weekday = 6; ///< 0 = Sunday

@@ -15,6 +15,7 @@ struct DateFields {
     /// How a field is joined to the one before it.
     enum class Joint { Blank, Date, Time };
 
+    /// One number or name of the text.
     struct Field {
         int value = 0;
         bool isMonthName = false;

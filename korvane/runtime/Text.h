@@ -9,6 +9,7 @@ namespace Korvane {
 
 /// ASCII letters only; other characters stand as they are.
 std::string upperCase(std::string_view text);
+/// ASCII letters only, as well.
 std::string lowerCase(std::string_view text);
 
 /// 0 to 9, whatever the locale is.
@@ -41,8 +42,9 @@ std::optional<std::string> numberDigits(std::string_view text);
 ///     leadingNumber("12abc");   // 12
 double leadingNumber(std::string_view text);
 
-/// A number in its plain text form: up to 15 (7 for a float) significant digits, "1E+15" from 10^15 on.
+/// A number in its plain text form: up to 15 significant digits, "1E+15" from 10^15 on.
 std::string numberText(double value);
+/// The same with up to 7 digits.
 std::string numberText(float value);
 
 /// Every single quote doubled, for a value pasted between single quotes into a statement.

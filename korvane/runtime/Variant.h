@@ -63,9 +63,11 @@ enum class VarType : std::uint16_t {
 ///     compare(v, Variant("7"));    // see `compare`
 class Variant {
   public:
+    /// Nothing has been assigned.
     struct EmptyValue {
         friend bool operator==(EmptyValue, EmptyValue) = default;
     };
+    /// No value: what an empty cell of a table holds.
     struct NullValue {
         friend bool operator==(NullValue, NullValue) = default;
     };

@@ -28,6 +28,7 @@ struct Outcome {
 /// The statements that somebody is about to run, with what came of those that have been sent ahead.
 class Announcements {
   public:
+    /// One statement and what is known of it.
     struct Item {
         std::string statement;
         bool taken = false;

@@ -4,6 +4,7 @@
 
 namespace Korvane::ado::postgres {
 
+/// The texts of PostgreSQL by which its catalog is read and changed.
 class CatalogDialect final : public ado::CatalogDialect {
   public:
     std::string tablesQuery() const override;

@@ -10,9 +10,9 @@ struct pg_result;
 
 namespace Korvane::ado::postgres {
 
-/// The five characters of the engine's code as the number that a RuntimeError carries (read in base 36), and
-/// back.
+/// The five characters of the engine's code as the number that a RuntimeError carries (read in base 36).
 int nativeCode(std::string_view sqlState);
+/// The five characters that a number stands for.
 std::string sqlState(int nativeCode);
 
 /// Whether a failure may come from tables that another program has changed, or from a value that was lifted

@@ -43,6 +43,7 @@ struct Shape {
     }
 };
 
+/// The shapes that a session keeps.
 using Shapes = ShapeCache<Shape>;
 
 } // namespace Korvane::ado::postgres

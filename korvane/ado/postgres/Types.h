@@ -24,6 +24,7 @@ inline constexpr TypeId timestamp = 1114;
 inline constexpr TypeId numeric = 1700;
 } // namespace types
 
+/// A type of the engine in the terms of a recordset.
 struct NativeType {
     DataType type = DataType::VarWChar;
     std::int32_t size = 0; ///< characters; 0 when the type has no length

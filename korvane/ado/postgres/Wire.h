@@ -14,6 +14,7 @@ struct pg_result;
 
 namespace Korvane::ado::postgres {
 
+/// Gives an answer back to the client library.
 struct ClearResult {
     void operator()(pg_result* result) const;
 };

@@ -9,6 +9,7 @@
 
 namespace Korvane::ado::sql {
 
+/// What a token is.
 enum class TokenKind : std::uint8_t {
     End,
     Word,      ///< a keyword or a plain name
@@ -23,6 +24,7 @@ enum class TokenKind : std::uint8_t {
     Broken,    ///< something that has no end (the rest of the text), or a character that means nothing
 };
 
+/// A token: it refers to the text that was read.
 struct Token {
     TokenKind kind = TokenKind::End;
     std::string_view text;

@@ -37,6 +37,7 @@ template <class... Ts>
 struct Overloaded : Ts... {
     using Ts::operator()...;
 };
+/// Makes it of what stands in the parentheses.
 template <class... Ts>
 Overloaded(Ts...) -> Overloaded<Ts...>;
 
@@ -59,6 +60,7 @@ ColumnValue asItStands(const Literal& literal, std::string& scratch);
 /// Any variant but an array as a literal; `scratch` keeps what its text refers to. TypeMismatch for an array.
 Literal fromVariant(const Variant& value, std::string& scratch);
 
+/// Whether a column of the type keeps any text as it stands.
 bool isTextType(DataType type);
 
 } // namespace Korvane::ado::sql

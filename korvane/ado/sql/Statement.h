@@ -35,10 +35,12 @@ struct Scope {
     std::size_t end = 0;              ///< the token behind it
 };
 
+/// The part of a statement in which a token stands.
 enum class Clause : std::uint8_t { Other, SelectList, From, Set, InsertColumns, Values, Rest };
 
 /// The tokens of a statement with what is known of the place of each.
 struct Statement {
+    /// Where a token stands.
     struct Place {
         int scope = -1;
         Clause clause = Clause::Other;
@@ -71,8 +73,9 @@ struct ColumnRef {
     std::size_t end = 0;
 };
 
-/// The reference that ends just before a token, or that begins at one.
+/// The reference that ends just before a token.
 std::optional<ColumnRef> refBefore(const Statement& statement, std::size_t token);
+/// The reference that begins at a token.
 std::optional<ColumnRef> refAt(const Statement& statement, std::size_t token);
 
 /// The column meant, searched in a scope and in those around it; null when it is not known.

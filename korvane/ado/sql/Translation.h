@@ -39,10 +39,12 @@ struct RowSource {
 
     TableName name() const { return {table, schema}; }
 };
+/// Of a statement that is no such Select: nothing.
 std::optional<RowSource> rowSource(std::string_view statement);
 
-/// What running a statement leaves behind, judged by its first word.
+/// What running a statement leaves behind.
 enum class Effect : std::uint8_t { None, Rows, Schema };
+/// Judged by its first word.
 Effect effectOf(std::string_view statement);
 
 } // namespace Korvane::ado::sql

@@ -4,6 +4,7 @@
 
 namespace Korvane::ado::sqlite {
 
+/// The texts of SQLite by which its catalog is read and changed.
 class CatalogDialect final : public ado::CatalogDialect {
   public:
     std::string tablesQuery() const override;

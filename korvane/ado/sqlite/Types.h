@@ -7,6 +7,7 @@
 
 namespace Korvane::ado::sqlite {
 
+/// A declared type in the terms of a recordset.
 struct DeclaredType {
     DataType type = DataType::VarWChar;
     std::int32_t size = 0; ///< characters; 0 when the type has no length

@@ -10,8 +10,9 @@ namespace Korvane {
 /// is lost or made up: a fraction is not rounded, any text is not "true".
 QVariant propertyValue(const QVariant& value, QMetaType type);
 
-/// For a message: "whole number", and the value as it reads, a text in quotes.
+/// A type for a message: "whole number".
 QString kindOfValue(QMetaType type);
+/// A value for a message: as it reads, a text in quotes.
 QString shownValue(const QVariant& value);
 
 } // namespace Korvane

@@ -14,6 +14,7 @@ namespace Korvane {
 inline QString qt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+/// The way back.
 inline std::string utf8(const QString& text) {
     return text.toStdString();
 }
@@ -26,6 +27,7 @@ inline QString withoutShortcut(QString text) {
 /// To the second, local time as it stands (no time zone arithmetic). A time in the hour that the local zone
 /// skips in spring does not exist as a `QDateTime`: it becomes the one an hour later.
 QDateTime qt(Date date);
+/// The way back, to the second.
 Date fromQt(const QDateTime& dateTime);
 
 } // namespace Korvane

@@ -9,6 +9,7 @@ namespace Korvane {
 ///     for (const std::int16_t group : CountedFrom1(nip.GroupCount())) ...
 class CountedFrom1 {
   public:
+    /// A number counted upwards.
     struct Iterator {
         int index;
         std::int16_t operator*() const { return static_cast<std::int16_t>(index); }

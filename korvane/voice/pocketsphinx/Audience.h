@@ -18,7 +18,9 @@ namespace Korvane::voice {
 /// that changes, and gives what was heard to the one it is meant for.
 class Audience {
   public:
+    /// The commands of one control, and whom to tell which was said.
     struct Menu {
+        /// What is said, and its number for the control.
         struct Command {
             std::int32_t number;
             std::string words;
@@ -28,6 +30,7 @@ class Audience {
         bool active = false;
         std::function<void(std::int32_t)> recognized;
     };
+    /// Whom to tell what was dictated.
     struct Dictation {
         bool dates = true;
         DatePart awaited = DatePart::Any;

@@ -7,8 +7,9 @@
 
 namespace Korvane::voice {
 
-/// The parts that a control uses, on one audience. They may outlive it.
+/// The commands of a control, on an audience that they may outlive.
 std::unique_ptr<VoiceCommandControl> makeVoiceCommand(std::weak_ptr<Audience> audience);
+/// The dictation of a control, likewise.
 std::unique_ptr<DictationControl> makeDictation(std::weak_ptr<Audience> audience);
 
 } // namespace Korvane::voice

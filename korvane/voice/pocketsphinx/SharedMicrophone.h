@@ -38,6 +38,7 @@ class SharedMicrophone {
     std::string mStatus = "The microphone is off.";
 };
 
+/// A switch that turns it on and off.
 std::unique_ptr<MicrophoneSwitch> makeSwitch(const std::shared_ptr<SharedMicrophone>& microphone);
 
 } // namespace Korvane::voice

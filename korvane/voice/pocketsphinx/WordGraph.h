@@ -11,6 +11,7 @@ namespace Korvane::voice {
 /// and sound.
 class WordGraph {
   public:
+    /// A word, or none, on the way from one state to another.
     struct Arc {
         int from, to;
         std::string word;
