@@ -12,6 +12,7 @@ namespace Korvane {
 
 /// One step of bringing the database to a structure that was changed in the model.
 struct StructureStep {
+    /// What the step does.
     enum Kind {
         CreateTable,  ///< the group's, with its key column
         AddColumn,    ///< for a new field

@@ -43,6 +43,7 @@ enum class Deletion { NotRun, NoRow, Run };
 template <typename Record>
 class RecordRow {
   public:
+    /// The host's connection.
     using Connection = std::shared_ptr<ado::Connection>;
 
     RecordRow(std::string_view table, std::span<const RecordColumn<Record>> columns, std::string_view owner)

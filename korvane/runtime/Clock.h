@@ -12,6 +12,7 @@ namespace Korvane {
 ///     Clock::set(nullptr);                                            // the system's clock again
 class Clock {
   public:
+    /// What tells the time.
     using Source = std::function<Date()>;
 
     static Date now();

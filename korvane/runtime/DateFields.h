@@ -10,6 +10,7 @@ namespace Korvane {
 /// A text taken apart into the numbers and month names of a date and a time: what is date and what is time is
 /// told by what stands between them.
 struct DateFields {
+    /// Which half of the day the text names.
     enum class Half { None, Am, Pm };
 
     /// How a field is joined to the one before it.

@@ -31,6 +31,7 @@ class EventHandle {
 template <typename... Args>
 class Event {
   public:
+    /// What is called when the event is raised.
     using Listener = std::function<void(Args...)>;
 
     [[nodiscard]] EventHandle connect(Listener listener) {

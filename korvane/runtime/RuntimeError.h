@@ -13,6 +13,7 @@ namespace Korvane {
 /// A database failure carries, beside one of the numbers below, the engine's own code (`NativeCode`).
 class RuntimeError : public std::runtime_error {
   public:
+    /// The numbers of errors, for `Number`.
     enum Code : int {
         InvalidProcedureCall = 5,
         Overflow = 6,

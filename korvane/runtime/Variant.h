@@ -138,6 +138,7 @@ class Variant {
     /// Same kind and same value; for the ordering of unlike kinds see `compare`.
     friend bool operator==(const Variant& a, const Variant& b);
 
+    /// One type for each kind of value.
     using Storage =
         std::variant<EmptyValue, NullValue, std::int16_t, std::int32_t, float, double, Currency, Date,
                      std::string, bool, Decimal, std::uint8_t, std::shared_ptr<VariantArray>>;

@@ -29,6 +29,7 @@ class Endpointer {
     /// In frames.
     static constexpr int pause = 12, hangover = 22, longest = 450, least = 8, before = 25;
 
+    /// What is told of the sound so far.
     enum Told {
         Nothing,
         Pausing,

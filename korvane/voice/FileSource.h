@@ -17,6 +17,7 @@ namespace Korvane::voice {
 /// microphone off.
 class FileSource : public AudioSource {
   public:
+    /// How fast the file is heard.
     enum class Pace {
         Spoken, ///< as it was spoken
         AtOnce, ///< as fast as it is read

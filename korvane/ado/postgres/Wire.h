@@ -23,6 +23,7 @@ using Answer = std::unique_ptr<pg_result, ClearResult>;
 
 /// One thing that the server is asked to do.
 struct Command {
+    /// What is asked for.
     enum Kind {
         Run,     ///< the text, with values for its parameters
         Prepare, ///< the text under a name, with the types of its parameters
@@ -72,6 +73,7 @@ class Wire {
     void limits(const Limits& limits) { mLimits = limits; }
     const Limits& limits() const { return mLimits; }
 
+    /// Whether a transaction is open on the line, and whether it can go on.
     enum class Transaction { None, Open, Failed };
     /// What the server said last of the transaction that is open on the line.
     Transaction transaction() const;

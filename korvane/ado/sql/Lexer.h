@@ -51,6 +51,7 @@ struct Token {
 /// What a character may be part of, looked up in a table.
 class Characters {
   public:
+    /// What a character may be: a bit each.
     enum Class : std::uint8_t { Blank = 1, Letter = 2, InWord = 4, Digit = 8 };
     static bool is(char c, Class wanted) { return (table[static_cast<unsigned char>(c)] & wanted) != 0; }
 

@@ -12,6 +12,7 @@ namespace Korvane::ado::sql {
 
 /// A value as it stands in a statement (or as it is written through a recordset).
 struct Literal {
+    /// What the value is written as.
     enum Kind : std::uint8_t { Null, Text, Integer, Number, Boolean, Day };
 
     Kind kind = Null;

@@ -18,7 +18,9 @@ namespace Korvane {
 /// The engine hears of the control's focus from here, also when another window comes in front of its own.
 class DateVoice : public QObject {
   public:
+    /// Told which command was said.
     using Commanded = std::function<void(std::int32_t number)>;
+    /// Told what was dictated.
     using Dictated = std::function<void(const std::string& words)>;
 
     /// What is heard may delete the control by `deleteLater`, and this with it.

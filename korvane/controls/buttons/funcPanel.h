@@ -44,8 +44,10 @@ class funcPanel : public ButtonPanel {
     Q_PROPERTY(FontSize ButtonFontSize READ buttonFontCode WRITE buttonFontCode)
 
   public:
+    /// The codes of `buttonStyle`.
     enum ButtonStyle : int { Flat = 0, ThreeDimensional = 1 };
     Q_ENUM(ButtonStyle)
+    /// The codes of the font sizes.
     enum FontSize : int { EightPoints = 0, TenPoints = 1, TwelvePoints = 2 };
     Q_ENUM(FontSize)
 

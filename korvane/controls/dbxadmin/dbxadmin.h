@@ -53,6 +53,7 @@ class dbxadmin : public UserControl {
     Q_PROPERTY(bool UpdateEnabled READ UpdateEnabled WRITE UpdateEnabled)
 
   public:
+    /// How the field is entered: the codes of `displayType`.
     enum DisplayType : int {
         Unspecified = 0,
         TextBox = 1,
@@ -65,8 +66,10 @@ class dbxadmin : public UserControl {
         Email = 8
     };
     Q_ENUM(DisplayType)
+    /// Whether the field has to be filled in.
     enum Requirement : int { NotRequired = 0, Required = 1, JustAReminder = 2 };
     Q_ENUM(Requirement)
+    /// What the button of the list does: the codes of `ListMode`.
     enum ListAction : int { AddToList = 0, RemoveFromList = 1 };
     Q_ENUM(ListAction)
 
@@ -156,6 +159,8 @@ class dbxadmin : public UserControl {
     /// Move button `index` was clicked: 0 first, 1 previous, 2 next, 3 last. A slot may change the index for
     /// the slots after it; the control does nothing with it. It is a reference: no queued connections.
     void RecordMove(qint16& index);
+    /// The update button was clicked. Afterwards `DataChanged` is cleared, unless a slot has set it or the
+    /// user has changed something meanwhile.
     void UpdateClick();
 
   protected:

@@ -12,6 +12,7 @@ class ButtonRow : public QWidget {
     Q_OBJECT
 
   public:
+    /// The buttons, by the index of their names.
     enum Index { Save = 0, Cancel = 1, Customize = 2 };
 
     explicit ButtonRow(QWidget* parent = nullptr);

@@ -13,6 +13,7 @@ namespace Korvane {
 /// of which the first is empty, so that an answer can be taken back.
 class ComboEntry : public EntryControl {
   public:
+    /// What may be entered: "Combobox" and "Combobox-Restricted".
     enum Accepts { AnyText, ItemsOnly };
 
     ComboEntry(EntrySite entrySite, Accepts accepts);
