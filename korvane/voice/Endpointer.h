@@ -25,7 +25,7 @@ class Endpointer {
   public:
     static constexpr std::size_t frame = AudioSource::sampleRate / 100;
     /// In dB.
-    static constexpr double clearBy = 14;
+    static constexpr double clearBy = 17;
     /// In frames.
     static constexpr int pause = 12, hangover = 22, longest = 450, least = 8, before = 25;
 
