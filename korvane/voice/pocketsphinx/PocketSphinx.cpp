@@ -11,9 +11,10 @@ namespace {
 
 class PocketSphinxEngine : public SpeechEngine {
   public:
-    PocketSphinxEngine(std::shared_ptr<AudioSource> source, Post post, const std::filesystem::path& model)
+    PocketSphinxEngine(std::shared_ptr<AudioSource> source, const Post& post,
+                       const std::filesystem::path& model)
         : mMicrophone(std::make_shared<SharedMicrophone>(std::move(source))),
-          mListener(mMicrophone->source(), std::make_unique<Decoder>(model), reports(std::move(post))) {
+          mListener(mMicrophone->source(), std::make_unique<Decoder>(model), reports(post)) {
         mMicrophone->reader(&mListener);
         mAudience->wants = [this](const Wanted& wanted) { mListener.want(wanted); };
     }
@@ -60,11 +61,10 @@ class PocketSphinxEngine : public SpeechEngine {
 
 } // namespace
 
-std::shared_ptr<SpeechEngine> openPocketSphinx(std::shared_ptr<AudioSource> source, Post post,
+std::shared_ptr<SpeechEngine> openPocketSphinx(std::shared_ptr<AudioSource> source, const Post& post,
                                                const std::filesystem::path& model) {
-    return std::make_shared<PocketSphinxEngine>(std::move(source), std::move(post),
-                                                model.empty() ? std::filesystem::path(KORVANE_SPEECH_MODEL)
-                                                              : model);
+    return std::make_shared<PocketSphinxEngine>(
+        std::move(source), post, model.empty() ? std::filesystem::path(KORVANE_SPEECH_MODEL) : model);
 }
 
 } // namespace Korvane::voice

@@ -23,7 +23,7 @@ namespace Korvane::voice {
 ///
 /// Destroying the engine switches the microphone off and waits for the answer being worked on, well under a
 /// second.
-std::shared_ptr<SpeechEngine> openPocketSphinx(std::shared_ptr<AudioSource> source, Post post,
+std::shared_ptr<SpeechEngine> openPocketSphinx(std::shared_ptr<AudioSource> source, const Post& post,
                                                const std::filesystem::path& model = {});
 
 } // namespace Korvane::voice
