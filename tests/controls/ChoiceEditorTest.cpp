@@ -1,3 +1,4 @@
+#include "support/InFront.h"
 #include "support/RecordingInteraction.h"
 
 #include <korvane/controls/nippanel/ChoiceEditor.h>
@@ -37,9 +38,7 @@ struct Editing {
         editor.show({"A", "B", "C", "D"}, 1);
         QObject::connect(&editor, &ChoiceEditor::edited, &editor, [this] { ++edits; });
         editor.resize(300, 250);
-        editor.show();
-        editor.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&editor));
+        Testing::bringToFront(editor);
         list().setFocus();
     }
 

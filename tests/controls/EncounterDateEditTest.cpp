@@ -1,3 +1,4 @@
+#include "support/InFront.h"
 #include "support/PanelDesk.h"
 
 #include <QApplication>
@@ -16,8 +17,7 @@ const ShownBox notADate{"The date of this encounter is not a valid date. Please 
 /// A saved Nip of 1/2/2026 3:04:05 PM with the focus on its date, reached with the Tab key.
 struct DateDesk : PanelDesk {
     DateDesk() {
-        panel.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
+        Testing::bringToFront(panel);
         load();
         description().setFocus();
         QTest::keyClick(&description(), Qt::Key_Tab);

@@ -1,3 +1,4 @@
+#include "support/InFront.h"
 #include "support/PanelDesk.h"
 
 #include <QWheelEvent>
@@ -24,8 +25,7 @@ TEST(EncounterPane, OffersTheProvidersAsTheTableHasThem) {
 
 TEST(EncounterPane, IsNotChangedByAWheelAndTakesADescriptionOfAnyLength) {
     PanelDesk desk;
-    desk.panel.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&desk.panel));
+    Testing::bringToFront(desk.panel);
     desk.db->quietly("Update Encounter Set Description='" + std::string(40000, 'x') + "'");
     desk.load();
     for (QWidget* control : {static_cast<QWidget*>(&desk.providers()), static_cast<QWidget*>(&desk.date())}) {

@@ -1,4 +1,5 @@
 #include "support/DateForm.h"
+#include "support/InFront.h"
 
 #include <QMenuBar>
 #include <QMessageBox>
@@ -54,8 +55,7 @@ TEST(FocusSteps, ARefusedYearGetsTheFocusBackBehindTheBoxThatToldOfIt) {
     form.press("\t\t\t202");
     form.take();
     QTest::mouseClick(form.help, Qt::LeftButton);
-    form.form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form.form));
+    Testing::bringToFront(form.form);
     EXPECT_EQ(form.focus(), "2");
     EXPECT_THAT(form.take(), ElementsAre("Year requires four digits. Please re-enter.", "index 2"));
 }
@@ -108,13 +108,10 @@ TEST(FocusSteps, TheFocusMayBeMovedBehindAnotherWindow) {
     form.press("\t");
     form.take();
     QWidget other;
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    Testing::bringToFront(other);
     form.after->setFocus();
     EXPECT_THAT(form.take(), IsEmpty());
-    form.form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form.form));
+    Testing::bringToFront(form.form);
     EXPECT_THAT(form.take(), ElementsAre("exitfocus"));
     EXPECT_TRUE(form.whole().isVisible());
 }

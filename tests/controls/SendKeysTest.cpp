@@ -1,6 +1,7 @@
 #include <korvane/controls/container/SendKeys.h>
 
 #include "support/DateForm.h"
+#include "support/InFront.h"
 
 namespace Korvane {
 
@@ -22,10 +23,7 @@ TEST(SendKeys, GoToWhatHasTheFocusWhenTheirTurnComes) {
 
 TEST(SendKeys, AreForTheWindowInFrontAndNoOther) {
     DateForm other, form;
-    QObject::connect(form.before, &QLineEdit::textEdited, [&] {
-        other.form.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&other.form));
-    });
+    QObject::connect(form.before, &QLineEdit::textEdited, [&] { Testing::bringToFront(other.form); });
     sendKeys("ab");
     QCoreApplication::processEvents();
     EXPECT_EQ(form.before->text(), "a");

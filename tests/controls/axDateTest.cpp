@@ -1,4 +1,5 @@
 #include "support/DateForm.h"
+#include "support/InFront.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -359,11 +360,8 @@ TEST(axDate, AnotherWindowInFrontIsNoLeaving) {
     form.press("\t13");
     form.take();
     QWidget other;
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    form.form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form.form));
+    Testing::bringToFront(other);
+    Testing::bringToFront(form.form);
     EXPECT_EQ(form.focus(), "0");
     EXPECT_THAT(form.take(), IsEmpty());
 }

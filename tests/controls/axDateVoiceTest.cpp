@@ -1,5 +1,6 @@
 #include "support/DateForm.h"
 #include "support/FakeSpeech.h"
+#include "support/InFront.h"
 
 #include <korvane/controls/axdate/PlaceDictated.h>
 
@@ -118,15 +119,8 @@ TEST(axDateVoice, WhatWasSaidChangesNothingUnlessABoxHasTheFocusWhenItArrives) {
     QDialog box(&l.form.form);
     QMenu menu(&l.form.form);
     QWidget other;
-    const auto show = [](QWidget& window) {
-        window.show();
-        window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-    };
-    const auto back = [&] {
-        l.form.form.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&l.form.form));
-    };
+    const auto show = [](QWidget& window) { Testing::bringToFront(window); };
+    const auto back = [&] { Testing::bringToFront(l.form.form); };
     struct Case {
         const char* when;
         std::function<void()> begin, end;
@@ -170,8 +164,7 @@ TEST(axDateVoice, OfTwoControlsTheOneWithTheFocusListens) {
     l.speech.command(2, 1);
     EXPECT_EQ(other.focus(), "2");
     EXPECT_THAT(l.speech.take(), ElementsAre("deDate.Awaited Year"));
-    l.form.form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&l.form.form));
+    Testing::bringToFront(l.form.form);
     EXPECT_THAT(l.speech.take(), ElementsAre("A has the focus", "deDate.Activate true", "B lost the focus"))
         << "the other one may have dictated meanwhile";
     EXPECT_EQ(l.form.focus(), "0");

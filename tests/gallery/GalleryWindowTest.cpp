@@ -1,5 +1,7 @@
 #include "gallery/GalleryWindow.h"
 
+#include "support/InFront.h"
+
 #include <QApplication>
 #include <QTest>
 
@@ -9,9 +11,7 @@ namespace Gallery {
 
 TEST(GalleryWindow, CanBeReachedByKeysInTheOrderInWhichItIsSeen) {
     GalleryWindow window;
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    Korvane::Testing::bringToFront(window);
     const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
         return QApplication::focusWidget()->objectName();

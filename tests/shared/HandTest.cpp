@@ -1,6 +1,8 @@
 #include "shared/Hand.h"
 #include "shared/Failure.h"
 
+#include "support/InFront.h"
+
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -71,8 +73,7 @@ TEST_F(Hands, FailWhereABoxIsMissingUnexpectedOrNotAsItShouldBe) {
         {[&] { hand.answering([&] { hand.click(button); }, [](QWidget&) { throw Failure("no icon"); }); },
          "no icon"}};
     for (const auto& [deed, message] : failures) {
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        Korvane::Testing::bringToFront(window);
         EXPECT_THAT(deed, ThrowsMessage<Failure>(HasSubstr(message)));
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/InFront.h"
 #include "support/RecordingInteraction.h"
 
 #include <korvane/controls/container/Text.h>
@@ -44,9 +45,7 @@ class AdminDesk {
         QObject::connect(admin, &dbxadmin::UpdateClick, [this] { hear("update"); });
         QObject::connect(admin, &dbxadmin::RecordMove,
                          [this](qint16& index) { hear("move " + std::to_string(index)); });
-        form.show();
-        form.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+        Testing::bringToFront(form);
         admin->setFocus();
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/InFront.h"
 #include "support/RecordingInteraction.h"
 
 #include <korvane/controls/buttons/ButtonPanel.h>
@@ -39,9 +40,7 @@ class ButtonForm {
         for (QWidget* each : std::initializer_list<QWidget*>{before, panel, after})
             rows->addWidget(each);
         QObject::connect(panel, &Panel::btnClick, [this](qint16 index) { mClicks.push_back(index); });
-        form.show();
-        form.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+        Testing::bringToFront(form);
         before->setFocus();
     }
 

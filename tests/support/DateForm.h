@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/InFront.h"
 #include "support/RecordingInteraction.h"
 
 #include <korvane/controls/axdate/axDate.h>
@@ -45,9 +46,7 @@ class DateForm {
         QObject::connect(date, &axDate::Exception, [this](const QString& text) { hear(utf8(text)); });
         QObject::connect(date, &axDate::SystemMessage, [this](const QString& text) { hear(utf8(text)); });
         QObject::connect(date, &axDate::OnChange, [this] { hear("changed"); });
-        form.show();
-        form.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+        Testing::bringToFront(form);
         before->setFocus();
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/InFront.h"
 #include "support/NipDatabase.h"
 
 #include <korvane/controls/container/Text.h>
@@ -73,9 +74,7 @@ class NipForm : public NipDatabase {
         tabs.CreateNipControls(nip);
         reload();
         window.resize(size);
-        window.show();
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        Testing::bringToFront(window);
     }
 
     /// Shows what is stored.
