@@ -15,20 +15,20 @@ struct Options {
     QString tourDirectory;
     QString soundFile;
     int fontScale = 100;
+
+    Q_DECLARE_TR_FUNCTIONS(DateForm::Options)
 };
 
 Options readOptions() {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("The date control on a form, with every event it raises."));
-    parser.addOptions({{QStringLiteral("tour"),
-                        QStringLiteral("Drive the form by itself, and leave a picture of each step in this "
-                                       "directory."),
-                        QStringLiteral("dir")},
-                       {QStringLiteral("sound"),
-                        QStringLiteral("Listen to this sound file (WAV, 16 bits) instead of the microphone."),
-                        QStringLiteral("file")},
-                       Apps::fontScaleOption()});
+    parser.setApplicationDescription(Options::tr("The date control on a form, with every event it raises."));
+    parser.addOptions(
+        {Apps::tourOption(Options::tr("Drive the form by itself, and leave a picture of each step in this "
+                                      "directory.")),
+         {QStringLiteral("sound"),
+          Options::tr("Listen to this sound file (WAV, 16 bits) instead of the microphone."),
+          Options::tr("file")},
+         Apps::fontScaleOption()});
     Apps::readOptions(parser, QCoreApplication::arguments());
     return {Apps::tourDirectory(parser), parser.value(QStringLiteral("sound")), Apps::fontScale(parser, 100)};
 }

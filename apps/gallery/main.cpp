@@ -13,17 +13,18 @@ namespace {
 struct Options {
     QString tourDirectory;
     int fontScale = 100;
+
+    Q_DECLARE_TR_FUNCTIONS(Gallery::Options)
 };
 
 Options readOptions() {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Every control of the library, with its properties to change and the events it raises."));
-    parser.addOptions({{QStringLiteral("tour"),
-                        QStringLiteral("Drive the window by itself, and leave a picture of each step in this "
-                                       "directory."),
-                        QStringLiteral("dir")},
-                       Apps::fontScaleOption()});
+    parser.setApplicationDescription(
+        Options::tr("Every control of the library, with its properties to change and the events it raises."));
+    parser.addOptions(
+        {Apps::tourOption(Options::tr("Drive the window by itself, and leave a picture of each step in this "
+                                      "directory.")),
+         Apps::fontScaleOption()});
     Apps::readOptions(parser, QCoreApplication::arguments());
     return {Apps::tourDirectory(parser), Apps::fontScale(parser, 100)};
 }

@@ -1,5 +1,7 @@
 #include "shared/CommandLine.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -10,9 +12,9 @@ namespace Apps {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Apps::CommandLine", text);
-}
+struct CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(Apps::CommandLine)
+};
 
 } // namespace
 
@@ -34,13 +36,19 @@ void readOptions(QCommandLineParser& parser, const QStringList& arguments) {
     parser.addVersionOption();
     parser.process(arguments);
     if (!parser.positionalArguments().isEmpty())
-        refuse(
-            tr("\"%1\" is not understood; --help tells what is.").arg(parser.positionalArguments().first()));
+        refuse(CommandLine::tr("\"%1\" is not understood; --help tells what is.")
+                   .arg(parser.positionalArguments().first()));
 }
 
-QCommandLineOption fontScaleOption(const QString& more) {
-    return {QStringLiteral("font-scale"), tr("Text size in percent, 70 to 300%1.").arg(more),
-            QStringLiteral("percent")};
+QCommandLineOption fontScaleOption(bool isKept) {
+    return {QStringLiteral("font-scale"),
+            isKept ? CommandLine::tr("Text size in percent, 70 to 300; kept for the next start.")
+                   : CommandLine::tr("Text size in percent, 70 to 300."),
+            CommandLine::tr("percent")};
+}
+
+QCommandLineOption tourOption(const QString& description) {
+    return {QStringLiteral("tour"), description, CommandLine::tr("dir")};
 }
 
 int fontScale(const QCommandLineParser& parser, int otherwise) {
@@ -48,13 +56,15 @@ int fontScale(const QCommandLineParser& parser, int otherwise) {
     if (!parser.isSet(name)) return otherwise;
     bool isNumber = false;
     const int scale = parser.value(name).toInt(&isNumber);
-    if (!isNumber || scale < 70 || scale > 300) refuse(tr("--font-scale takes a number from 70 to 300."));
+    if (!isNumber || scale < 70 || scale > 300)
+        refuse(CommandLine::tr("--font-scale takes a number from 70 to 300."));
     return scale;
 }
 
 QString tourDirectory(const QCommandLineParser& parser) {
     const QString name = QStringLiteral("tour");
-    if (parser.isSet(name) && parser.value(name).isEmpty()) refuse(tr("--tour needs a directory."));
+    if (parser.isSet(name) && parser.value(name).isEmpty())
+        refuse(CommandLine::tr("--tour needs a directory."));
     return parser.value(name);
 }
 

@@ -15,12 +15,14 @@ bool needsNoScreen(int argc, char** argv);
 /// application object.
 void readOptions(QCommandLineParser& parser, const QStringList& arguments);
 
-/// The option of the text size in percent, and what was given for it. Refuses what is no number from 70 to
-/// 300.
-QCommandLineOption fontScaleOption(const QString& more = {});
+/// The option of the text size in percent, which may be kept for the next start, and what was given for it.
+/// Refuses what is no number from 70 to 300.
+QCommandLineOption fontScaleOption(bool isKept = false);
 int fontScale(const QCommandLineParser& parser, int otherwise);
 
-/// The directory given for --tour; empty when none is wanted. Refuses an empty name.
+/// The option of the guided tour, and the directory given for it: empty when none is wanted. Refuses an empty
+/// name.
+QCommandLineOption tourOption(const QString& description);
 QString tourDirectory(const QCommandLineParser& parser);
 
 } // namespace Apps
