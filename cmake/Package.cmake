@@ -37,7 +37,7 @@ korvane_package(libkorvane libs "data-entry controls and data classes for clinic
 Forms that a clinic shapes itself, kept in the tables of its own database on
 SQLite or PostgreSQL: classes that load and save them, and Qt controls that
 show them. With a date control that listens, and panels of buttons.")
-set(CPACK_DEBIAN_LIBKORVANE_PACKAGE_RECOMMENDS "pocketsphinx-en-us")
+set(CPACK_DEBIAN_LIBKORVANE_PACKAGE_RECOMMENDS "pocketsphinx-en-us, qt6-translations-l10n")
 
 set(needed libsqlite3-dev)
 if(KORVANE_POSTGRES)

@@ -5,6 +5,7 @@
 #include "clinic/Options.h"
 #include "clinic/tour/Tour.h"
 #include "shared/CommandLine.h"
+#include "shared/Language.h"
 #include "shared/Screen.h"
 
 #include <korvane/controls/container/Busy.h>
@@ -68,10 +69,12 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
     if (Apps::needsNoScreen(argc, argv)) {
         const QCoreApplication application(argc, argv);
+        Apps::chooseLanguage(QCoreApplication::arguments());
         Clinic::readOptions(QCoreApplication::arguments());
     }
     if (!Apps::readyScreen("korvane-clinic", argc, argv)) return 1;
     const QApplication application(argc, argv);
+    Apps::chooseLanguage(QCoreApplication::arguments());
     const Clinic::Options options = Clinic::readOptions(QCoreApplication::arguments());
     Korvane::QtInteraction::installOnce();
     if (!options.tourDirectory.isEmpty())

@@ -4,6 +4,7 @@
 #include "dateform/Tour.h"
 #include "dateform/engine/Engine.h"
 #include "shared/CommandLine.h"
+#include "shared/Language.h"
 #include "shared/ScaledFont.h"
 #include "shared/Screen.h"
 
@@ -48,10 +49,12 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
     if (Apps::needsNoScreen(argc, argv)) {
         const QCoreApplication application(argc, argv);
+        Apps::chooseLanguage(QCoreApplication::arguments());
         readOptions();
     }
     if (!Apps::readyScreen("korvane-dateform", argc, argv)) return 1;
     const QApplication application(argc, argv);
+    Apps::chooseLanguage(QCoreApplication::arguments());
     const Options options = readOptions();
     if (!options.tourDirectory.isEmpty()) return DateForm::runTour(options.tourDirectory, options.fontScale);
     return openForm(options);

@@ -3,6 +3,7 @@
 #include "gallery/GalleryWindow.h"
 #include "gallery/Tour.h"
 #include "shared/CommandLine.h"
+#include "shared/Language.h"
 #include "shared/ScaledFont.h"
 #include "shared/Screen.h"
 
@@ -43,10 +44,12 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
     if (Apps::needsNoScreen(argc, argv)) {
         const QCoreApplication application(argc, argv);
+        Apps::chooseLanguage(QCoreApplication::arguments());
         readOptions();
     }
     if (!Apps::readyScreen("korvane-gallery", argc, argv)) return 1;
     const QApplication application(argc, argv);
+    Apps::chooseLanguage(QCoreApplication::arguments());
     const Options options = readOptions();
     if (!options.tourDirectory.isEmpty()) return Gallery::runTour(options.tourDirectory, options.fontScale);
     return openWindow(options);

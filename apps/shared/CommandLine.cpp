@@ -1,5 +1,7 @@
 #include "shared/CommandLine.h"
 
+#include "shared/Language.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -32,6 +34,7 @@ void refuse(const QString& why) {
 }
 
 void readOptions(QCommandLineParser& parser, const QStringList& arguments) {
+    parser.addOption(languageOption());
     parser.addHelpOption();
     parser.addVersionOption();
     parser.process(arguments);

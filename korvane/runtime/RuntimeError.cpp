@@ -1,5 +1,7 @@
 #include <korvane/runtime/RuntimeError.h>
 
+#include <korvane/runtime/Translation.h>
+
 #include <algorithm>
 #include <exception>
 #include <iterator>
@@ -16,32 +18,42 @@ struct Description {
 };
 
 constexpr Description usualDescriptions[] = {
-    {RuntimeError::InvalidProcedureCall, "Invalid procedure call or argument"},
-    {RuntimeError::Overflow, "Overflow"},
-    {RuntimeError::OutOfMemory, "Out of memory"},
-    {RuntimeError::SubscriptOutOfRange, "Subscript out of range"},
-    {RuntimeError::DivisionByZero, "Division by zero"},
-    {RuntimeError::TypeMismatch, "Type mismatch"},
-    {RuntimeError::FileNotFound, "File not found"},
-    {RuntimeError::DeviceIo, "Device I/O error"},
-    {RuntimeError::DiskFull, "Disk full"},
-    {RuntimeError::PermissionDenied, "Permission denied"},
-    {RuntimeError::InvalidUseOfNull, "Invalid use of Null"},
-    {RuntimeError::DuplicateKey, "This key is already in use"},
-    {RuntimeError::InvalidArgument, "An argument is of the wrong type or out of its range"},
-    {RuntimeError::NoCurrentRecord, "There is no current record"},
-    {RuntimeError::ReadOnlyRecordset, "The recordset does not allow changes"},
-    {RuntimeError::TransactionOpen, "Not possible while a transaction is open"},
-    {RuntimeError::ItemNotFound, "There is no item of that name or index"},
-    {RuntimeError::ObjectClosed, "Not possible while the object is closed"},
-    {RuntimeError::ObjectOpen, "Not possible while the object is open"},
-    {RuntimeError::InvalidConnection, "The connection is missing, closed or not valid here"},
-    {RuntimeError::DatabaseFailure, "The database reported a failure"},
+    {RuntimeError::InvalidProcedureCall,
+     translatable("Korvane::RuntimeError", "Invalid procedure call or argument")},
+    {RuntimeError::Overflow, translatable("Korvane::RuntimeError", "Overflow")},
+    {RuntimeError::OutOfMemory, translatable("Korvane::RuntimeError", "Out of memory")},
+    {RuntimeError::SubscriptOutOfRange, translatable("Korvane::RuntimeError", "Subscript out of range")},
+    {RuntimeError::DivisionByZero, translatable("Korvane::RuntimeError", "Division by zero")},
+    {RuntimeError::TypeMismatch, translatable("Korvane::RuntimeError", "Type mismatch")},
+    {RuntimeError::FileNotFound, translatable("Korvane::RuntimeError", "File not found")},
+    {RuntimeError::DeviceIo, translatable("Korvane::RuntimeError", "Device I/O error")},
+    {RuntimeError::DiskFull, translatable("Korvane::RuntimeError", "Disk full")},
+    {RuntimeError::PermissionDenied, translatable("Korvane::RuntimeError", "Permission denied")},
+    {RuntimeError::InvalidUseOfNull, translatable("Korvane::RuntimeError", "Invalid use of Null")},
+    {RuntimeError::DuplicateKey, translatable("Korvane::RuntimeError", "This key is already in use")},
+    {RuntimeError::InvalidArgument,
+     translatable("Korvane::RuntimeError", "An argument is of the wrong type or out of its range")},
+    {RuntimeError::NoCurrentRecord, translatable("Korvane::RuntimeError", "There is no current record")},
+    {RuntimeError::ReadOnlyRecordset,
+     translatable("Korvane::RuntimeError", "The recordset does not allow changes")},
+    {RuntimeError::TransactionOpen,
+     translatable("Korvane::RuntimeError", "Not possible while a transaction is open")},
+    {RuntimeError::ItemNotFound,
+     translatable("Korvane::RuntimeError", "There is no item of that name or index")},
+    {RuntimeError::ObjectClosed,
+     translatable("Korvane::RuntimeError", "Not possible while the object is closed")},
+    {RuntimeError::ObjectOpen,
+     translatable("Korvane::RuntimeError", "Not possible while the object is open")},
+    {RuntimeError::InvalidConnection,
+     translatable("Korvane::RuntimeError", "The connection is missing, closed or not valid here")},
+    {RuntimeError::DatabaseFailure, translatable("Korvane::RuntimeError", "The database reported a failure")},
 };
 
-const char* usualDescription(int number) {
+std::string usualDescription(int number) {
     const auto* const found = std::ranges::find(usualDescriptions, number, &Description::number);
-    return found == std::end(usualDescriptions) ? "Unknown error" : found->text;
+    return translate("Korvane::RuntimeError", found == std::end(usualDescriptions)
+                                                  ? translatable("Korvane::RuntimeError", "Unknown error")
+                                                  : found->text);
 }
 
 } // namespace

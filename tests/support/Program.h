@@ -20,6 +20,7 @@ inline Outcome run(const ScratchDir& home, const QStringList& arguments) {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("LANGUAGE", "en"); // whatever the machine's is
     for (const char* place : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         environment.insert(place, QString::fromStdString(home.path().string()));
     program.setProcessEnvironment(environment);

@@ -1,0 +1,28 @@
+# korvane_translations(<target> <name>): compiles translations/<name>_<language>.ts into the target, where they are
+# :/korvane/translations/<name>_<language>.qm after Q_INIT_RESOURCE(<name>). Without lrelease the target has none, and speaks English.
+find_package(Qt6 6.4 QUIET COMPONENTS LinguistTools)
+if(NOT TARGET Qt6::lrelease)
+    message(STATUS "No translations: lrelease was not found (Debian: qt6-tools-dev, qt6-l10n-tools)")
+endif()
+
+function(korvane_translations target name)
+    set(catalogues "")
+    set(entries "")
+    set(stem ${PROJECT_SOURCE_DIR}/translations/${name}_[a-z][a-z])
+    file(GLOB sources CONFIGURE_DEPENDS ${stem}.ts ${stem}_*.ts)
+    if(NOT TARGET Qt6::lrelease)
+        set(sources "")
+    endif()
+    foreach(source IN LISTS sources)
+        cmake_path(GET source STEM stem)
+        add_custom_command(OUTPUT ${stem}.qm COMMAND Qt6::lrelease -silent ${source} -qm ${stem}.qm DEPENDS ${source} VERBATIM)
+        list(APPEND catalogues ${CMAKE_CURRENT_BINARY_DIR}/${stem}.qm)
+        string(APPEND entries "<file>${stem}.qm</file>")
+    endforeach()
+    file(CONFIGURE OUTPUT ${name}.qrc CONTENT "<RCC><qresource prefix=\"/korvane/translations\">${entries}</qresource></RCC>\n")
+    set(qrc ${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc)
+    add_custom_command(OUTPUT qrc_${name}.cpp COMMAND Qt6::rcc --name ${name} -o qrc_${name}.cpp ${qrc}
+        DEPENDS ${qrc} ${catalogues} VERBATIM)
+    target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/qrc_${name}.cpp)
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/qrc_${name}.cpp PROPERTIES SKIP_AUTOGEN ON)
+endfunction()
