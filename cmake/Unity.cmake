@@ -2,7 +2,7 @@
 # together does not change with the next file, as it would with batches of a size.
 
 # Sources that give a name the meaning that fits them, as another of their folder does: they are compiled by themselves.
-set(alone apps/clinic/Help.cpp apps/clinic/Options.cpp apps/clinic/sample/LformsPanel.cpp apps/clinic/tour/CustomizingSteps.cpp
+set(alone apps/clinic/sample/LformsPanel.cpp apps/clinic/tour/CustomizingSteps.cpp
     korvane/ado/postgres/Settings.cpp korvane/ado/postgres/Types.cpp korvane/controls/buttons/movebtn.cpp
     korvane/controls/dbxadmin/ValueListParts.cpp
     korvane/nip/LoadStructure.cpp korvane/records/Encounter.cpp tests/controls/axDateTest.cpp tests/fuzz/Keeping.cpp

@@ -1,6 +1,5 @@
 #include "clinic/Actions.h"
 
-#include <QCoreApplication>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QStyle>
@@ -10,10 +9,6 @@ namespace Clinic {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Clinic::Actions", text);
-}
-
 QAction* make(QMainWindow& window, const char* name, const QString& text, const QString& tip,
               const QList<QKeySequence>& keys) {
     auto* action = new QAction(text, &window);
@@ -22,47 +17,49 @@ QAction* make(QMainWindow& window, const char* name, const QString& text, const 
     action->setStatusTip(tip);
     QString plain = text;
     plain.remove(u'&');
-    action->setToolTip(keys.isEmpty()
-                           ? plain
-                           : plain + QStringLiteral(" (") + keys.first().toString(QKeySequence::NativeText) +
-                                 QStringLiteral(")"));
+    action->setToolTip(
+        keys.isEmpty() ? plain
+                       : Actions::tr("%1 (%2)").arg(plain, keys.first().toString(QKeySequence::NativeText)));
     return action;
 }
 
 } // namespace
 
 Actions::Actions(QMainWindow& window) {
-    const auto action = [&](const char* name, const char* text, const char* tip,
+    const auto action = [&](const char* name, const QString& text, const QString& tip,
                             const QList<QKeySequence>& shortcuts) {
-        return make(window, name, tr(text), tr(tip), shortcuts);
+        return make(window, name, text, tip, shortcuts);
     };
-    newNip =
-        action("actionNewNip", "&New Nip", "Enter a new Nip for the chosen patient", {Qt::CTRL | Qt::Key_N});
-    openNip = action("actionOpenNip", "&Open Nip", "Open the Nip of the chosen encounter (Enter in the list)",
-                     {Qt::CTRL | Qt::Key_O});
-    saveNip = action("actionSaveNip", "&Save Nip", "Save the Nip and close it", {Qt::CTRL | Qt::Key_S});
-    closeNip = action("actionCloseNip", "&Close Nip", "Close the Nip without saving", {Qt::CTRL | Qt::Key_W});
-    quit = action("actionQuit", "&Quit", "Close the window", {Qt::CTRL | Qt::Key_Q});
-    findPatient = action("actionFindPatient", "&Find Patient", "Search by part of a name or an ID",
+    newNip = action("actionNewNip", tr("&New Nip"), tr("Enter a new Nip for the chosen patient"),
+                    {Qt::CTRL | Qt::Key_N});
+    openNip = action("actionOpenNip", tr("&Open Nip"),
+                     tr("Open the Nip of the chosen encounter (Enter in the list)"), {Qt::CTRL | Qt::Key_O});
+    saveNip =
+        action("actionSaveNip", tr("&Save Nip"), tr("Save the Nip and close it"), {Qt::CTRL | Qt::Key_S});
+    closeNip = action("actionCloseNip", tr("&Close Nip"), tr("Close the Nip without saving"),
+                      {Qt::CTRL | Qt::Key_W});
+    quit = action("actionQuit", tr("&Quit"), tr("Close the window"), {Qt::CTRL | Qt::Key_Q});
+    findPatient = action("actionFindPatient", tr("&Find Patient"), tr("Search by part of a name or an ID"),
                          {Qt::CTRL | Qt::Key_F});
-    reload =
-        action("actionReload", "&Reload",
-               "Read patients and encounters again; reconnects to a database that was lost", {Qt::Key_F5});
-    showLists = action("actionShowLists", "Patients and &Encounters",
-                       "Show or hide the lists beside an open Nip", {Qt::Key_F9});
+    reload = action("actionReload", tr("&Reload"),
+                    tr("Read patients and encounters again; reconnects to a database that was lost"),
+                    {Qt::Key_F5});
+    showLists = action("actionShowLists", tr("Patients and &Encounters"),
+                       tr("Show or hide the lists beside an open Nip"), {Qt::Key_F9});
     showLists->setCheckable(true);
     showLists->setChecked(true);
-    nextPane = action("actionNextPane", "Ne&xt Pane", "Go to the next part of the window", {Qt::Key_F6});
-    previousPane = action("actionPreviousPane", "&Previous Pane", "Go to the part of the window before",
-                          {Qt::SHIFT | Qt::Key_F6});
-    largerText = action("actionLargerText", "&Larger Text", "Make all text larger",
+    nextPane =
+        action("actionNextPane", tr("Ne&xt Pane"), tr("Go to the next part of the window"), {Qt::Key_F6});
+    previousPane = action("actionPreviousPane", tr("&Previous Pane"),
+                          tr("Go to the part of the window before"), {Qt::SHIFT | Qt::Key_F6});
+    largerText = action("actionLargerText", tr("&Larger Text"), tr("Make all text larger"),
                         {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
-    smallerText =
-        action("actionSmallerText", "&Smaller Text", "Make all text smaller", {Qt::CTRL | Qt::Key_Minus});
-    usualText =
-        action("actionUsualText", "&Usual Text Size", "Text in its usual size", {Qt::CTRL | Qt::Key_0});
-    keys = action("actionKeys", "&Keyboard", "Which keys do what", {Qt::Key_F1});
-    about = action("actionAbout", "&About", "What this program is", {});
+    smallerText = action("actionSmallerText", tr("&Smaller Text"), tr("Make all text smaller"),
+                         {Qt::CTRL | Qt::Key_Minus});
+    usualText = action("actionUsualText", tr("&Usual Text Size"), tr("Text in its usual size"),
+                       {Qt::CTRL | Qt::Key_0});
+    keys = action("actionKeys", tr("&Keyboard"), tr("Which keys do what"), {Qt::Key_F1});
+    about = action("actionAbout", tr("&About"), tr("What this program is"), {});
     fillMenus(window);
     fillToolBar(window);
 }

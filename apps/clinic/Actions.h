@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QCoreApplication>
 
 class QMainWindow;
 
@@ -30,6 +31,8 @@ struct Actions {
   private:
     void fillMenus(QMainWindow& window) const;
     void fillToolBar(QMainWindow& window) const;
+
+    Q_DECLARE_TR_FUNCTIONS(Clinic::Actions)
 };
 
 } // namespace Clinic

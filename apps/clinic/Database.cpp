@@ -6,6 +6,7 @@
 #include <korvane/controls/container/Text.h>
 #include <korvane/runtime/RuntimeError.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -43,8 +44,10 @@ bool isEmpty(const std::shared_ptr<Korvane::ado::Connection>& connection) {
 QString defaultDatabase() {
     const QString directory = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     if (!QDir().mkpath(directory))
-        throw RuntimeError(RuntimeError::PermissionDenied,
-                           "The directory " + utf8(directory) + " cannot be made.");
+        throw RuntimeError(
+            RuntimeError::PermissionDenied,
+            utf8(QCoreApplication::translate("Clinic::Database", "The directory %1 cannot be made.")
+                     .arg(directory)));
     return QStringLiteral("sqlite:") + directory + QStringLiteral("/clinic.db");
 }
 

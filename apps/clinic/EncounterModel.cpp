@@ -104,7 +104,8 @@ QVariant EncounterModel::data(const QModelIndex& index, int role) const {
     case Qt::ToolTipRole:
         return toolTip(line, index.column());
     case Qt::AccessibleTextRole:
-        return text(line, index.column()) + (open && index.column() == Date ? tr(", open") : QString());
+        return open && index.column() == Date ? tr("%1, open").arg(text(line, Date))
+                                              : text(line, index.column());
     case Qt::FontRole:
         if (open) {
             QFont font; // only its weight counts, the size is the view's
@@ -125,7 +126,7 @@ QVariant EncounterModel::headerData(int section, Qt::Orientation orientation, in
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};
-    static const QStringList names{tr("Date"), tr("Description"), tr("Provider")};
+    const QStringList names{tr("Date"), tr("Description"), tr("Provider")};
     return names.value(section);
 }
 

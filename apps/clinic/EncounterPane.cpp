@@ -42,9 +42,8 @@ void EncounterPane::clear() {
 void EncounterPane::setEncounters(const PatientLine& patient,
                                   std::optional<std::vector<EncounterLine>> lines) {
     const qint32 before = chosen();
-    const QString title = tr("Encounters of %1").arg(patient.name());
-    mTitle->setText(QStringLiteral("&") + QString(title).replace(u'&', QStringLiteral("&&")));
-    mTable->setAccessibleName(title);
+    mTitle->setText(tr("&Encounters of %1").arg(patient.name().replace(u'&', QStringLiteral("&&"))));
+    mTable->setAccessibleName(tr("Encounters of %1").arg(patient.name()));
     mTable->setEmptyText(lines ? tr("No encounters yet. Ctrl+N starts the first Nip.")
                                : tr("The encounters could not be read. F5 tries again."));
     mModel->setEncounters(lines ? std::move(*lines) : std::vector<EncounterLine>());

@@ -195,8 +195,8 @@ void MainWindow::refresh() {
     mActions->saveNip->setEnabled(open);
     mActions->closeNip->setEnabled(open);
     mActions->showLists->setEnabled(open);
-    const QString who = mDesk->hasPatient() ? mDesk->patient().name() + QStringLiteral(" - ") : QString();
-    setWindowTitle(who + QStringLiteral("Korvane Clinic[*]"));
+    setWindowTitle(mDesk->hasPatient() ? tr("%1 - Korvane Clinic[*]").arg(mDesk->patient().name())
+                                       : tr("Korvane Clinic[*]"));
     setWindowModified(mDesk->isModified());
 }
 

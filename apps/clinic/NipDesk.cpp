@@ -18,9 +18,11 @@ using Korvane::ucNIPPanel;
 
 namespace {
 
-QString bornText(Korvane::Date birth) {
-    const int age = yearsBetween(birth, Korvane::Clock::now());
-    return NipDesk::tr("born %1, age %2").arg(dayText(birth)).arg(age);
+QString factsOf(const PatientLine& patient) {
+    if (patient.birthDate == Korvane::Date()) return NipDesk::tr("ID %1").arg(patient.id);
+    const int age = yearsBetween(patient.birthDate, Korvane::Clock::now());
+    return NipDesk::tr("ID %1  ·  born %2, age %3")
+        .arg(patient.id, dayText(patient.birthDate), QString::number(age));
 }
 
 } // namespace
@@ -97,12 +99,10 @@ void NipDesk::showPatient() {
         mHint->setText(tr("Choose a patient: Ctrl+F, then type part of a name or an ID."));
         return;
     }
-    QString facts = tr("ID %1").arg(mPatient.id);
-    if (mPatient.birthDate != Korvane::Date())
-        facts += QStringLiteral("  ·  ") + bornText(mPatient.birthDate);
+    const QString facts = factsOf(mPatient);
     mHeader->setText(QStringLiteral("<span style='font-size:x-large; font-weight:600'>%1</span><br>%2")
                          .arg(mPatient.name().toHtmlEscaped(), facts.toHtmlEscaped()));
-    mHeader->setAccessibleName(mPatient.name() + QStringLiteral(", ") + facts);
+    mHeader->setAccessibleName(tr("%1, %2").arg(mPatient.name(), facts));
     mHint->setText(tr("No Nip is open. Open an encounter of the list with Enter or a double click, "
                       "or start a new Nip with Ctrl+N."));
 }

@@ -71,7 +71,7 @@ QVariant PatientModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};
-    static const QStringList names{tr("Name"), tr("Born"), tr("ID")};
+    const QStringList names{tr("Name"), tr("Born"), tr("ID")};
     return names.value(section);
 }
 

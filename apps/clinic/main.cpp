@@ -28,7 +28,7 @@ bool failed(const QString& why) {
     std::fprintf(stderr, "korvane-clinic: %s\n", qUtf8Printable(why));
     const QString platform = QGuiApplication::platformName();
     if (platform == QStringLiteral("offscreen") || platform == QStringLiteral("minimal")) return false;
-    return QMessageBox::critical(nullptr, QStringLiteral("Korvane Clinic"), why,
+    return QMessageBox::critical(nullptr, QCoreApplication::translate("main", "Korvane Clinic"), why,
                                  QMessageBox::Retry | QMessageBox::Close,
                                  QMessageBox::Retry) == QMessageBox::Retry;
 }

@@ -13,9 +13,7 @@ namespace {
 
 const FieldName heartRate{"Vital Signs", "HeartRate"};
 
-QString cancelChanges() {
-    return QStringLiteral("Are you sure you want to cancel the changes made to this Nip?");
-}
+constexpr char cancelChanges[] = "Are you sure you want to cancel the changes made to this Nip?";
 
 void openAgain(Journey& j) {
     j.openChosenEncounter();
@@ -50,14 +48,14 @@ void cancelWithoutChanges(Journey& j) {
 void cancelWithChanges(Journey& j) {
     j.openChosenEncounter();
     j.form.write(j.form.control(heartRate), QStringLiteral("200"));
-    j.answer([&] { j.hand.click(j.part("cmdNipButton(1)")); }, cancelChanges(), QStringLiteral("No"),
+    j.answer([&] { j.hand.click(j.part("cmdNipButton(1)")); }, cancelChanges, QMessageBox::No,
              QStringLiteral("Cancel asks about changes"));
     j.requireNipOpen(true);
     require(j.form.shown(heartRate) == QStringLiteral("200"), QStringLiteral("The entry is lost."));
 }
 
 void anotherPatientAsksFirst(Journey& j) {
-    j.answer([&] { j.choosePatient(QStringLiteral("brien")); }, cancelChanges(), QStringLiteral("No"),
+    j.answer([&] { j.choosePatient(QStringLiteral("brien")); }, cancelChanges, QMessageBox::No,
              QStringLiteral("Another patient asks about changes"));
     j.requireNipOpen(true);
     j.hand.press(Qt::Key_F, Qt::ControlModifier);
@@ -66,7 +64,7 @@ void anotherPatientAsksFirst(Journey& j) {
 }
 
 void giveUpTheChanges(Journey& j) {
-    j.answer([&] { j.hand.press(Qt::Key_W, Qt::ControlModifier); }, cancelChanges(), QStringLiteral("Yes"));
+    j.answer([&] { j.hand.press(Qt::Key_W, Qt::ControlModifier); }, cancelChanges, QMessageBox::Yes);
     j.requireNipOpen(false);
     j.requireStored();
 }
@@ -75,13 +73,12 @@ void giveUpANewNip(Journey& j) {
     const qint32 stored = j.ledger.encounterCount();
     j.hand.press(Qt::Key_N, Qt::ControlModifier);
     j.form.write(j.form.control(heartRate), QStringLiteral("90"));
-    j.answer(
-        [&] { j.hand.press(Qt::Key_N, Qt::ControlModifier); },
-        QStringLiteral("Are you sure you want to create a new nip and discard the one you were creating?"),
-        QStringLiteral("No"));
+    j.answer([&] { j.hand.press(Qt::Key_N, Qt::ControlModifier); },
+             "Are you sure you want to create a new nip and discard the one you were creating?",
+             QMessageBox::No);
     j.answer([&] { j.hand.click(j.part("cmdNipButton(1)")); },
-             QStringLiteral("Are you sure you want to cancel the creation of this Nip?"),
-             QStringLiteral("Yes"), QStringLiteral("Cancel asks about a new Nip"));
+             "Are you sure you want to cancel the creation of this Nip?", QMessageBox::Yes,
+             QStringLiteral("Cancel asks about a new Nip"));
     j.requireNipOpen(false);
     require(j.ledger.encounterCount() == stored, QStringLiteral("A cancelled Nip is stored."));
 }

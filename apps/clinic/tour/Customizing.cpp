@@ -29,7 +29,8 @@ void makeField(Journey& j, const FieldSketch& field, const QString& picture) {
     j.hand.press(Qt::Key_Tab);
     j.hand.type(field.caption);
     auto& type = j.part<QComboBox>("cboCustNip(0)");
-    if (type.currentText() != field.displayType) j.form.pick(type, field.displayType, [] {});
+    if (type.currentData() != field.displayType)
+        j.form.pick(type, type.itemText(type.findData(field.displayType)), [] {});
     for (const QString& choice : field.choices)
         j.hand.answering([&] { j.hand.click(j.part("cmdNipChoices(0)")); }, choice);
     j.album.add(picture);

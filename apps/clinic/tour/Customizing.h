@@ -9,7 +9,7 @@ namespace Clinic {
 /// A field as a user writes it into the customize pane.
 struct FieldSketch {
     QString name, caption;
-    QString displayType; ///< as the pane offers it
+    QString displayType; ///< as it is stored
     QStringList choices;
 };
 

@@ -22,10 +22,8 @@ const FieldName rhythm{"Vital Signs", "HeartRate_COMMENTS"};
 const FieldName days{diary, "HeadacheDays"};
 const FieldName severity{diary, "Severity"};
 
-QString deletesField() {
-    return QStringLiteral("Are you certain you wish to delete this field?  All data in the field will be "
-                          "permenantly lost.");
-}
+constexpr char deletesField[] =
+    "Are you certain you wish to delete this field?  All data in the field will be permenantly lost.";
 
 void requireChoices(Journey& j, const FieldName& name, const std::vector<std::string>& choices) {
     require(j.ledger.placeOf(name.group, name.field).choices == choices,
@@ -56,16 +54,16 @@ void makeAGroup(Journey& j) {
 void makeAFieldOfEachType(Journey& j) {
     const QStringList places{"Left", "Right", "Both sides"};
     const FieldSketch fields[] = {
-        {"HeadacheDays", "Days with headache", "Text", {}},
-        {"Severity", "Usual severity", "List", {"Mild", "Severe", "Unbearable", "Moderate"}},
-        {"Triggers", "Triggers", "List-Multiple", {"Stress", "Lack of sleep", "Weather"}},
-        {"Tried", "Medication tried", "List-Editcontent", {}},
-        {"Site", "Where it hurts", "Combobox", places},
-        {"Aura", "With an aura", "Combobox-Restricted", {"Yes", "No", "Not sure"}}};
+        {"HeadacheDays", "Days with headache", "TEXT", {}},
+        {"Severity", "Usual severity", "LIST", {"Mild", "Severe", "Unbearable", "Moderate"}},
+        {"Triggers", "Triggers", "LIST-MULTIPLE", {"Stress", "Lack of sleep", "Weather"}},
+        {"Tried", "Medication tried", "LIST-EDITCONTENT", {}},
+        {"Site", "Where it hurts", "COMBOBOX", places},
+        {"Aura", "With an aura", "COMBOBOX-RESTRICTED", {"Yes", "No", "Not sure"}}};
     for (const FieldSketch& field : fields) {
         makeField(j, field, QStringLiteral("Make a field: ") + field.displayType);
         const auto place = j.ledger.placeOf(diary, Korvane::utf8(field.name));
-        require(qt(place.displayType) == field.displayType.toUpper() && qt(place.caption) == field.caption,
+        require(qt(place.displayType) == field.displayType && qt(place.caption) == field.caption,
                 QStringLiteral("%1 is not stored as it was made.").arg(field.name));
     }
 }
@@ -117,20 +115,20 @@ void renameAField(Journey& j) {
 
 void refuseToDelete(Journey& j) {
     chooseInForm(j, pulse);
-    j.answer([&] { j.hand.click(j.part("cmdNipCustomizeButton(1)")); }, deletesField(),
-             QStringLiteral("Cancel"), QStringLiteral("Deleting a field asks first"));
+    j.answer([&] { j.hand.click(j.part("cmdNipCustomizeButton(1)")); }, deletesField, QMessageBox::Cancel,
+             QStringLiteral("Deleting a field asks first"));
     requireEditing(j, pulse);
     j.answer([&] { clickTool(j, "ID_DeleteNipGroup"); },
-             QStringLiteral("Deleting a Nip Group will also delete all fields in the group.\nThis is a "
-                            "destructive action that cannot be reversed.  Do you wish to continue?"),
-             QStringLiteral("Cancel"), QStringLiteral("Deleting a group asks first"));
+             "Deleting a Nip Group will also delete all fields in the group.\nThis is a "
+             "destructive action that cannot be reversed.  Do you wish to continue?",
+             QMessageBox::Cancel, QStringLiteral("Deleting a group asks first"));
     j.ledger.reload();
     j.requireStored();
 }
 
 void deleteAField(Journey& j) {
     chooseInForm(j, rhythm);
-    j.answer([&] { j.hand.click(j.part("cmdNipCustomizeButton(1)")); }, deletesField(), QStringLiteral("OK"));
+    j.answer([&] { j.hand.click(j.part("cmdNipCustomizeButton(1)")); }, deletesField, QMessageBox::Ok);
     j.ledger.reload();
     require(!j.ledger.hasField(rhythm.group, rhythm.field), QStringLiteral("The field is still there."));
     j.album.add(QStringLiteral("A field is deleted"));

@@ -1,16 +1,15 @@
 #include "clinic/tour/Journey.h"
 
 #include <korvane/controls/container/Text.h>
+#include <korvane/controls/nippanel/ucNIPPanel.h>
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTableView>
 
 namespace Clinic {
 
-using Apps::Failure;
 using Apps::require;
 using Korvane::qt;
 
@@ -26,27 +25,22 @@ void requireSame(const QString& what, const QString& is, const QString& shouldBe
     require(is == shouldBe, QStringLiteral("%1 is \"%2\" and should be \"%3\".").arg(what, is, shouldBe));
 }
 
-QAbstractButton& buttonOf(QWidget& box, const QString& text) {
-    for (auto* button : box.findChildren<QAbstractButton*>()) {
-        if (QString(button->text()).remove(u'&') == text) return *button;
-    }
-    throw Failure(QStringLiteral("The box has no button \"%1\".").arg(text));
-}
-
 } // namespace
 
 Journey::Journey(QWidget& clinicWindow, const QString& database, const QString& directory)
     : window(clinicWindow), album(clinicWindow, directory), ledger(database),
       form(panelOf(clinicWindow), hand, ledger) {}
 
-void Journey::answer(const std::function<void()>& deed, const QString& question, const QString& button,
-                     const QString& picture) {
+void Journey::answer(const std::function<void()>& deed, const char* question,
+                     QMessageBox::StandardButton button, const QString& picture) {
     hand.answering(deed, [&](QWidget& box) {
         const auto* message = qobject_cast<QMessageBox*>(&box);
         require(message, QStringLiteral("The box that came up is no question."));
-        requireSame(QStringLiteral("The question"), message->text(), question);
+        requireSame(QStringLiteral("The question"), message->text(), Korvane::ucNIPPanel::tr(question));
         if (!picture.isEmpty()) album.add(picture);
-        hand.click(buttonOf(box, button));
+        QAbstractButton* const pressed = message->button(button);
+        require(pressed, QStringLiteral("The box has no such button."));
+        hand.click(*pressed);
     });
 }
 

@@ -6,6 +6,7 @@
 #include "shared/Failure.h"
 #include "shared/Hand.h"
 
+#include <QMessageBox>
 #include <QString>
 
 #include <functional>
@@ -38,9 +39,10 @@ class Journey {
         return *widget;
     }
 
-    /// Does something that brings up a question, which must read as given; takes a picture of it when a title
-    /// is given, and presses the button with that text.
-    void answer(const std::function<void()>& deed, const QString& question, const QString& button,
+    /// Does something that brings up a question of the panel, which must read as given (English, or what the
+    /// panel has for it in another language); takes a picture of it when a title is given, and presses the
+    /// button.
+    void answer(const std::function<void()>& deed, const char* question, QMessageBox::StandardButton button,
                 const QString& picture = {});
 
     bool isNipOpen() const;
