@@ -14,9 +14,9 @@ namespace Gallery {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Gallery::Exhibits", text);
-}
+struct Exhibits {
+    Q_DECLARE_TR_FUNCTIONS(Gallery::Exhibits)
+};
 
 QString told(bool done) {
     return done ? QStringLiteral("True") : QStringLiteral("False");
@@ -44,22 +44,23 @@ Exhibit nipPanel() {
     const SampleNip sample = makeSampleNip();
     p->Initialize(sample.connection);
     p->LoadNipInfo(sample.encounter, sample.patient);
-    return {std::move(panel),
-            tr("A data-entry form that the clinic shapes itself, here over a sample clinic in memory."),
-            true,
-            {{QStringLiteral("CreateNip(\"%1\")").arg(sample.patient),
-              [=] { return told(p->CreateNip(sample.patient)); }},
-             {QStringLiteral("LoadNipInfo(%1, \"%2\")").arg(sample.encounter).arg(sample.patient),
-              [=] { return told(p->LoadNipInfo(sample.encounter, sample.patient)); }},
-             {QStringLiteral("SaveNipInfo"), quiet([p] { p->SaveNipInfo(); })},
-             {QStringLiteral("CustomizeNip"), quiet([p] { p->CustomizeNip(); })}}};
+    return {
+        std::move(panel),
+        Exhibits::tr("A data-entry form that the clinic shapes itself, here over a sample clinic in memory."),
+        true,
+        {{QStringLiteral("CreateNip(\"%1\")").arg(sample.patient),
+          [=] { return told(p->CreateNip(sample.patient)); }},
+         {QStringLiteral("LoadNipInfo(%1, \"%2\")").arg(sample.encounter).arg(sample.patient),
+          [=] { return told(p->LoadNipInfo(sample.encounter, sample.patient)); }},
+         {QStringLiteral("SaveNipInfo"), quiet([p] { p->SaveNipInfo(); })},
+         {QStringLiteral("CustomizeNip"), quiet([p] { p->CustomizeNip(); })}}};
 }
 
 Exhibit dateControl() {
     auto date = made<Korvane::axDate>("axDate");
     auto* d = date.get();
     return {std::move(date),
-            tr("One date in three boxes: month, day and year."),
+            Exhibits::tr("One date in three boxes: month, day and year."),
             false,
             {{QStringLiteral("ValidateMinMax"), [d] { return QString::number(d->ValidateMinMax()); }},
              {QStringLiteral("SetElementFocus(1)"), quiet([d] { d->SetElementFocus(1); })}}};
@@ -69,7 +70,7 @@ Exhibit functionButtons() {
     auto panel = made<Korvane::funcPanel>("funcPanel");
     auto* p = panel.get();
     return {std::move(panel),
-            tr("A frame around one to five buttons that tell the host which one was clicked."),
+            Exhibits::tr("A frame around one to five buttons that tell the host which one was clicked."),
             false,
             {{QStringLiteral("btnDisable(0)"), quiet([p] { p->btnDisable(0); })},
              {QStringLiteral("btnEnable(0)"), quiet([p] { p->btnEnable(0); })},
@@ -81,7 +82,7 @@ Exhibit moveButtons() {
     auto move = made<Korvane::movebtn>("movebtn");
     auto* m = move.get();
     return {std::move(move),
-            tr("Four buttons to move to the first, the previous, the next and the last record."),
+            Exhibits::tr("Four buttons to move to the first, the previous, the next and the last record."),
             false,
             {{QStringLiteral("Focus(0)"), quiet([m] { m->Focus(0); })}}};
 }
@@ -91,7 +92,8 @@ Exhibit fieldAdministration() {
     auto* a = admin.get();
     return {
         std::move(admin),
-        tr("The definition of one field of a database: its names, how it is entered, its list of values."),
+        Exhibits::tr(
+            "The definition of one field of a database: its names, how it is entered, its list of values."),
         true,
         {{QStringLiteral("ClearList"), quiet([a] { a->ClearList(); })},
          {QStringLiteral("EnableAddToList"), quiet([a] { a->EnableAddToList(); })},

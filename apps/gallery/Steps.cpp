@@ -78,11 +78,11 @@ void shapeTheButtons(Journey& j) {
 }
 
 void askForTooManyButtons(Journey& j) {
+    constexpr const char* why = "buttonCount must not be greater than 5.";
     j.hand.answering([&] { j.set(QStringLiteral("buttonCount"), QStringLiteral("6")); },
                      [&](QWidget& box) {
                          const auto* message = qobject_cast<QMessageBox*>(&box);
-                         require(message && message->text() ==
-                                                QStringLiteral("buttonCount must not be greater than 5."),
+                         require(message && message->text() == Korvane::funcPanel::tr(why),
                                  QStringLiteral("Another box came up."));
                          j.album.add(QStringLiteral("funcPanel refuses a sixth button"));
                          j.hand.press(Qt::Key_Return);
