@@ -41,7 +41,7 @@ void Journey::closeDateError(const std::function<void()>& deed, const QString& m
                              const QString& picture) {
     hand.answering(deed, [&](QWidget& box) {
         const auto* shown = qobject_cast<QMessageBox*>(&box);
-        require(shown && shown->windowTitle() == QStringLiteral("Date Error") && shown->text() == message,
+        require(shown && shown->windowTitle() == TestForm::tr("Date Error") && shown->text() == message,
                 QStringLiteral("A box came up, but not \"%1\".").arg(message));
         album.add(picture);
         hand.press(Qt::Key_Return);

@@ -19,7 +19,7 @@ namespace {
 QLineEdit* boundBox(const char* name) {
     auto* made = new QLineEdit;
     made->setObjectName(QLatin1String(name));
-    made->setPlaceholderText(QStringLiteral("none"));
+    made->setPlaceholderText(TestForm::tr("none"));
     return made;
 }
 
@@ -60,8 +60,8 @@ QWidget* TestForm::makeForm() {
     mDate->setObjectName(QStringLiteral("axDate"));
     mRefusal->setObjectName(QStringLiteral("lblRefusal"));
     mRefusal->setTextFormat(Qt::PlainText);
-    mRefusal->setMinimumWidth(
-        fontMetrics().horizontalAdvance(QStringLiteral("Year requires four digits. Please re-enter.  ")));
+    constexpr const char* longest = "Year requires four digits. Please re-enter.";
+    mRefusal->setMinimumWidth(fontMetrics().horizontalAdvance(axDate::tr(longest) + QStringLiteral("  ")));
     rows->addRow(tr("&Before"), mName);
     rows->addRow(tr("&Date"), mDate);
     rows->addRow(QString(), mRefusal);
@@ -111,9 +111,10 @@ void TestForm::checkBounds() {
     if (outside == 0) return;
     const QString message = outside > 0 ? tr("The date must not be after %1.").arg(mDate->MaximumDate())
                                         : tr("The date must not be before %1.").arg(mDate->MinimumDate());
-    mEvents->hear(QStringLiteral("Date Error"), message);
+    const QString title = tr("Date Error");
+    mEvents->hear(title, message);
     Korvane::Interaction::current().MsgBox(Korvane::utf8(message), Korvane::MsgBoxStyle::Information,
-                                           "Date Error");
+                                           Korvane::utf8(title));
     mDate->SetElementFocus(0);
 }
 
