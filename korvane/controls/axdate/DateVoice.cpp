@@ -1,5 +1,6 @@
 #include <korvane/controls/axdate/DateVoice.h>
 
+#include <korvane/controls/container/Text.h>
 #include <korvane/runtime/Interaction.h>
 
 #include <QApplication>
@@ -127,8 +128,8 @@ void DateVoice::tellAbsence() {
         static std::string told;
         const std::string why = voice::whyAbsent();
         if (why.empty() || std::exchange(told, why) == why) return;
-        Interaction::current().MsgBox(why + " Dates can be entered by hand.", MsgBoxStyle::Information,
-                                      "Voice");
+        const QString text = tr("%1 Dates can be entered by hand.").arg(qt(why));
+        Interaction::current().MsgBox(utf8(text), MsgBoxStyle::Information, utf8(tr("Voice")));
     };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }

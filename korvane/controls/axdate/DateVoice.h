@@ -17,6 +17,8 @@ namespace Korvane {
 ///
 /// The engine hears of the control's focus from here, also when another window comes in front of its own.
 class DateVoice : public QObject {
+    Q_OBJECT
+
   public:
     /// Told which command was said.
     using Commanded = std::function<void(std::int32_t number)>;

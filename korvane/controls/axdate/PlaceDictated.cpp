@@ -31,7 +31,7 @@ QString placeDictated(axDate& date, const QString& words) {
     }
     const QString month = date.GetMonthNumberString(qt(said));
     if (month == QStringLiteral("not found"))
-        return QStringLiteral("value \"%1\" not found. You can say either a numeric or the name of a month.")
+        return axDate::tr("value \"%1\" not found. You can say either a numeric or the name of a month.")
             .arg(qt(said));
     if (!isInMonth(date)) date.SetElementFocus(DateParts::month);
     if (isInMonth(date)) date.SetText(month);

@@ -28,8 +28,7 @@ bool axDate::FourDigitYearError() const {
 
 bool axDate::isValid(const QString& value, qint16 fieldIndex) const {
     bool result = true;
-    reported(" Error in axDate.isValid: ",
-             [&] { result = isValidPart(utf8(value), fieldIndex, mRequireFourDigitYear); });
+    reported("axDate.isValid", [&] { result = isValidPart(utf8(value), fieldIndex, mRequireFourDigitYear); });
     return result;
 }
 

@@ -70,13 +70,13 @@ bool axDate::accepts(const QWidget& part) {
 void axDate::refused(QWidget& part) {
     const int index = indexOf(part);
     box(index).selectAll();
-    refuse(index, QStringLiteral("Invalid date format. Please re-enter."));
+    refuse(index, tr("Invalid date format. Please re-enter."));
 }
 
 void axDate::lostFocus(QWidget& part) {
     const int index = indexOf(part);
     if (index < 0) return;
-    reported(" Error in axDate.txtDate.EnterFocus: ", [&] {
+    reported("axDate.txtDate.EnterFocus", [&] {
         if (!mWholeDateIsNew) figureDate();
         if (index == DateParts::year) checkYear();
     });
@@ -91,9 +91,8 @@ void axDate::checkYear() {
     const QPointer<axDate> self = this;
     letEventsRun();
     if (self)
-        refuse(DateParts::year, mRequireFourDigitYear
-                                    ? QStringLiteral("Year requires four digits. Please re-enter.")
-                                    : QStringLiteral("Invalid date format. Please re-enter."));
+        refuse(DateParts::year, mRequireFourDigitYear ? tr("Year requires four digits. Please re-enter.")
+                                                      : tr("Invalid date format. Please re-enter."));
     if (self && yearBox.isVisible()) yearBox.setFocus();
 }
 

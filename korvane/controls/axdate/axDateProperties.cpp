@@ -149,7 +149,7 @@ void axDate::InitProperties() {
 
 /// The date comes first: what else cannot be read does not hold it up.
 void axDate::ReadProperties(const PropertyBag& bag) {
-    reported(" Error in UserControl.ReadProperties: ", [&] {
+    reported("UserControl.ReadProperties", [&] {
         setWholeDate(bag.ReadProperty("axDate", "").toString());
         mDragonSpeechEnabled = bag.ReadProperty("DragonSpeechEnabled", false).toBool();
         mNextFieldCommand = bag.ReadProperty("NextFieldCommand", nextField()).toString();

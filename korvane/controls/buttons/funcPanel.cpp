@@ -46,9 +46,8 @@ funcPanel::funcPanel(QWidget* parent) : ButtonPanel(most, QStringLiteral("cmdBut
 }
 
 void funcPanel::setButtonCount(int count) {
-    const QString why = refusal(count);
-    if (!why.isEmpty()) {
-        Interaction::current().MsgBox(utf8(why), MsgBoxStyle::OkOnly, {});
+    if (const char* why = refusal(count)) {
+        Interaction::current().MsgBox(utf8(tr(why)), MsgBoxStyle::OkOnly, {});
         return;
     }
     if (size() != mArranged) arrange();
@@ -78,11 +77,11 @@ void funcPanel::givenButtonCount(int count) {
     arrange();
 }
 
-/// Empty for a count that will do.
-QString funcPanel::refusal(int count) {
-    if (count < 1) return QStringLiteral("buttonCount must be at least 1.");
-    if (count > most) return QStringLiteral("buttonCount must not be greater than 5.");
-    return {};
+/// To be translated where the user reads it; null for a count that will do.
+const char* funcPanel::refusal(int count) {
+    if (count < 1) return QT_TR_NOOP("buttonCount must be at least 1.");
+    if (count > most) return QT_TR_NOOP("buttonCount must not be greater than 5.");
+    return nullptr;
 }
 
 void funcPanel::setButtonEnabled(int index, bool on) {

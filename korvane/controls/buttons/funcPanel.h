@@ -145,7 +145,7 @@ class funcPanel : public ButtonPanel {
 
     void setButtonEnabled(int index, bool on);
     void setBold(int index, bool bold);
-    static QString refusal(int count);
+    static const char* refusal(int count);
     void readBackColor(const PropertyBag& bag);
     void readCount(const PropertyBag& bag);
     void showBackColour();

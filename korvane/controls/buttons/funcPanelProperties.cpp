@@ -101,9 +101,9 @@ void funcPanel::readBackColor(const PropertyBag& bag) {
 /// A count that would be refused is one of the bag's problems: no form opens with a message box.
 void funcPanel::readCount(const PropertyBag& bag) {
     const qint16 count = readCode(bag, "buttonCount", most);
-    const QString why = refusal(count);
-    if (!why.isEmpty()) bag.addProblem(QStringLiteral("buttonCount"), why + QStringLiteral(" 5 is used"));
-    mCount = why.isEmpty() ? count : qint16{most};
+    const char* why = refusal(count);
+    if (why) bag.addProblem(QStringLiteral("buttonCount"), QLatin1String(why) + QStringLiteral(" 5 is used"));
+    mCount = why ? qint16{most} : count;
 }
 
 /// The control keeps its size, which is the host's to restore.

@@ -29,7 +29,7 @@ namespace Korvane {
 ///         qWarning() << problem;
 ///
 /// A bag may be written by hand: what is missing or cannot be used is taken at its default, and what was
-/// wrong with it is told by `problems`. Nothing is raised for it.
+/// wrong with it is told by `problems`, in English like the names that it is about. Nothing is raised for it.
 class PropertyBag {
   public:
     /// The value in the type of the default. The default itself when the bag has no such name, or holds

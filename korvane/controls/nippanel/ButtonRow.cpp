@@ -14,9 +14,10 @@ constexpr int gapBelowPane = 100;
 } // namespace
 
 ButtonRow::ButtonRow(QWidget* parent) : QWidget(parent) {
-    const QString captions[] = {"Save", "Cancel", "Customize"};
-    const QString tips[] = {"Save the Nip and close it (Ctrl+S)", "Close the Nip without saving it (Esc)",
-                            "Change the groups and fields of the Nip"};
+    const QString captions[] = {tr("Save"), tr("Cancel"), tr("Customize")};
+    const QString tips[] = {tr("Save the Nip and close it (Ctrl+S)"),
+                            tr("Close the Nip without saving it (Esc)"),
+                            tr("Change the groups and fields of the Nip")};
     for (int i : {Save, Cancel, Customize}) {
         mButtons[i] = new QPushButton(captions[i], this);
         mButtons[i]->setObjectName(QString("cmdNipButton(%1)").arg(i));
@@ -45,7 +46,7 @@ void ButtonRow::showCustomizing(bool on) {
 
 void ButtonRow::arrange(bool customizeOnly, bool allowClose) {
     mButtons[Customize]->setVisible(!customizeOnly);
-    mButtons[Cancel]->setText(customizeOnly ? "Close" : "Cancel");
+    mButtons[Cancel]->setText(customizeOnly ? tr("Close") : tr("Cancel"));
     mButtons[Cancel]->setVisible(allowClose);
 }
 

@@ -28,7 +28,7 @@ QWidget* ChoiceEditDelegate::createEditor(QWidget* parent, const QStyleOptionVie
                                           const QModelIndex& index) const {
     auto* box = new QLineEdit(parent);
     box->setObjectName("txtNipChoice");
-    box->setAccessibleName("Choice");
+    box->setAccessibleName(tr("Choice"));
     box->setMaxLength(std::numeric_limits<int>::max());
     box->setAutoFillBackground(true);
     mBox = box;
@@ -61,7 +61,7 @@ void ChoiceEditDelegate::showFault() const {
 void ChoiceEditDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     ChoiceRowDelegate::initStyleOption(option, index);
     if (index.data(Qt::CheckStateRole).toInt() != Qt::Checked) return;
-    option->text += QLatin1String("  (default)");
+    option->text = tr("%1  (default)").arg(option->text);
     option->font.setBold(true);
     option->fontMetrics = QFontMetrics(option->font);
 }

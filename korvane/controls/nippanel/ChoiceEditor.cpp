@@ -24,12 +24,11 @@ enum Button { Add, Remove, MoveUp, MoveDown };
 
 ChoiceEditor::ChoiceEditor(QWidget* parent)
     : QWidget(parent), mChoices(new ChoiceOrderModel(this)), mList(new ChoiceOrderList(mChoices, this)),
-      mTitle(new QLabel(this)), mButtons{
-                                    makeButton(Add, "Add", "Add a choice behind the last"),
-                                    makeButton(Remove, "Remove", "Remove the highlighted choice (Delete)"),
-                                    makeButton(MoveUp, "Move Up", "Move the highlighted choice up (Alt+Up)"),
-                                    makeButton(MoveDown, "Move Down",
-                                               "Move the highlighted choice down (Alt+Down)")} {
+      mTitle(new QLabel(this)),
+      mButtons{makeButton(Add, tr("Add"), tr("Add a choice behind the last")),
+               makeButton(Remove, tr("Remove"), tr("Remove the highlighted choice (Delete)")),
+               makeButton(MoveUp, tr("Move Up"), tr("Move the highlighted choice up (Alt+Up)")),
+               makeButton(MoveDown, tr("Move Down"), tr("Move the highlighted choice down (Alt+Down)"))} {
     arrange();
     connectList();
     connect(mButtons[Add], &QPushButton::clicked, this, &ChoiceEditor::add);
@@ -42,17 +41,18 @@ ChoiceEditor::ChoiceEditor(QWidget* parent)
 QPushButton* ChoiceEditor::makeButton(int index, const QString& text, const QString& tip) {
     auto* button = new QPushButton(text, this);
     button->setObjectName(QString("cmdNipChoices(%1)").arg(index));
-    button->setAccessibleName(text + QLatin1String(": choice"));
+    button->setAccessibleName(tr("%1: choice").arg(text));
     button->setToolTip(tip);
     button->setAutoDefault(false);
     return button;
 }
 
 void ChoiceEditor::arrange() {
-    mList->setAccessibleName("Choices");
-    mList->setAccessibleDescription("The checked choice is the default");
-    mList->setToolTip("Drag a choice to put it elsewhere, with the Ctrl key to copy it. F2 or a double click "
-                      "edits it. Space or a click on its box makes it the default, or no longer.");
+    mList->setAccessibleName(tr("Choices"));
+    mList->setAccessibleDescription(tr("The checked choice is the default"));
+    mList->setToolTip(
+        tr("Drag a choice to put it elsewhere, with the Ctrl key to copy it. F2 or a double click "
+           "edits it. Space or a click on its box makes it the default, or no longer."));
     mTitle->setObjectName("lblNipChoices");
     mTitle->setWordWrap(true);
     mTitle->setBuddy(mList);
@@ -94,9 +94,9 @@ void ChoiceEditor::show(const QStringList& choices, int selected) {
 }
 
 void ChoiceEditor::explain(bool offered) {
-    mTitle->setText(offered
-                        ? "Choices (the checked one is the default):"
-                        : "Choices, not offered with this display type (the checked one is the default):");
+    mTitle->setText(
+        offered ? tr("Choices (the checked one is the default):")
+                : tr("Choices, not offered with this display type (the checked one is the default):"));
 }
 
 QStringList ChoiceEditor::choices() const {
@@ -120,7 +120,7 @@ bool ChoiceEditor::isTyping() const {
 void ChoiceEditor::add() {
     if (!takeEdit()) return;
     const std::weak_ptr<const int> asked = mFilling;
-    const auto answer = Interaction::current().InputBox("What is the new item?", "");
+    const auto answer = Interaction::current().InputBox(utf8(tr("What is the new item?")), "");
     if (!answer || asked.expired()) return;
     const QString choice = ChoiceOrderModel::cleaned(qt(*answer));
     if (choice.isEmpty()) return;

@@ -20,14 +20,14 @@ QString ChoiceOrderModel::fault(const QString& text, int row) const {
         const QString& now = rows()[static_cast<std::size_t>(row)].content;
         if (now == text || now == choice) return {};
     }
-    if (choice.isEmpty()) return QStringLiteral("A choice cannot be empty.");
+    if (choice.isEmpty()) return tr("A choice cannot be empty.");
     QString entry = listEntryFault(choice);
     if (!entry.isEmpty()) return entry;
     int at = 0;
     for (const ChoiceRow& other : rows())
         if (at++ != row && other.index != 0 && other.content.compare(choice, Qt::CaseInsensitive) == 0)
-            return QStringLiteral("The list already has the choice \"%1\". Two choices cannot be the same; "
-                                  "capital and small letters count as the same.")
+            return tr("The list already has the choice \"%1\". Two choices cannot be the same; "
+                      "capital and small letters count as the same.")
                 .arg(other.content);
     return {};
 }

@@ -10,6 +10,8 @@ namespace Korvane {
 /// that has not been given a text of its own. Naming it (`setData` with `Qt::EditRole`) makes it a choice.
 /// What was shown stays as it is, also a choice that could not be entered now.
 class ChoiceOrderModel : public ChoiceModel {
+    Q_OBJECT
+
   public:
     explicit ChoiceOrderModel(QObject* parent) : ChoiceModel(One, parent) {}
 

@@ -9,19 +9,19 @@
 namespace Korvane {
 
 CustomizeBar::CustomizeBar(QWidget* parent)
-    : QWidget(parent), mTools(new QToolBar("General", this)),
-      mBack(new QPushButton("&Back to the Nip", this)), mClose(new QPushButton("Close", this)) {
+    : QWidget(parent), mTools(new QToolBar(tr("General"), this)),
+      mBack(new QPushButton(tr("&Back to the Nip"), this)), mClose(new QPushButton(tr("Close"), this)) {
     mTools->setObjectName("ToolBars1");
-    mTools->setAccessibleName("Groups");
-    addTool("ID_NewNipGroup", "&New Nip Group", &CustomizeBar::newGroupClicked)
-        ->setToolTip("Add a group to the Nip");
-    mDeleteGroup = addTool("ID_DeleteNipGroup", "&Delete Nip Group", &CustomizeBar::deleteGroupClicked);
+    mTools->setAccessibleName(tr("Groups"));
+    addTool("ID_NewNipGroup", tr("&New Nip Group"), &CustomizeBar::newGroupClicked)
+        ->setToolTip(tr("Add a group to the Nip"));
+    mDeleteGroup = addTool("ID_DeleteNipGroup", tr("&Delete Nip Group"), &CustomizeBar::deleteGroupClicked);
     mCustomizeGroup =
-        addTool("ID_CustomizeNipGroup", "CustomizeNipGroup", &CustomizeBar::customizeGroupClicked);
+        addTool("ID_CustomizeNipGroup", tr("CustomizeNipGroup"), &CustomizeBar::customizeGroupClicked);
     mBack->setObjectName("cmdBackToNip");
-    mBack->setToolTip("Go on with the Nip (Esc)");
+    mBack->setToolTip(tr("Go on with the Nip (Esc)"));
     mClose->setObjectName("cmdCloseNipCustomize");
-    mClose->setToolTip("Close the Nip");
+    mClose->setToolTip(tr("Close the Nip"));
     connect(mBack, &QAbstractButton::clicked, this, &CustomizeBar::backClicked);
     connect(mClose, &QAbstractButton::clicked, this, &CustomizeBar::closeClicked);
 
@@ -61,8 +61,8 @@ void CustomizeBar::showGroup(const QString& title, const QString& content) {
     mDeleteGroup->setEnabled(!title.isEmpty());
     mCustomizeGroup->setEnabled(!title.isEmpty());
     mDeleteGroup->setToolTip(
-        QString("Remove the group %1 and all that was entered in it, in every encounter").arg(content));
-    mCustomizeGroup->setToolTip("Go to the fields of the group " + title);
+        tr("Remove the group %1 and all that was entered in it, in every encounter").arg(content));
+    mCustomizeGroup->setToolTip(tr("Go to the fields of the group %1").arg(title));
 }
 
 } // namespace Korvane

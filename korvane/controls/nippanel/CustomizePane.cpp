@@ -53,7 +53,7 @@ QWidget* CustomizePane::makeScroll() {
 QWidget* CustomizePane::makeContent() {
     auto* content = new QWidget(this);
     QLabel* title = makeLine("lblCustomizeTitle", content);
-    title->setText("Customizing the Structure of the NIP tables");
+    title->setText(tr("Customizing the Structure of the NIP tables"));
     mHeading = makeLine("lblCustEditing", content);
     QFont bold = font();
     bold.setBold(true);
@@ -87,7 +87,7 @@ QWidget* CustomizePane::makeButtons() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    const QString captions[] = {"New Field", "Delete Field", "Cancel", "Save"};
+    const QString captions[] = {tr("New Field"), tr("Delete Field"), tr("Cancel"), tr("Save")};
     for (const int i : {NewField, DeleteField, Cancel, Save}) {
         mButtons[i] = new QPushButton(captions[i], row);
         mButtons[i]->setObjectName(EntrySite::elementName("cmdNipCustomizeButton", i));
@@ -96,11 +96,11 @@ QWidget* CustomizePane::makeButtons() {
         layout->addWidget(mButtons[i]);
         connect(mButtons[i], &QPushButton::clicked, this, [this, i] { emit clicked(i); });
     }
-    mButtons[NewField]->setToolTip("Add a field to this group");
-    mButtons[Cancel]->setAccessibleName("Cancel the field");
-    mButtons[Save]->setAccessibleName("Save the field");
-    mButtons[Cancel]->setToolTip("Leave the field as it is stored (Esc)");
-    mButtons[Save]->setToolTip("Store the field (Ctrl+S)");
+    mButtons[NewField]->setToolTip(tr("Add a field to this group"));
+    mButtons[Cancel]->setAccessibleName(tr("Cancel the field"));
+    mButtons[Save]->setAccessibleName(tr("Save the field"));
+    mButtons[Cancel]->setToolTip(tr("Leave the field as it is stored (Esc)"));
+    mButtons[Save]->setToolTip(tr("Store the field (Ctrl+S)"));
     return row;
 }
 
@@ -183,29 +183,29 @@ QString CustomizePane::groupTitle() const {
 QString CustomizePane::groupContent() const {
     const int fields = mGroup > 0 ? mNip->FieldCount(mGroup) : 0;
     if (fields < 1) return groupTitle();
-    return groupTitle() +
-           (fields == 1 ? QString(" with its 1 field") : QString(" with its %1 fields").arg(fields));
+    if (fields == 1) return tr("%1 with its 1 field").arg(groupTitle());
+    return tr("%1 with its %2 fields").arg(groupTitle(), QString::number(fields));
 }
 
 QString CustomizePane::heading() const {
-    if (mGroup < 1) return "There is no group yet.";
-    if (mHoldsNew) return "New field in group " + groupTitle();
-    if (mField < 1) return "Fields of group " + groupTitle();
-    return QString("Editing field [%1] of group %2").arg(qt(mNip->fieldName(mGroup, mField)), groupTitle());
+    if (mGroup < 1) return tr("There is no group yet.");
+    if (mHoldsNew) return tr("New field in group %1").arg(groupTitle());
+    if (mField < 1) return tr("Fields of group %1").arg(groupTitle());
+    return tr("Editing field [%1] of group %2").arg(qt(mNip->fieldName(mGroup, mField)), groupTitle());
 }
 
 /// By the button or tool that is at hand.
 QString CustomizePane::whatIsDestroyed() const {
     if (mField > 0)
-        return QString("Delete Field destroys [%1] with all that any encounter has in it.")
+        return tr("Delete Field destroys [%1] with all that any encounter has in it.")
             .arg(qt(mNip->fieldName(mGroup, mField)));
     if (mGroup < 1 || mHoldsNew) return {};
-    return QString("Delete Nip Group destroys %1 and all that any encounter has in it.").arg(groupContent());
+    return tr("Delete Nip Group destroys %1 and all that any encounter has in it.").arg(groupContent());
 }
 
 void CustomizePane::describe() {
     mHeading->setText(heading());
-    mHint->setText("Choose a field in the list or by a click on it in the form, or press New Field.");
+    mHint->setText(tr("Choose a field in the list or by a click on it in the form, or press New Field."));
     mHint->setVisible(mGroup > 0 && !mHoldsNew && mField < 1);
     const QString destroys = whatIsDestroyed();
     mWarning->setText(destroys);

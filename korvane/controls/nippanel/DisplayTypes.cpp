@@ -6,6 +6,8 @@
 #include <korvane/controls/nippanel/MultipleListEntry.h>
 #include <korvane/controls/nippanel/TextEntry.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <iterator>
 
@@ -19,16 +21,23 @@ std::unique_ptr<EntryControl> make(EntrySite site) {
 }
 
 constexpr DisplayType types[] = {
-    {"TEXT", "Text", false, "txtNip", 0, make<TextEntry>},
-    {"LIST", "List", true, "gridNip", 0, make<ListEntry>},
-    {"LIST-MULTIPLE", "List-Multiple", true, "gridNip", 0, make<MultipleListEntry>},
-    {"LIST-EDITCONTENT", "List-Editcontent", false, "gridNip", 2, make<EditContentEntry>},
-    {"COMBOBOX", "Combobox", true, "cboNip", 0, make<ComboEntry, ComboEntry::AnyText>},
-    {"COMBOBOX-RESTRICTED", "Combobox-Restricted", true, "cboNip", 0,
-     make<ComboEntry, ComboEntry::ItemsOnly>},
+    {"TEXT", QT_TRANSLATE_NOOP("Korvane::DisplayType", "Text"), false, "txtNip", 0, make<TextEntry>},
+    {"LIST", QT_TRANSLATE_NOOP("Korvane::DisplayType", "List"), true, "gridNip", 0, make<ListEntry>},
+    {"LIST-MULTIPLE", QT_TRANSLATE_NOOP("Korvane::DisplayType", "List-Multiple"), true, "gridNip", 0,
+     make<MultipleListEntry>},
+    {"LIST-EDITCONTENT", QT_TRANSLATE_NOOP("Korvane::DisplayType", "List-Editcontent"), false, "gridNip", 2,
+     make<EditContentEntry>},
+    {"COMBOBOX", QT_TRANSLATE_NOOP("Korvane::DisplayType", "Combobox"), true, "cboNip", 0,
+     make<ComboEntry, ComboEntry::AnyText>},
+    {"COMBOBOX-RESTRICTED", QT_TRANSLATE_NOOP("Korvane::DisplayType", "Combobox-Restricted"), true, "cboNip",
+     0, make<ComboEntry, ComboEntry::ItemsOnly>},
 };
 
 } // namespace
+
+QString DisplayType::caption() const {
+    return QCoreApplication::translate("Korvane::DisplayType", english);
+}
 
 std::span<const DisplayType> displayTypes() {
     return types;

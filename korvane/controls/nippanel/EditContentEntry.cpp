@@ -19,12 +19,13 @@ namespace {
 constexpr int buttonWidth = 855;
 constexpr int buttonHeight = Twips::oneLine;
 constexpr int buttonGap = 60;
+constexpr int besideCaption = 60;
 
 } // namespace
 
 EditContentEntry::EditContentEntry(EntrySite entrySite)
-    : GridEntry(std::move(entrySite), ChoiceModel::None), mAdd(makeButton(QStringLiteral("Add"))),
-      mRemove(makeButton(QStringLiteral("Remove"))) {
+    : GridEntry(std::move(entrySite), ChoiceModel::None), mAdd(makeButton(tr("Add"))),
+      mRemove(makeButton(tr("Remove"))) {
     QObject::connect(mAdd, &QPushButton::clicked, mAdd, [this] { add(); });
     QObject::connect(mRemove, &QPushButton::clicked, mRemove, [this] { remove(); });
     auto* deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), &grid());
@@ -46,7 +47,7 @@ void EditContentEntry::identify() {
     for (QPushButton* button : {mAdd, mRemove}) {
         button->setObjectName(EntrySite::elementName("cmdNip", site().button + number));
         button->setProperty("Tag", site().tag() + QLatin1String("::") + QString::number(++number));
-        button->setAccessibleName(button->text() + QLatin1String(": ") + site().caption());
+        button->setAccessibleName(tr("%1: %2").arg(button->text(), site().caption()));
     }
 }
 
@@ -73,9 +74,18 @@ int EditContentEntry::height(const Twips& twips, int tabHeight) const {
     return GridEntry::height(twips, tabHeight - buttons) + buttons;
 }
 
+/// Wide enough for the longer caption, which a translation may have made longer.
+int EditContentEntry::widthOfButtons(const Twips& twips) const {
+    const auto captionOf = [](const QPushButton* each) {
+        return each->fontMetrics().horizontalAdvance(each->text());
+    };
+    const int caption = std::max(captionOf(mAdd), captionOf(mRemove));
+    return std::max(twips.px(buttonWidth), caption + 2 * twips.px(besideCaption));
+}
+
 void EditContentEntry::place(const QRect& area, const Twips& twips) {
     const int top = area.bottom() + 1 - twips.px(buttonHeight);
-    const QRect button(area.left(), top, twips.px(buttonWidth), twips.px(buttonHeight));
+    const QRect button(area.left(), top, widthOfButtons(twips), twips.px(buttonHeight));
     grid().setGeometry(QRect(area.topLeft(), QSize(area.width(), top - twips.px(buttonGap) - area.top())));
     const auto inReadingOrder = [&](const QRect& r) {
         return QStyle::visualRect(grid().layoutDirection(), area, r);
@@ -89,7 +99,7 @@ void EditContentEntry::place(const QRect& area, const Twips& twips) {
 void EditContentEntry::add() {
     const std::weak_ptr<const int> asked = mFilling;
     const auto answer = Interaction::current().InputBox(
-        utf8(QLatin1String("Please enter the content for ") + site().caption() + QLatin1Char(':')), "");
+        utf8(tr("Please enter the content for %1:").arg(site().caption())), "");
     if (!answer || asked.expired()) return;
     const QString entry = qt(*answer);
     // A list of nothing but blanks is stored as no list at all.

@@ -2,6 +2,8 @@
 
 #include <korvane/controls/nippanel/GridEntry.h>
 
+#include <QCoreApplication>
+
 #include <memory>
 
 class QPushButton;
@@ -11,6 +13,8 @@ namespace Korvane {
 /// "LIST-EDITCONTENT": the rows of the grid are the field's `ChoiceList`; the buttons "Add" and "Remove"
 /// (`cmdNip`) below it change them.
 class EditContentEntry : public GridEntry {
+    Q_DECLARE_TR_FUNCTIONS(Korvane::EditContentEntry)
+
   public:
     explicit EditContentEntry(EntrySite entrySite);
 
@@ -24,6 +28,7 @@ class EditContentEntry : public GridEntry {
     QStringList content() const override;
     void store(const QStringList& entries) override { storeEntries(entries); }
     QPushButton* makeButton(const QString& text);
+    int widthOfButtons(const Twips& twips) const;
     void add();
     void remove();
     void updateRemove();

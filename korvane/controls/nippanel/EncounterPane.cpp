@@ -24,7 +24,7 @@ QLineEdit* makeDescription(QWidget* parent) {
 
 PageCombo* makeProviderCombo(QWidget* parent) {
     auto* combo = new PageCombo(parent);
-    combo->setPlaceholderText("Choose a provider");
+    combo->setPlaceholderText(EncounterPane::tr("Choose a provider"));
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(20);
     combo->setIconSize(QSize(0, 0)); // none are shown, but room for them would be kept
@@ -63,9 +63,9 @@ EncounterPane::EncounterPane(QWidget* parent)
       mProvider(makeProviderCombo(this)) {
     setObjectName("paneEncounter");
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    mLabels[0] = makeLabel("De&scription:", *mDescription, "txtEncounterInfo");
-    mLabels[1] = makeLabel("Da&te:", *mDate, "pvdateEncounter");
-    mLabels[2] = makeLabel("&Provider:", *mProvider, "pvcEncounterInfo");
+    mLabels[0] = makeLabel(tr("De&scription:"), *mDescription, "txtEncounterInfo");
+    mLabels[1] = makeLabel(tr("Da&te:"), *mDate, "pvdateEncounter");
+    mLabels[2] = makeLabel(tr("&Provider:"), *mProvider, "pvcEncounterInfo");
     setTabOrder(mDescription, mDate);
     setTabOrder(mDate, mProvider);
     setFocusProxy(mDescription);

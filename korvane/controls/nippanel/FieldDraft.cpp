@@ -3,6 +3,8 @@
 #include <korvane/controls/container/Text.h>
 #include <korvane/nip/cNIP.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <limits>
 #include <optional>
@@ -23,10 +25,6 @@ bool isTooLong(const QString& text, std::int32_t limit) {
     return limit > 0 && characters(text) > limit;
 }
 
-QString tooLong(const QString& what, int limit) {
-    return QString("%1 is too long.  It can have %2 characters.").arg(what).arg(limit);
-}
-
 /// The number that digits stand for, the largest there is for more of them; nothing for any other text.
 std::optional<int> wholeNumber(const QString& text) {
     const QString digits = text.trimmed();
@@ -41,6 +39,8 @@ using Fault = std::optional<DraftFault>;
 
 /// Checks one draft, input by input.
 class Check {
+    Q_DECLARE_TR_FUNCTIONS(Korvane::FieldDraft)
+
   public:
     Check(const FieldDraft& draft, const FieldDraft& original, const StructureLimits& limits)
         : mDraft(draft), mOriginal(original), mLimits(limits) {}
@@ -55,18 +55,22 @@ class Check {
     Fault name() const {
         if (mDraft.name == mOriginal.name) return {};
         if (mLimits.fieldName < longestColumnName && isTooLong(mDraft.name, mLimits.fieldName))
-            return DraftFault{FieldDraft::Name, tooLong("The field name", mLimits.fieldName)};
+            return DraftFault{
+                FieldDraft::Name,
+                tr("The field name is too long.  It can have %1 characters.").arg(mLimits.fieldName)};
         if (utf8(mDraft.name).size() > longestColumnName)
             return DraftFault{FieldDraft::Name,
-                              QString("The field name is too long.  It can have %1 letters, fewer when there "
-                                      "are accents or other alphabets in it.")
+                              tr("The field name is too long.  It can have %1 letters, fewer when there "
+                                 "are accents or other alphabets in it.")
                                   .arg(longestColumnName)};
         return {};
     }
 
     Fault caption() const {
         if (mDraft.caption == mOriginal.caption || !isTooLong(mDraft.caption, mLimits.caption)) return {};
-        return DraftFault{FieldDraft::Caption, tooLong("The field caption", mLimits.caption)};
+        return DraftFault{
+            FieldDraft::Caption,
+            tr("The field caption is too long.  It can have %1 characters.").arg(mLimits.caption)};
     }
 
     Fault width() {
@@ -75,7 +79,7 @@ class Check {
         const std::optional<int> number = wholeNumber(mDraft.width);
         if (!number || *number < 1 || *number > largest)
             return DraftFault{FieldDraft::Width,
-                              QString("The width must be a whole number from 1 to %1.").arg(largest)};
+                              tr("The width must be a whole number from 1 to %1.").arg(largest)};
         mWidth = *number;
         return {};
     }
@@ -84,8 +88,9 @@ class Check {
         if (mDraft.row == mOriginal.row || mDraft.row.trimmed().isEmpty()) return {};
         const std::optional<int> number = wholeNumber(mDraft.row);
         if (!number || *number < 1)
-            return DraftFault{FieldDraft::Row, "The row position must be a whole number from 1, or empty to "
-                                               "leave the field where it stands."};
+            return DraftFault{FieldDraft::Row,
+                              tr("The row position must be a whole number from 1, or empty to "
+                                 "leave the field where it stands.")};
         mRow = std::min(*number, largest);
         return {};
     }
@@ -93,16 +98,17 @@ class Check {
     Fault choices() const {
         if (mDraft.choices == mOriginal.choices) return {};
         if (mDraft.choices.size() > largest)
-            return fault(QString("A field can have no more than %1 choices.").arg(largest));
+            return fault(tr("A field can have no more than %1 choices.").arg(largest));
         for (const QString& choice : mDraft.choices) {
-            if (choice.isEmpty()) return fault("A choice must not be empty.");
+            if (choice.isEmpty()) return fault(tr("A choice must not be empty."));
             if (choice.contains(u'|'))
-                return fault(QString("The choice [%1] must not have a \"|\" in it.").arg(choice));
+                return fault(tr("The choice [%1] must not have a \"|\" in it.").arg(choice));
             if (isTooLong(choice, mLimits.choice))
-                return fault(tooLong(QString("The choice [%1]").arg(choice.left(40)), mLimits.choice));
+                return fault(tr("The choice [%1] is too long.  It can have %2 characters.")
+                                 .arg(choice.left(40), QString::number(mLimits.choice)));
         }
         if (QStringList(mDraft.choices).removeDuplicates() > 0)
-            return fault("Two of the choices are the same.");
+            return fault(tr("Two of the choices are the same."));
         return {};
     }
 
@@ -117,9 +123,9 @@ class Check {
             needed = std::max(needed, characters(choice));
         if (needed <= mWidth) return {};
         return DraftFault{FieldDraft::Width,
-                          QString(allAtOnce ? "The choices do not fit when all of them are chosen.  Together "
-                                              "they need a width of %1."
-                                            : "The longest choice does not fit.  It needs a width of %1.")
+                          (allAtOnce ? tr("The choices do not fit when all of them are chosen.  Together "
+                                          "they need a width of %1.")
+                                     : tr("The longest choice does not fit.  It needs a width of %1."))
                               .arg(needed)};
     }
 

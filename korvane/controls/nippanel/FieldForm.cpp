@@ -52,17 +52,17 @@ FieldForm::FieldForm(QWidget* parent) : QWidget(parent) {
     auto* grid = new LeastGrid(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnStretch(1, 1);
-    mName = makeText(FieldDraft::Name, "Field Name:");
-    mCaption = makeText(FieldDraft::Caption, "Field Caption:");
-    mType = makeCombo(FieldDraft::Type, "Display Type:");
-    mWidth = makeText(FieldDraft::Width, "Width:");
-    mRule = makeCombo(FieldDraft::Rule, "Initial Value Rule:");
-    mRow = makeText(FieldDraft::Row, "Row Position:");
+    mName = makeText(FieldDraft::Name, tr("Field Name:"));
+    mCaption = makeText(FieldDraft::Caption, tr("Field Caption:"));
+    mType = makeCombo(FieldDraft::Type, tr("Display Type:"));
+    mWidth = makeText(FieldDraft::Width, tr("Width:"));
+    mRule = makeCombo(FieldDraft::Rule, tr("Initial Value Rule:"));
+    mRow = makeText(FieldDraft::Row, tr("Row Position:"));
     for (const DisplayType& type : displayTypes())
-        mType->addItem(type.caption, qt(type.keyword));
-    mRule->addItem("Cascade Item", 1);
-    mRule->addItem("Do not Cascade", 0);
-    mRule->setToolTip("Cascading means that values from one Exam will be carried over to the next exam");
+        mType->addItem(type.caption(), qt(type.keyword));
+    mRule->addItem(tr("Cascade Item"), 1);
+    mRule->addItem(tr("Do not Cascade"), 0);
+    mRule->setToolTip(tr("Cascading means that values from one Exam will be carried over to the next exam"));
     mChoices = new ChoiceEditor(this);
     grid->addWidget(mChoices, FieldDraft::Choices, 0, 1, 2);
     mMarks[FieldDraft::Choices] = makeMark(this);
@@ -115,7 +115,7 @@ void FieldForm::fill(const FieldDraft& field, bool isNew) {
     setText(*mWidth, field.width);
     choose(*mRule, 2, field.rule);
     setText(*mRow, field.row);
-    mRow->setPlaceholderText(isNew ? "the last" : "as it is");
+    mRow->setPlaceholderText(isNew ? tr("the last") : tr("as it is"));
     const QSignalBlocker quiet(mChoices);
     mChoices->show(field.choices, field.selected);
     compareWith(field);
@@ -191,7 +191,7 @@ void FieldForm::note() {
 
 void FieldForm::mark(FieldDraft::Input which, bool changed, const QString& before) {
     QLabel& label = *mMarks[which];
-    const QString was = before.isEmpty() ? QString("Changed") : "Changed; it was " + before;
+    const QString was = before.isEmpty() ? tr("Changed") : tr("Changed; it was %1").arg(before);
     label.setVisible(changed);
     label.setToolTip(was);
     input(which)->setAccessibleDescription(changed ? was : QString());

@@ -21,10 +21,9 @@ constexpr int lowest = 5;
 QTreeWidgetItem* itemOf(const cNIP& nip, std::int16_t group, std::int16_t field) {
     const std::string& keyword = nip.displayType(group, field);
     const DisplayType* type = findDisplayType(keyword);
-    auto* item = new QTreeWidgetItem({qt(nip.fieldName(group, field)), qt(nip.Caption(group, field)),
-                                      type ? QString(type->caption) : qt(keyword),
-                                      QString::number(nip.maxLength(group, field)),
-                                      QString::number(nip.RowIndex(group, field))});
+    auto* item = new QTreeWidgetItem(
+        {qt(nip.fieldName(group, field)), qt(nip.Caption(group, field)), type ? type->caption() : qt(keyword),
+         QString::number(nip.maxLength(group, field)), QString::number(nip.RowIndex(group, field))});
     for (const int column : elidedColumns)
         item->setToolTip(column, item->text(column));
     return item;
@@ -34,8 +33,8 @@ QTreeWidgetItem* itemOf(const cNIP& nip, std::int16_t group, std::int16_t field)
 
 FieldGrid::FieldGrid(QWidget* parent) : QTreeWidget(parent) {
     setObjectName("gridNipFields");
-    setAccessibleName("Fields of the group");
-    setHeaderLabels({"Name", "Caption", "Display Type", "Width", "Row"});
+    setAccessibleName(tr("Fields of the group"));
+    setHeaderLabels({tr("Name"), tr("Caption"), tr("Display Type"), tr("Width"), tr("Row")});
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);

@@ -48,7 +48,7 @@ void FieldMark::frame(QWidget* label, QWidget* entry) {
     mLabel = label;
     mEntry = entry;
     mFrame = new Frame(entry->parentWidget());
-    mEntry->setAccessibleDescription("This field is being customized");
+    mEntry->setAccessibleDescription(tr("This field is being customized"));
     label->installEventFilter(this);
     entry->installEventFilter(this);
     place();

@@ -51,9 +51,8 @@ void NipTabs::CreateNipControls(cNIP& nip) {
         }
     });
     if (problems.empty()) return;
-    Interaction::current().MsgBox("The following problems occurred when loading the NIP controls:\n\n" +
-                                      problems,
-                                  MsgBoxStyle::OkOnly, "");
+    const QString text = tr("The following problems occurred when loading the NIP controls:\n\n%1");
+    Interaction::current().MsgBox(utf8(text.arg(qt(problems))), MsgBoxStyle::OkOnly, "");
 }
 
 /// What looks at the model goes by a structure that it may have no more.

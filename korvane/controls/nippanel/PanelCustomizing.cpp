@@ -190,14 +190,14 @@ bool ucNIPPanel::Members::mayLeaveField() {
 
 bool ucNIPPanel::Members::asksToLeave(const CustomizePane& pane) {
     if (pane.holdsNew())
-        return Interaction::current().MsgBox("Are you sure you want to cancel creating this field?",
+        return Interaction::current().MsgBox(utf8(tr("Are you sure you want to cancel creating this field?")),
                                              MsgBoxStyle::YesNo | MsgBoxStyle::Question,
-                                             "Cancel field creation") == Answer::Yes;
-    const std::string text = "Changes have been made to the field [" + utf8(pane.form().original().name) +
-                             "] in the group " + utf8(pane.groupTitle()) +
-                             ". \nAre you certain you want to discard those changes?";
-    return Interaction::current().MsgBox(text, MsgBoxStyle::OkCancel | MsgBoxStyle::Question,
-                                         "Discard Customization Confirmation") == Answer::Ok;
+                                             utf8(tr("Cancel field creation"))) == Answer::Yes;
+    const QString text = tr("Changes have been made to the field [%1] in the group %2. \nAre you certain you "
+                            "want to discard those changes?")
+                             .arg(pane.form().original().name, pane.groupTitle());
+    return Interaction::current().MsgBox(utf8(text), MsgBoxStyle::OkCancel | MsgBoxStyle::Question,
+                                         utf8(tr("Discard Customization Confirmation"))) == Answer::Ok;
 }
 
 /// In one of the pane's boxes and closed combo boxes Enter stores the field, and never presses what a dialog

@@ -18,9 +18,14 @@ namespace Korvane {
 
 namespace {
 
-constexpr auto nameTitle = "Field Name Validation";
-constexpr auto duplicateText =
-    "The field name already exists in this Nip group.  Field names cannot be duplicated.";
+QString nameTitle() {
+    return ucNIPPanel::tr("Field Name Validation");
+}
+
+QString duplicateText() {
+    return ucNIPPanel::tr(
+        "The field name already exists in this Nip group.  Field names cannot be duplicated.");
+}
 
 bool hasField(const cNIP& nip, std::int16_t group, std::string_view name) {
     for (const std::int16_t field : CountedFrom1(nip.FieldCount(group)))
@@ -31,9 +36,9 @@ bool hasField(const cNIP& nip, std::int16_t group, std::string_view name) {
 } // namespace
 
 /// Says what is wrong with an input. False.
-bool ucNIPPanel::Members::refuse(FieldDraft::Input input, std::string_view message, std::string_view title) {
+bool ucNIPPanel::Members::refuse(FieldDraft::Input input, const QString& message, const QString& title) {
     form->customizePane().form().focus(input);
-    Interaction::current().MsgBox(message, MsgBoxStyle::Information, title);
+    Interaction::current().MsgBox(utf8(message), MsgBoxStyle::Information, utf8(title));
     return false;
 }
 
@@ -46,16 +51,17 @@ void ucNIPPanel::Members::saveField() {
             const FieldDraft draft = pane.form().draft();
             if (!isValidFieldName(draft.name))
                 return refuse(FieldDraft::Name,
-                              "The field name (" + utf8(draft.name) +
-                                  ") is not a valid field name.  \n\nField names cannot contain spaces, "
-                                  "quotation marks, or special characters and must begin with a letter.",
-                              nameTitle);
+                              tr("The field name (%1) is not a valid field name.  \n\nField names cannot "
+                                 "contain spaces, quotation marks, or special characters and must begin "
+                                 "with a letter.")
+                                  .arg(draft.name),
+                              nameTitle());
             const Hourglass hourglass;
             if (pane.holdsNew() && hasField(*nip, pane.group(), utf8(draft.name)))
-                return refuse(FieldDraft::Name, duplicateText, nameTitle);
+                return refuse(FieldDraft::Name, duplicateText(), nameTitle());
             const auto checked = definitionOf(draft, pane.form().original(), readLimits(connection));
             if (const auto* fault = std::get_if<DraftFault>(&checked))
-                return refuse(fault->input, utf8(fault->message), "Field Validation");
+                return refuse(fault->input, fault->message, tr("Field Validation"));
             return storeField(std::get<FieldDefinition>(checked));
         });
     });
@@ -75,22 +81,22 @@ bool ucNIPPanel::Members::storeField(const FieldDefinition& definition) {
         form->focusDescription();
         return true;
     }
-    const std::string reason = whyFailed();
+    const QString reason = whyFailed();
     const bool isTaken = !defined && nip->LastError()->Number() == RuntimeError::DuplicateKey;
-    const auto next = std::to_string(nip->FieldCount(group) + 1);
+    const auto next = QString::number(nip->FieldCount(group) + 1);
     if (isTaken) {
         renewStructure();
         return refuse(FieldDraft::Name,
-                      sameName(definition.fieldName, "EncounterID") ? reason.substr(2) + "." : duplicateText,
-                      nameTitle);
+                      sameName(definition.fieldName, "EncounterID") ? reason.mid(2) + u'.' : duplicateText(),
+                      nameTitle());
     }
     if (isNew && !defined)
-        renewStructure("An error occured while creating this field.  Please try again.  "
-                       "(ucNipPanel.SaveFieldCustomization-mnip.CreateField Failed. mcG=" +
-                           std::to_string(group) + ", mcF=" + next + reason,
+        renewStructure(tr("An error occured while creating this field.  Please try again.  "
+                          "(ucNipPanel.SaveFieldCustomization-mnip.CreateField Failed. mcG=%1, mcF=%2%3")
+                           .arg(QString::number(group), next, reason),
                        MsgBoxStyle::OkOnly);
     else
-        renewStructure("System error: Unable to save this field." + reason);
+        renewStructure(tr("System error: Unable to save this field.") + reason);
     return false;
 }
 
@@ -101,10 +107,10 @@ void ucNIPPanel::Members::deleteField() {
             if (!nip || mode != customizing || !freshStructure() || pane.field() < 1) return false;
             const QPointer<ucNIPPanel> alive(&panel);
             const Answer answer = Interaction::current().MsgBox(
-                "Are you certain you wish to delete this field?  All data in the field will be permenantly "
-                "lost.",
+                utf8(tr("Are you certain you wish to delete this field?  All data in the field will be "
+                        "permenantly lost.")),
                 MsgBoxStyle::OkCancel | MsgBoxStyle::Question | MsgBoxStyle::DefaultButton2,
-                "Delete Confirmation");
+                utf8(tr("Delete Confirmation")));
             if (!alive || answer != Answer::Ok) return false;
             const Hourglass hourglass;
             const PaintLock lock(panel);
@@ -114,7 +120,7 @@ void ucNIPPanel::Members::deleteField() {
                 pane.focusList();
                 return true;
             }
-            renewStructure("System error: Unable to delete this field." + whyFailed());
+            renewStructure(tr("System error: Unable to delete this field.") + whyFailed());
             return false;
         });
     });

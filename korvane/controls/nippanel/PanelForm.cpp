@@ -29,8 +29,8 @@ QToolButton* makeCloseButton(QWidget* parent) {
     button->setText(QString::fromUtf8("\u00d7"));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setToolTip("Close the Nip");
-    button->setAccessibleName("Close the Nip");
+    button->setToolTip(PanelForm::tr("Close the Nip"));
+    button->setAccessibleName(button->toolTip());
     return button;
 }
 
@@ -106,7 +106,7 @@ void PanelForm::makeContent() {
     mContent = new QWidget(mSplit);
     mContent->setObjectName("paneContent");
     mTabs = new NipTabs(mContent);
-    mTabs->setAccessibleName("Groups of the Nip");
+    mTabs->setAccessibleName(tr("Groups of the Nip"));
     auto* content = new QVBoxLayout(mContent);
     content->setContentsMargins(0, 0, 0, 0);
     content->addWidget(mTabs);

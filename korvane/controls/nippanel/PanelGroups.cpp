@@ -19,16 +19,16 @@ namespace Korvane {
 std::optional<std::string> ucNIPPanel::Members::askGroupName() {
     const QPointer<ucNIPPanel> alive(&panel);
     std::optional<std::string> name = Interaction::current().InputBox(
-        "What is the name of the group you would like to create", "New group name");
+        utf8(tr("What is the name of the group you would like to create")), utf8(tr("New group name")));
     if (!alive || !name) return std::nullopt;
     if (trim(*name).empty()) {
-        tell("A group needs a name.  No group was created.", MsgBoxStyle::Information);
+        tell(tr("A group needs a name.  No group was created."), MsgBoxStyle::Information);
         return std::nullopt;
     }
     const std::int32_t limit = readLimits(connection).groupName;
     if (limit > 0 && qt(*name).toUcs4().size() > limit) {
-        tell("The name of the group is too long.  It can have " + std::to_string(limit) +
-                 " characters.  No group was created.",
+        tell(tr("The name of the group is too long.  It can have %1 characters.  No group was created.")
+                 .arg(limit),
              MsgBoxStyle::Information);
         return std::nullopt;
     }
@@ -51,9 +51,10 @@ bool ucNIPPanel::Members::createGroup(const std::string& name) {
     const PaintLock lock(panel);
     bool created = nip->CreateGroup(name);
     if (!created && nip->StructureChanged() && renewStructure()) created = nip->CreateGroup(name);
-    const std::string failure = created ? ""
-                                        : "System error: Unable to create this Nip group" + whyFailed() +
-                                              "\n\nThe group [" + name + "] was not created.";
+    QString failure;
+    if (!created)
+        failure = tr("System error: Unable to create this Nip group%1\n\nThe group [%2] was not created.")
+                      .arg(whyFailed(), qt(name));
     if (!renewStructure(failure) || !created) return false;
     for (const std::int16_t group : CountedFrom1(nip->GroupCount()))
         if (nip->GroupName(group) == name) form->tabs().setCurrentIndex(group - 1);
@@ -68,17 +69,18 @@ void ucNIPPanel::Members::deleteGroup() {
             if (!nip || !mayLeaveField() || !freshStructure() || selectedGroup() < 1) return false;
             const QPointer<ucNIPPanel> alive(&panel);
             const Answer answer = Interaction::current().MsgBox(
-                "Deleting a Nip Group will also delete all fields in the group.\nThis is a destructive "
-                "action "
-                "that cannot be reversed.  Do you wish to continue?",
+                utf8(tr(
+                    "Deleting a Nip Group will also delete all fields in the group.\nThis is a destructive "
+                    "action that cannot be reversed.  Do you wish to continue?")),
                 MsgBoxStyle::OkCancel | MsgBoxStyle::Question | MsgBoxStyle::DefaultButton2,
-                "Delete Group Confirmation");
+                utf8(tr("Delete Group Confirmation")));
             if (!alive || answer != Answer::Ok) return false;
             const Hourglass hourglass;
             const PaintLock lock(panel);
             const bool deleted = nip->DeleteGroup(selectedGroup());
-            return renewStructure(deleted ? ""
-                                          : "System error: Unable to remove this nip group." + whyFailed()) &&
+            return renewStructure(deleted
+                                      ? QString()
+                                      : tr("System error: Unable to remove this nip group.") + whyFailed()) &&
                    deleted;
         });
     });

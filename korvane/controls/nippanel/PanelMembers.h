@@ -79,7 +79,7 @@ struct ucNIPPanel::Members {
     bool numbersGroups = false;
     /// Where what is written in the customize pane went when its place was gone, as a text to append; empty
     /// while it has its place.
-    std::string displaced;
+    QString displaced;
 
   private:
     /// Runs one of the panel's tasks, which no other may interrupt: those that the host calls for meanwhile,
@@ -87,10 +87,10 @@ struct ucNIPPanel::Members {
     /// `raise` is called if the task succeeded, and may call for others. False when it did not, or when the
     /// panel was deleted before it ended.
     bool alone(const std::function<bool()>& task, const std::function<void()>& raise = {});
-    static void tell(std::string_view message, int style);
+    static void tell(const QString& message, int style);
     void tellModified();
     void setChanged(bool on);
-    bool mayLose(std::string_view question) const;
+    bool mayLose(const QString& question) const;
     bool ensureStructure();
     bool loadValues(bool isNew);
     void buildControls();
@@ -119,13 +119,13 @@ struct ucNIPPanel::Members {
     bool isEnterInPane(const QKeyEvent& key) const;
     static bool asksToLeave(const CustomizePane& pane);
 
-    std::string whyFailed() const;
-    bool reloadStructure(std::string& lost);
-    bool renewStructure(std::string_view failure = {}, int style = MsgBoxStyle::Exclamation);
+    QString whyFailed() const;
+    bool reloadStructure(QString& lost);
+    bool renewStructure(const QString& failure = {}, int style = MsgBoxStyle::Exclamation);
     bool freshStructure();
     void followStructure();
     void displaceField();
-    bool refuse(FieldDraft::Input input, std::string_view message, std::string_view title);
+    bool refuse(FieldDraft::Input input, const QString& message, const QString& title);
     void saveField();
     bool storeField(const FieldDefinition& definition);
     void deleteField();
@@ -135,11 +135,11 @@ struct ucNIPPanel::Members {
     void deleteGroup();
 
     bool isComplete();
-    bool leadTo(void (EncounterPane::*focus)(), std::string_view message);
+    bool leadTo(void (EncounterPane::*focus)(), const QString& message);
     bool storeAll();
     bool storeValues();
     Outcome store(std::string_view routineName, const std::function<Outcome()>& encounter);
-    static std::string_view reportOf(Outcome outcome);
+    static QString reportOf(Outcome outcome);
     Outcome storeEncounter();
     void takeOnStructure();
     Outcome claim() const;

@@ -30,7 +30,7 @@ void ucNIPPanel::Members::saveAndClose() {
     alone(
         [&] {
             if (!mEncounter) {
-                tell("Unable to save this encounter", MsgBoxStyle::OkOnly);
+                tell(tr("Unable to save this encounter"), MsgBoxStyle::OkOnly);
                 return false;
             }
             if (!isComplete()) return false;
@@ -53,17 +53,18 @@ void ucNIPPanel::Members::saveNipInfo() {
 bool ucNIPPanel::Members::isComplete() {
     EncounterPane& pane = form->encounterPane();
     if (!pane.takeDate())
-        return leadTo(&EncounterPane::focusDate,
-                      "The date of this encounter is not a valid date. Please enter it as month/day/year.");
+        return leadTo(
+            &EncounterPane::focusDate,
+            tr("The date of this encounter is not a valid date. Please enter it as month/day/year."));
     if (pane.hasProvider() || mEncounter->ProviderID() >= 0) return true;
     return leadTo(&EncounterPane::focusProvider,
                   pane.offersProviders()
-                      ? "Please choose the provider of this encounter. It cannot be saved without one."
-                      : "This clinic has no providers yet. An encounter cannot be saved without one.");
+                      ? tr("Please choose the provider of this encounter. It cannot be saved without one.")
+                      : tr("This clinic has no providers yet. An encounter cannot be saved without one."));
 }
 
 /// Tells the user what is missing, with the focus there. False.
-bool ucNIPPanel::Members::leadTo(void (EncounterPane::*focus)(), std::string_view message) {
+bool ucNIPPanel::Members::leadTo(void (EncounterPane::*focus)(), const QString& message) {
     (form->encounterPane().*focus)();
     tell(message, MsgBoxStyle::Information);
     return false;
@@ -100,19 +101,20 @@ bool ucNIPPanel::Members::storeValues() {
     return true;
 }
 
-std::string_view ucNIPPanel::Members::reportOf(Outcome outcome) {
+QString ucNIPPanel::Members::reportOf(Outcome outcome) {
     switch (outcome) {
     case Outcome::NumberTaken:
-        return "This Nip could not be saved, because another desk took its number at the same moment. "
-               "Everything you entered is still here; please try again.";
+        return tr("This Nip could not be saved, because another desk took its number at the same moment. "
+                  "Everything you entered is still here; please try again.");
     case Outcome::Gone:
-        return "This Nip could not be saved, because its encounter is no longer there. It may have been "
-               "deleted at another desk. Everything you entered is still here.";
+        return tr("This Nip could not be saved, because its encounter is no longer there. It may have been "
+                  "deleted at another desk. Everything you entered is still here.");
     case Outcome::Unknown:
-        return "The connection was lost at the last moment, so it is not known whether this Nip was saved. "
-               "Everything you entered is still here; please save it again. It is not stored twice.";
+        return tr(
+            "The connection was lost at the last moment, so it is not known whether this Nip was saved. "
+            "Everything you entered is still here; please save it again. It is not stored twice.");
     default:
-        return "This Nip could not be saved. Everything you entered is still here; please try again.";
+        return tr("This Nip could not be saved. Everything you entered is still here; please try again.");
     }
 }
 
@@ -122,7 +124,7 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::store(std::string_view routine
                                                         const std::function<Outcome()>& encounter) {
     Outcome outcome = Outcome::NotStored;
     bool committing = false;
-    std::string untold; // no query has reported it
+    QString untold; // no query has reported it
     const auto work = [&] {
         const Hourglass hourglass;
         ado::Transaction transaction(*connection);
@@ -139,7 +141,7 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::store(std::string_view routine
         try {
             return work();
         } catch (...) {
-            untold = "\r\n\r\n" + currentError().Description();
+            untold = "\r\n\r\n" + qt(currentError().Description());
             throw;
         }
     });
@@ -147,7 +149,7 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::store(std::string_view routine
     if (nip->StructureChanged()) return Outcome::Customized;
     // Without an answer to the commit it may have taken place or not.
     if (committing && connection->State() != 1) outcome = Outcome::Unknown;
-    tell(std::string(reportOf(outcome)) + untold, MsgBoxStyle::Exclamation);
+    tell(reportOf(outcome) + untold, MsgBoxStyle::Exclamation);
     return outcome;
 }
 
@@ -171,14 +173,14 @@ ucNIPPanel::Members::Outcome ucNIPPanel::Members::claim() const {
 void ucNIPPanel::Members::takeOnStructure() {
     const Hourglass hourglass;
     const PaintLock lock(panel);
-    std::string lost;
+    QString lost;
     if (!reloadStructure(lost))
         return tell(
-            "This Nip could not be saved, because another desk has customized the form, and the new form "
-            "could not be read. Everything you entered is still here; please try again.",
+            tr("This Nip could not be saved, because another desk has customized the form, and the new form "
+               "could not be read. Everything you entered is still here; please try again."),
             MsgBoxStyle::Exclamation);
-    tell("This Nip is not saved yet, because another desk has customized the form. It is shown as it is now, "
-         "with everything you entered; please look through it and save it again." +
+    tell(tr("This Nip is not saved yet, because another desk has customized the form. It is shown as it is "
+            "now, with everything you entered; please look through it and save it again.") +
              lost,
          MsgBoxStyle::Exclamation);
 }

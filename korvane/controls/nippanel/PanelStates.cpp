@@ -56,14 +56,15 @@ bool ucNIPPanel::Members::ensureStructure() {
     structureLoaded = nip->LoadStructure(connection);
     if (!structureLoaded) return false;
     buildControls();
-    if (!displaced.empty()) tell("The form is shown as it is now." + displaced, MsgBoxStyle::Exclamation);
+    if (!displaced.isEmpty())
+        tell(tr("The form is shown as it is now.") + displaced, MsgBoxStyle::Exclamation);
     return true;
 }
 
-bool ucNIPPanel::Members::mayLose(std::string_view question) const {
+bool ucNIPPanel::Members::mayLose(const QString& question) const {
     if (!changed) return true;
     const QPointer<ucNIPPanel> alive(&panel);
-    return Interaction::current().MsgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, "") ==
+    return Interaction::current().MsgBox(utf8(question), MsgBoxStyle::YesNo | MsgBoxStyle::Question, "") ==
                Answer::Yes &&
            alive;
 }
@@ -72,13 +73,14 @@ bool ucNIPPanel::Members::createNip(const QString& patient) {
     return alone([&] {
         if (!nip) return false;
         if (patient.trimmed().isEmpty()) {
-            tell("No patient is chosen. A Nip cannot be created without one.", MsgBoxStyle::Exclamation);
+            tell(tr("No patient is chosen. A Nip cannot be created without one."), MsgBoxStyle::Exclamation);
             return false;
         }
-        if (!mayLose(creating ? "Are you sure you want to create a new nip and discard the one you were "
-                                "creating?"
-                              : "Are you sure you want to create a new nip and discard the changes you are "
-                                "making?"))
+        if (!mayLose(creating
+                         ? tr("Are you sure you want to create a new nip and discard the one you were "
+                              "creating?")
+                         : tr("Are you sure you want to create a new nip and discard the changes you are "
+                              "making?")))
             return false;
         if (mode == customizing && !cancelCustomize()) return false;
         const Hourglass hourglass;
@@ -99,8 +101,8 @@ bool ucNIPPanel::Members::loadNip(qint32 encounterID, const QString& patient) {
     return alone([&] {
         if (!nip) return false;
         if (!mayLose(creating
-                         ? "Are you sure you want to load a nip and discard the one you were creating?"
-                         : "Are you sure you want to load a nip and discard the changes you are making?"))
+                         ? tr("Are you sure you want to load a nip and discard the one you were creating?")
+                         : tr("Are you sure you want to load a nip and discard the changes you are making?")))
             return false;
         if (mode == customizing && !cancelCustomize()) return false;
         return routine("Error in ucNipPanel.LoadNipInfo: ", false, [&] {
@@ -151,7 +153,7 @@ bool ucNIPPanel::Members::loadValues(bool isNew) {
     if (!nip->StructureChanged()) return false;
     structureLoaded = false;
     if (!ensureStructure() || !load()) return false;
-    tell("Another desk has customized the form. It is shown as it is now.", MsgBoxStyle::Information);
+    tell(tr("Another desk has customized the form. It is shown as it is now."), MsgBoxStyle::Information);
     return true;
 }
 
@@ -165,10 +167,10 @@ bool ucNIPPanel::Members::settle(Shown shown) {
     }
     clear();
     patientID.clear();
-    tell(shown == Shown::NotFound ? "This Nip could not be found. It may have been deleted."
+    tell(shown == Shown::NotFound ? tr("This Nip could not be found. It may have been deleted.")
          : shown == Shown::OfAnotherPatient
-             ? "This Nip belongs to another patient and cannot be shown here."
-             : "This Nip could not be read from the database. Please try again.",
+             ? tr("This Nip belongs to another patient and cannot be shown here.")
+             : tr("This Nip could not be read from the database. Please try again."),
          MsgBoxStyle::Exclamation);
     return false;
 }
@@ -205,8 +207,8 @@ void ucNIPPanel::Members::clear() {
 bool ucNIPPanel::Members::close() {
     return alone(
         [&] {
-            if (!mayLose(creating ? "Are you sure you want to cancel the creation of this Nip?"
-                                  : "Are you sure you want to cancel the changes made to this Nip?"))
+            if (!mayLose(creating ? tr("Are you sure you want to cancel the creation of this Nip?")
+                                  : tr("Are you sure you want to cancel the changes made to this Nip?")))
                 return false;
             if (mode == customizing && !cancelCustomize()) return false;
             const PaintLock lock(panel);
@@ -233,9 +235,10 @@ void ucNIPPanel::Members::setChanged(bool on) {
 void ucNIPPanel::Members::describe() {
     form->buttons().offerSave(!customizeOnly || changed, !nothingLeft);
     form->showEncounter(mode != customizing || mEncounter);
-    if (!mEncounter) return form->say("No Nip is open");
-    const QString what = creating ? "New Nip" : "Saved Nip";
-    form->say(changed ? what + " with changes that are not saved" : what);
+    if (!mEncounter) return form->say(tr("No Nip is open"));
+    if (!changed) return form->say(creating ? tr("New Nip") : tr("Saved Nip"));
+    form->say(creating ? tr("New Nip with changes that are not saved")
+                       : tr("Saved Nip with changes that are not saved"));
 }
 
 } // namespace Korvane

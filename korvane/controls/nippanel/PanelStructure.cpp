@@ -13,16 +13,16 @@ namespace Korvane {
 namespace {
 
 /// What was entered into fields that are gone: in full in the error log, since a box holds only so much.
-std::string listOf(const std::vector<LostEntry>& lost) {
+QString listOf(const std::vector<LostEntry>& lost) {
     if (lost.empty()) return {};
-    constexpr std::size_t shown = 500;
-    std::string list = "\r\n\r\nThese entries have no field any more (they are kept in the error log):";
+    constexpr int shown = 500;
+    QString list =
+        "\r\n\r\n" + ucNIPPanel::tr("These entries have no field any more (they are kept in the error log):");
     for (const LostEntry& entry : lost) {
         const std::string name = "[" + entry.groupName + "] " + entry.caption + ": ";
         ErrLog("ucNipPanel: the field is gone into which was entered: " + name + entry.text);
         const QString text = qt(entry.text);
-        list += "\r\n" + name +
-                utf8(static_cast<std::size_t>(text.size()) > shown ? text.left(shown) + QChar(0x2026) : text);
+        list += "\r\n" + qt(name) + (text.size() > shown ? text.left(shown) + QChar(0x2026) : text);
     }
     return list;
 }
@@ -36,17 +36,18 @@ std::string textOf(const FieldDraft& draft) {
 } // namespace
 
 /// The reason of the operation that just failed, as a text to append.
-std::string ucNIPPanel::Members::whyFailed() const {
+QString ucNIPPanel::Members::whyFailed() const {
     if (nip->StructureChanged())
-        return "\n\nAnother desk has customized this form since it was shown here.  It is shown as it is "
-               "now; what you entered is kept.";
-    return nip->LastError() ? "\n\n" + nip->LastError()->Description() : "";
+        return "\n\n" +
+               tr("Another desk has customized this form since it was shown here.  It is shown as it is "
+                  "now; what you entered is kept.");
+    return nip->LastError() ? "\n\n" + qt(nip->LastError()->Description()) : QString();
 }
 
 /// Loads the structure as it is stored and builds the controls anew. What was entered into the Nip stays, and
 /// what is written in the customize pane; `lost` tells, as a text to append, what has no field any more.
 /// False when it could not be read: it is tried again before it is needed.
-bool ucNIPPanel::Members::reloadStructure(std::string& lost) {
+bool ucNIPPanel::Members::reloadStructure(QString& lost) {
     form->tabs().collect();
     std::vector<LostEntry> entries;
     structureLoaded = nip->ReloadStructure(entries);
@@ -57,13 +58,13 @@ bool ucNIPPanel::Members::reloadStructure(std::string& lost) {
 }
 
 /// Tells with it, in one box, that something failed.
-bool ucNIPPanel::Members::renewStructure(std::string_view failure, int style) {
-    std::string lost;
+bool ucNIPPanel::Members::renewStructure(const QString& failure, int style) {
+    QString lost;
     const bool read = reloadStructure(lost);
-    const std::string unread =
-        read ? "" : "The form could not be read from the database again." + whyFailed();
-    if (!failure.empty() || !lost.empty())
-        tell(std::string(failure.empty() ? "The form is shown as it is now." : failure) + lost, style);
+    const QString unread =
+        read ? QString() : tr("The form could not be read from the database again.") + whyFailed();
+    if (!failure.isEmpty() || !lost.isEmpty())
+        tell((failure.isEmpty() ? tr("The form is shown as it is now.") : failure) + lost, style);
     if (!read) tell(unread, MsgBoxStyle::Exclamation);
     return read;
 }
@@ -72,7 +73,7 @@ bool ucNIPPanel::Members::renewStructure(std::string_view failure, int style) {
 /// customize pane still has its place there.
 bool ucNIPPanel::Members::freshStructure() {
     displaced.clear();
-    return (mEncounter && !structureLoaded ? renewStructure() : ensureStructure()) && displaced.empty();
+    return (mEncounter && !structureLoaded ? renewStructure() : ensureStructure()) && displaced.isEmpty();
 }
 
 /// Shows the structure in the customize pane, with what is being written there. A model that could not be
@@ -93,15 +94,16 @@ void ucNIPPanel::Members::followStructure() {
 void ucNIPPanel::Members::displaceField() {
     CustomizePane& pane = form->customizePane();
     const FieldDraft written = pane.form().draft();
-    displaced = pane.holdsNew()
-                    ? "\r\n\r\nThe group of the new field is no longer there."
-                    : "\r\n\r\nThe field [" + utf8(pane.form().original().name) + "] is no longer there.";
+    displaced = "\r\n\r\n" +
+                (pane.holdsNew() ? tr("The group of the new field is no longer there.")
+                                 : tr("The field [%1] is no longer there.").arg(pane.form().original().name));
     if (pane.resumeAsNew(*nip, selectedGroup())) {
-        displaced += "  What you wrote is kept as a new field of the group " + utf8(pane.groupTitle()) +
-                     ": save it to create the field there, or cancel it.";
+        displaced += "  " + tr("What you wrote is kept as a new field of the group %1: "
+                               "save it to create the field there, or cancel it.")
+                                .arg(pane.groupTitle());
         return;
     }
-    displaced += "  There is no group left for what you wrote; it is kept in the error log.";
+    displaced += "  " + tr("There is no group left for what you wrote; it is kept in the error log.");
     ErrLog("ucNipPanel: there is no group any more for the field " + textOf(written));
 }
 

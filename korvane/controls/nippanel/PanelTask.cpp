@@ -1,5 +1,6 @@
 #include <korvane/controls/nippanel/PanelMembers.h>
 
+#include <korvane/controls/container/Text.h>
 #include <korvane/runtime/HeldMessages.h>
 #include <korvane/runtime/Interaction.h>
 
@@ -42,8 +43,8 @@ bool ucNIPPanel::Members::alone(const std::function<bool()>& task, const std::fu
     return done;
 }
 
-void ucNIPPanel::Members::tell(std::string_view message, int style) {
-    Interaction::current().MsgBox(message, style, "");
+void ucNIPPanel::Members::tell(const QString& message, int style) {
+    Interaction::current().MsgBox(utf8(message), style, "");
 }
 
 void ucNIPPanel::Members::tellModified() {

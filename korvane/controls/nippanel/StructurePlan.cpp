@@ -1,7 +1,10 @@
 #include <korvane/controls/nippanel/StructurePlan.h>
 
+#include <korvane/controls/container/Text.h>
 #include <korvane/data/ErrLog.h>
 #include <korvane/runtime/RuntimeError.h>
+
+#include <QCoreApplication>
 
 #include <limits>
 #include <map>
@@ -28,6 +31,8 @@ class ControlArrays {
 };
 
 class Planner {
+    Q_DECLARE_TR_FUNCTIONS(Korvane::StructurePlan)
+
   public:
     explicit Planner(cNIP& nip) : mNip(nip) {}
 
@@ -64,7 +69,7 @@ class Planner {
         const std::string& type = mNip.displayType(group, field);
         mNip.ControlIndex(group, field, std::int16_t{-1});
         mNip.ControlIndexLabel(group, field, std::int16_t{-1});
-        mPlan.problems += name + " has unrecognized display type:" + type + "\n";
+        mPlan.problems += utf8(tr("%1 has unrecognized display type:%2").arg(qt(name), qt(type))) + "\n";
         ErrLog("ucNipPanel.CreateNipControls: Could not understand Nip field DisplayType'" + name +
                "' Display Type: '" + type + "'");
     }
