@@ -1,5 +1,8 @@
 #include "shared/Screen.h"
 
+#include "shared/Language.h"
+
+#include <QCoreApplication>
 #include <QTemporaryFile>
 #include <QtGlobal>
 
@@ -43,9 +46,11 @@ bool readyScreen(const char* program, int argc, char** argv) {
     const bool isTour = hasArgument(argc, argv, "--tour");
     if (!hasScreen(argc, argv)) {
         if (!isTour) {
-            std::fprintf(stderr,
-                         "%s: there is no display. Set DISPLAY, or see the guided tour with --tour DIR.\n",
-                         program);
+            const QCoreApplication application(argc, argv);
+            chooseLanguage(QCoreApplication::arguments());
+            const QString why = QCoreApplication::translate(
+                "Apps::Screen", "there is no display. Set DISPLAY, or see the guided tour with --tour DIR.");
+            std::fprintf(stderr, "%s: %s\n", program, qUtf8Printable(why));
             return false;
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");

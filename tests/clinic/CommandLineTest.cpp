@@ -53,9 +53,15 @@ TEST(CommandLine, SaysWhatItOffersAndRefusesWhatItCannotDo) {
     }
 }
 
-TEST(CommandLine, GoesOnTheGuidedTour) {
-    if (ScratchSchema::hasServer()) GTEST_SKIP() << "the tour on the server is compared with this one";
-    expectAllOf(tour(ScratchDir(), "tour"));
+TEST(CommandLine, GoesOnAGuidedTourThatStoresTheSameInEveryLanguage) {
+    const ScratchDir dir, home;
+    auto meanwhile = std::async(std::launch::async, [&] {
+        return tour(dir, "german", {"--language", "de"});
+    });
+    const GuidedTour english = tour(home, "english"), german = meanwhile.get();
+    expectAllOf(english);
+    expectAllOf(german);
+    EXPECT_EQ(german.told, english.told);
 }
 
 TEST(CommandLine, GoesOnTheSameTourOnAServerWhichNeedsAnEmptyDatabase) {

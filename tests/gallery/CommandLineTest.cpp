@@ -18,9 +18,9 @@ TEST(GalleryCommandLine, LeavesTheSamePicturesOfEveryTour) {
     expectSamePictures(first, second);
 }
 
-TEST(GalleryCommandLine, ShowsEverythingAtALargeTextSizeAsWell) {
+TEST(GalleryCommandLine, ShowsEverythingAtALargeTextSizeAndInAnotherLanguageAsWell) {
     const ScratchDir dir;
-    const GuidedTour large = tour(dir, "large", {"--font-scale", "200"});
+    const GuidedTour large = tour(dir, "large", {"--font-scale", "200", "--language", "de"});
     EXPECT_EQ(large.outcome.code, 0) << large.outcome.errors;
 }
 
