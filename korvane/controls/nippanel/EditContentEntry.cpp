@@ -74,18 +74,18 @@ int EditContentEntry::height(const Twips& twips, int tabHeight) const {
     return GridEntry::height(twips, tabHeight - buttons) + buttons;
 }
 
-/// Wide enough for the longer caption, which a translation may have made longer.
-int EditContentEntry::widthOfButtons(const Twips& twips) const {
+/// A translation may have made a caption longer: the buttons then grow while both have room below the grid.
+int EditContentEntry::widthOfButtons(const Twips& twips, int room) const {
     const auto captionOf = [](const QPushButton* each) {
         return each->fontMetrics().horizontalAdvance(each->text());
     };
-    const int caption = std::max(captionOf(mAdd), captionOf(mRemove));
-    return std::max(twips.px(buttonWidth), caption + 2 * twips.px(besideCaption));
+    const int wanted = std::max(captionOf(mAdd), captionOf(mRemove)) + 2 * twips.px(besideCaption);
+    return std::max(twips.px(buttonWidth), std::min(wanted, (room - twips.px(buttonGap)) / 2));
 }
 
 void EditContentEntry::place(const QRect& area, const Twips& twips) {
     const int top = area.bottom() + 1 - twips.px(buttonHeight);
-    const QRect button(area.left(), top, widthOfButtons(twips), twips.px(buttonHeight));
+    const QRect button(area.left(), top, widthOfButtons(twips, area.width()), twips.px(buttonHeight));
     grid().setGeometry(QRect(area.topLeft(), QSize(area.width(), top - twips.px(buttonGap) - area.top())));
     const auto inReadingOrder = [&](const QRect& r) {
         return QStyle::visualRect(grid().layoutDirection(), area, r);

@@ -28,7 +28,7 @@ class EditContentEntry : public GridEntry {
     QStringList content() const override;
     void store(const QStringList& entries) override { storeEntries(entries); }
     QPushButton* makeButton(const QString& text);
-    int widthOfButtons(const Twips& twips) const;
+    int widthOfButtons(const Twips& twips, int room) const;
     void add();
     void remove();
     void updateRemove();
