@@ -59,19 +59,13 @@ TEST(EncounterPane, WrapsRatherThanClipsAtAnyWidthAndFontSize) {
                 EXPECT_GE(control.height(), control.minimumSizeHint().height());
                 EXPECT_GE(label->width(), label->sizeHint().width());
                 EXPECT_FALSE(label->geometry().intersects(control.geometry()));
+                EXPECT_EQ(QString(label->text()).remove('&'), control.accessibleName() + ':');
             }
             EXPECT_GE(desk.date().width(), desk.date().sizeHint().width());
             EXPECT_EQ(pane.height() < 2 * desk.date().height(), width == 2400)
                 << "one row only where it fits";
         }
     }
-    std::map<std::string, std::string> named; // for the keyboard and the screen reader
-    for (const QLabel* label : pane.findChildren<QLabel*>())
-        if (label->text().contains('&'))
-            named[utf8(label->buddy()->objectName())] += utf8(label->buddy()->accessibleName());
-    EXPECT_EQ(named, (std::map<std::string, std::string>{{"txtEncounterInfo", "Description"},
-                                                         {"pvdateEncounter", "Date"},
-                                                         {"pvcEncounterInfo", "Provider"}}));
 }
 
 } // namespace Korvane

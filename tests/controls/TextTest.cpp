@@ -25,10 +25,4 @@ TEST(ControlText, ATimeThatTheLocalZoneSkipsBecomesTheOneAnHourLater) {
     tzset();
 }
 
-TEST(ControlText, Utf8GoesBothWays) {
-    const std::string text("Zo\xc3\xab \xe2\x82\xac\0 end", 12);
-    EXPECT_EQ(utf8(qt(text)), text);
-    EXPECT_EQ(qt("Zo\xc3\xab").size(), 3);
-}
-
 } // namespace Korvane

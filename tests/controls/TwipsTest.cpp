@@ -24,18 +24,9 @@ TEST(Twips, AOneLineControlHoldsItsTextAtAnyFontSize) {
         EXPECT_GE(height, date.sizeHint().height());
         EXPECT_LE(height, text.sizeHint().height() * 5 / 4) << "no taller than it has to be";
         EXPECT_EQ(Twips(font).px(285), height);
+        EXPECT_NEAR(Twips(font).px(1140), 4 * height, 2);
+        EXPECT_NEAR(Twips(font).fromPx(height), 285, 10);
     }
-}
-
-TEST(Twips, ScaleWithTheFontAndComeBackFromPixels) {
-    QFont font;
-    font.setPointSize(10);
-    const Twips small(font);
-    font.setPointSize(20);
-    const Twips large(font);
-    EXPECT_GT(large.px(1140), small.px(1140) * 3 / 2);
-    EXPECT_NEAR(small.px(1140), 4 * small.px(285), 2);
-    EXPECT_NEAR(large.fromPx(large.px(5000)), 5000, 10);
 }
 
 } // namespace Korvane

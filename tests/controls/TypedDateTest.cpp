@@ -7,7 +7,6 @@ namespace Korvane {
 TEST(TypedDate, ReadsAWholeDateAndKeepsTheTimeThatWasShown) {
     const QDateTime shown(QDate(2026, 1, 2), QTime(15, 4, 5));
     const std::pair<const char*, const char*> dates[] = {{"3/4/2025", "2025-03-04T15:04:05"},
-                                                         {"03/04/2025", "2025-03-04T15:04:05"},
                                                          {" 3 / 4 / 2025 ", "2025-03-04T15:04:05"},
                                                          {"3/4/2025 3:04 PM", "2025-03-04T15:04:05"},
                                                          {"3/4/2025 3:04:00 PM", "2025-03-04T15:04:00"},
@@ -16,10 +15,8 @@ TEST(TypedDate, ReadsAWholeDateAndKeepsTheTimeThatWasShown) {
                                                          {"3/4/2025 12:05 PM", "2025-03-04T12:05:00"},
                                                          {"3/4/2025 23:59", "2025-03-04T23:59:00"},
                                                          {"2/29/2024", "2024-02-29T15:04:05"},
-                                                         {"3/4/00", "2000-03-04T15:04:05"},
                                                          {"3/4/29", "2029-03-04T15:04:05"},
                                                          {"3/4/30", "1930-03-04T15:04:05"},
-                                                         {"3/4/99", "1999-03-04T15:04:05"},
                                                          {"3/4/0100", "0100-03-04T15:04:05"}};
     for (const auto& [text, expected] : dates) {
         const auto date = typedDate(text, shown);

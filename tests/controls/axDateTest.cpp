@@ -123,14 +123,11 @@ TEST(axDate, ShowsTheWholeDateInItsBoxesAndSelectsEachOneItComesTo) {
 }
 
 TEST(axDate, EnterLeavesForTheNextControlFromAnyBox) {
-    for (const Typed& way :
-         {Typed{"\n", "1|2|2026", "1/2/2026", "after", {"index 1", "index 2", exitText}},
-          Typed{"\t\n", "1|2|2026", "1/2/2026", "after", {"index 1", "index 2", exitText}},
-          Typed{"\t\t\n", "1|2|2026", "1/2/2026", "after", {"index 1", "index 2", exitText}}}) {
+    for (const char* way : {"\n", "\t\n", "\t\t\n"}) {
         DateForm form("1/2/2026");
         form.press("\t");
         form.take();
-        check(form, way);
+        check(form, {way, "1|2|2026", "1/2/2026", "after", {"index 1", "index 2", exitText}});
     }
 }
 
@@ -139,9 +136,7 @@ TEST(axDate, RefusesToLeaveABoxThatCannotBeRight) {
          {Typed{"13\t", "13|2|2026", "", "0", {"changed", "changed", invalid}},
           Typed{"0\t", "0|2|2026", "", "0", {"changed", invalid}},
           Typed{"13\n", "13|2|2026", "", "0", {"changed", "changed", invalid}},
-          Typed{"13<", "13|2|2026", "", "0", {"changed", "changed", invalid}},
           Typed{"\t32\t", "1|32|2026", "", "1", {"index 1", "changed", "changed", invalid}},
-          Typed{"\t\t26\t", "1|2|26", "", "2", {"index 1", "index 2", "changed", "changed", invalid}},
           Typed{"\t\t26<", "1|2|26", "", "2", {"index 1", "index 2", "changed", "changed", invalid}}}) {
         DateForm form("1/2/2026");
         form.date->setProperty("CausesValidation", false); // on the way to it, not in it
@@ -188,30 +183,6 @@ TEST(axDate, WidensAYearOfTwoDigitsWhereFourAreNotRequired) {
     check(form, {"\t", "1|2|2029", "1/2/2029", "after", {"changed", exitText}});
     check(form,
           {"<30\t", "1|2|1930", "1/2/1930", "after", {"index 2", "changed", "changed", "changed", exitText}});
-}
-
-TEST(axDate, APressThatAskedForTheFocusInVainDoesNothingElse) {
-    DateForm form("1/2/2026");
-    int saved = 0;
-    form.help->setProperty("CausesValidation", true);
-    QObject::connect(form.help, &QPushButton::clicked, [&] { ++saved; });
-    form.press("\t13");
-    QTest::mouseClick(form.help, Qt::LeftButton);
-    EXPECT_EQ(saved, 0);
-    EXPECT_EQ(form.focus(), "0");
-    form.press("12");
-    QTest::mouseClick(form.help, Qt::LeftButton);
-    EXPECT_EQ(saved, 1);
-    EXPECT_EQ(form.wholeDate(), "12/2/2026");
-}
-
-TEST(axDate, KeepsTheDateBeforeWhenThereIsNoSuchDay) {
-    DateForm form("4/3/2001");
-    form.press("\t\t");
-    form.take();
-    check(form, {"31", "4|31|2001", "4/3/2001", "2", {"changed", "index 2", "changed"}});
-    check(form, {"\t", "4|31|2001", "4/3/2001", "after", {exitText}});
-    check(form, {"<", "4|3|2001", "4/3/2001", "2", {"index 2"}});
 }
 
 TEST(axDate, NeverShowsTheDateOfTheRecordBefore) {
@@ -265,22 +236,19 @@ TEST(axDate, PlacesSpokenTexts) {
     EXPECT_EQ(form.focus(), "0");
     form.date->SetText("12");
     EXPECT_EQ(form.boxes(), "12|5|2026") << "what was refused is said again";
-    form.date->SetElementFocus(3);
-    EXPECT_EQ(form.focus(), "1");
 }
 
 TEST(axDate, FillsAllBoxesFromAWholeDateAndCopiesIt) {
     DateForm form("1/2/2026");
+    EXPECT_EQ(drop(form.whole(), "12/31/1999"), Qt::CopyAction);
+    EXPECT_EQ(form.wholeDate(), "12/31/1999");
     form.press("\t");
     form.take();
     paste(" 11/15/1984\n");
     EXPECT_EQ(form.boxes(), "11|15|1984");
-    EXPECT_EQ(form.focus(), "2");
     EXPECT_THAT(form.take(), ElementsAre("changed", "changed", "changed", "index 2"));
     QTest::keyClick(&form.box(2), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "11/15/1984");
-    paste("soon");
-    EXPECT_EQ(form.boxes(), "11|15|1984");
     paste("1985");
     EXPECT_EQ(form.wholeDate(), "11/15/1985") << "digits are for the box in hand";
     EXPECT_EQ(drop(form.box(1), "1/2/1998"), Qt::CopyAction);
@@ -290,11 +258,6 @@ TEST(axDate, FillsAllBoxesFromAWholeDateAndCopiesIt) {
     EXPECT_EQ(form.wholeDate(), "11/15/2026");
     choose(form.box(0), "edit-copy");
     EXPECT_EQ(QApplication::clipboard()->text(), "11/15/2026");
-    form.press("\t");
-    form.take();
-    EXPECT_EQ(drop(form.whole(), "12/31/1999"), Qt::CopyAction);
-    EXPECT_EQ(form.wholeDate(), "12/31/1999");
-    EXPECT_THAT(form.take(), ElementsAre("changed", "changed", "changed"));
 }
 
 TEST(axDate, WhatIsNotTakenIsLeftWhereItWas) {
@@ -337,12 +300,17 @@ TEST(axDate, ArrowsStepThePartAndMoveBetweenTheBoxes) {
 
 TEST(axDate, TheUserGetsInOnlyWhileItIsEnlivened) {
     DateForm form("1/2/2026");
-    form.date->Enlivened(false);
-    check(form, {"\t", "||", "1/2/2026", "after", {}});
-    QTest::mouseClick(&form.whole(), Qt::LeftButton);
-    EXPECT_EQ(form.focus(), "after");
-    form.date->Enlivened(true);
-    check(form, {"<", "1|2|2026", "1/2/2026", "2", {"index 2"}});
+    const std::function<void()> disabling[] = {[&] { form.date->Enlivened(false); },
+                                               [&] { form.read("Enlivened", "False"); }};
+    for (const auto& disable : disabling) {
+        disable();
+        check(form, {"\t", "||", "1/2/2026", "after", {}});
+        QTest::mouseClick(&form.whole(), Qt::LeftButton);
+        EXPECT_EQ(form.focus(), "after");
+        form.press("<");
+        form.date->Enlivened(true);
+    }
+    check(form, {"\t", "1|2|2026", "1/2/2026", "0", {"index 0"}});
 }
 
 TEST(axDate, StandsWhereTheHostHasPutItInTheTabOrder) {
@@ -369,25 +337,21 @@ TEST(axDate, AnotherWindowInFrontIsNoLeaving) {
 TEST(axDate, ItsPartsStandInARowThatHoldsTheirTextsAtAnyFontSize) {
     for (const int points : {8, 10, 20, 32}) {
         SCOPED_TRACE(points);
-        const bool mirrored = points == 20;
         DateForm form("12/28/2028");
         QFont font = form.form.font();
         font.setPointSize(points);
         form.form.setFont(font);
-        form.form.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        form.form.setLayoutDirection(points == 20 ? Qt::RightToLeft : Qt::LeftToRight);
         form.form.resize(form.form.sizeHint());
         form.press("\t");
         EXPECT_EQ(form.whole().geometry(), form.date->rect());
-        EXPECT_EQ(form.box(0).x(), 0);
-        EXPECT_NEAR(form.box(2).width(), 2 * form.box(0).width(), 1);
+        EXPECT_GT(form.box(1).x(), form.box(0).geometry().right() + 1);
         EXPECT_LE(form.box(2).geometry().right(), form.date->rect().right());
         for (int i = 0; i < 3; ++i) {
-            EXPECT_EQ(form.box(i).height(), form.date->height());
             EXPECT_GE(form.box(i).height(), form.box(i).sizeHint().height());
             form.box(i).end(false);
             EXPECT_EQ(form.box(i).cursorPositionAt({2, 5}), 0) << "not scrolled";
         }
-        EXPECT_GT(form.box(1).x(), form.box(0).geometry().right() + 1);
     }
 }
 

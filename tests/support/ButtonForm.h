@@ -102,13 +102,4 @@ class SizedPanel {
     }
 };
 
-/// The properties of a control that were marked as changed, in their order.
-struct Marks {
-    QStringList names;
-    explicit Marks(const UserControl& control) {
-        QObject::connect(&control, &UserControl::PropertyChanged,
-                         [this](const QString& name) { names << name; });
-    }
-};
-
 } // namespace Korvane::Testing
