@@ -5,8 +5,8 @@
 set(alone apps/clinic/sample/LformsPanel.cpp apps/clinic/tour/CustomizingSteps.cpp
     korvane/ado/postgres/Settings.cpp korvane/ado/postgres/Types.cpp korvane/controls/buttons/movebtn.cpp
     korvane/controls/dbxadmin/ValueListParts.cpp
-    korvane/nip/LoadStructure.cpp korvane/records/Encounter.cpp tests/controls/axDateTest.cpp tests/fuzz/Keeping.cpp
-    tests/fuzz/Selecting.cpp korvane/voice/pocketsphinx/Grammar.cpp)
+    korvane/nip/LoadStructure.cpp korvane/records/Encounter.cpp tests/controls/axDateTest.cpp
+    korvane/voice/pocketsphinx/Grammar.cpp)
 list(TRANSFORM alone PREPEND ${PROJECT_SOURCE_DIR}/)
 
 function(korvane_unity_by_folder directory)

@@ -16,19 +16,11 @@
 
 namespace Korvane::ado::Testing {
 
-std::string Engine::declaration(DataType type, int size) const {
-    switch (type) {
-    case DataType::SmallInt:
-        return "SmallInt";
-    case DataType::Integer:
-        return "Integer";
-    case DataType::Boolean:
-        return "Boolean";
-    case DataType::VarWChar:
-        return "VarChar(" + std::to_string(size) + ")";
-    default:
-        return "Text";
-    }
+std::string Engine::inItsWords(std::string text) const {
+    for (const auto& [name, meaning] : words())
+        for (std::size_t at; (at = text.find(name)) != std::string::npos;)
+            text.replace(at, name.size(), meaning);
+    return text;
 }
 
 namespace {
@@ -55,20 +47,11 @@ class SqliteEngine : public Engine {
         return std::to_string(error.NativeCode());
     }
 
-    std::string declaration(DataType type, int size) const override {
-        switch (type) {
-        case DataType::Double:
-            return "Double";
-        case DataType::Currency:
-            return "Currency";
-        case DataType::Date:
-            return "DateTime";
-        default:
-            return Engine::declaration(type, size);
-        }
+  private:
+    std::vector<std::pair<std::string, std::string>> words() const override {
+        return {{"{Date}", "DateTime"}, {"{Double}", "Double"}, {"{Currency}", "Currency"}};
     }
 
-  private:
     sqlite3* handle() {
         if (!mHandle) sqlite3_open(mDir.file("test.db").c_str(), &mHandle);
         return mHandle;
@@ -87,27 +70,19 @@ class PostgresEngine : public Engine {
     std::string codeOf(const RuntimeError& error) const override {
         return postgres::sqlState(error.NativeCode());
     }
-    std::string schema() const override { return mSchema.name(); }
-
-    std::string declaration(DataType type, int size) const override {
-        switch (type) {
-        case DataType::Double:
-            return "Double Precision";
-        case DataType::Currency:
-            return "Numeric(19,4)";
-        case DataType::Date:
-            return "Timestamp";
-        default:
-            return Engine::declaration(type, size);
-        }
-    }
-
     // Texts are UTF-8 there, and nothing else.
     bool keepsAnyBytes() const override { return false; }
     std::size_t longestName() const override { return 63; }
     bool bindsSizes() const override { return true; }
 
   private:
+    std::vector<std::pair<std::string, std::string>> words() const override {
+        return {{"{Date}", "Timestamp"},
+                {"{Double}", "Double Precision"},
+                {"{Currency}", "Numeric(19,4)"},
+                {"{schema}", mSchema.name()}};
+    }
+
     Korvane::Testing::ScratchSchema mSchema;
     Korvane::Testing::NativeHandle mHandle{mSchema.address()};
 };
@@ -134,12 +109,9 @@ void OnEveryEngine::SetUp() {
     mEngine = GetParam().make();
     if (!mEngine) GTEST_SKIP() << Korvane::Testing::ScratchSchema::noServer;
     mDb = mEngine->connect();
-    const auto type = [&](DataType t, int size = 0) { return " " + mEngine->declaration(t, size); };
-    mDb->Execute("Create Table Visit (ID" + type(DataType::Integer) + " Primary Key, Name" +
-                 type(DataType::VarWChar, 50) + ", Note" + type(DataType::LongVarWChar) + ", [Day]" +
-                 type(DataType::Date) + ", Done" + type(DataType::Boolean) + ", Size" +
-                 type(DataType::SmallInt) + ", Amount" + type(DataType::Double) + ", Price" +
-                 type(DataType::Currency) + ")");
+    mDb->Execute(mEngine->inItsWords("Create Table Visit (ID Integer Primary Key, Name VarChar(50), Note "
+                                     "Text, [Day] {Date}, Done Boolean, "
+                                     "Size SmallInt, Amount {Double}, Price {Currency})"));
 }
 
 std::shared_ptr<Recordset> OnEveryEngine::query(std::string_view statement, CursorType cursorType,

@@ -11,6 +11,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace Korvane::ado::Testing {
@@ -31,11 +32,9 @@ class Engine {
     virtual std::shared_ptr<Connection> lend() = 0;
     /// The engine's code of a failure as its manual has it.
     virtual std::string codeOf(const RuntimeError& error) const = 0;
-    /// The schema in which the tables are; empty where there are none.
-    virtual std::string schema() const { return {}; }
-
-    /// How a column of that type is declared; here what every engine takes.
-    virtual std::string declaration(DataType type, int size = 0) const;
+    /// A text with the engine's own words: {Date}, {Double} and {Currency} are types of columns, {schema} is
+    /// where the tables are.
+    std::string inItsWords(std::string text) const;
 
     /// Whether a text may hold bytes that are no UTF-8; otherwise they are refused.
     virtual bool keepsAnyBytes() const { return true; }
@@ -44,6 +43,9 @@ class Engine {
     virtual std::size_t longestName() const { return 0; }
     /// Whether the size of a text column binds.
     virtual bool bindsSizes() const { return false; }
+
+  private:
+    virtual std::vector<std::pair<std::string, std::string>> words() const = 0;
 };
 
 struct EngineChoice {

@@ -103,4 +103,25 @@ TEST_F(PostgresServer, SpeaksUtf8WhateverItKeeps) {
     connect()->Execute("Drop Database " + database);
 }
 
+TEST_F(PostgresServer, HasTheSettingsOfALentHandlesOwnerAgainInTheEnd) {
+    const Korvane::Testing::NativeHandle handle(mSchema->address("client_encoding=LATIN1"));
+    handle.run("set datestyle to 'SQL, DMY'; set statement_timeout to 5000");
+    const auto settings = [&] {
+        return handle.value("select concat_ws(' ', current_setting('client_encoding'), "
+                            "current_setting('datestyle'), current_setting('statement_timeout'))");
+    };
+    EXPECT_EQ(errorOf([] { postgres::adopt(nullptr); }), RuntimeError::InvalidConnection);
+    const auto db = postgres::adopt(handle.get());
+    postgres::setLimits(*db, {.statement = milliseconds(777)});
+    EXPECT_EQ(settings(), "UTF8 ISO, MDY 777ms");
+    // In a transaction that has failed nothing could be put back.
+    handle.run("begin");
+    PQclear(PQexec(handle.get(), "select nonsense"));
+    EXPECT_EQ(errorOf([&] { db->Close(); }), RuntimeError::TransactionOpen);
+    EXPECT_EQ(errorOf([&] { postgres::adopt(handle.get()); }), RuntimeError::InvalidConnection);
+    handle.run("rollback");
+    db->Close();
+    EXPECT_EQ(settings(), "LATIN1 SQL, DMY 5s");
+}
+
 } // namespace Korvane::ado::Testing

@@ -47,17 +47,10 @@ class Script : public testing::TestWithParam<Scene> {
     void SetUp() override {
         mEngine = GetParam().engine.make();
         if (!mEngine) GTEST_SKIP() << Korvane::Testing::ScratchSchema::noServer;
-        mNames = {{"{schema}", mEngine->schema()}};
-        for (const auto& [name, type] : {std::pair("{Date}", DataType::Date),
-                                         {"{Double}", DataType::Double},
-                                         {"{Currency}", DataType::Currency}})
-            mNames.emplace_back(name, mEngine->declaration(type));
     }
 
-    void play(std::string line) {
-        for (const auto& [name, meaning] : mNames)
-            for (std::size_t at; (at = line.find(name)) != std::string::npos;)
-                line.replace(at, name.size(), meaning);
+    void play(const std::string& written) {
+        std::string line = mEngine->inItsWords(written);
         const std::size_t mark = std::min(line.find(" => "), line.find(" !! "));
         const bool fails = line.substr(std::min(mark, line.size())).starts_with(" !!");
         std::string expected = mark == std::string::npos ? "" : line.substr(mark + 4);
@@ -102,7 +95,6 @@ class Script : public testing::TestWithParam<Scene> {
 
     std::unique_ptr<Engine> mEngine;
     std::map<std::string, Actor> mActors; // gone before the engine
-    std::vector<std::pair<std::string, std::string>> mNames;
 };
 
 TEST_P(Script, ComesTrue) {

@@ -5,7 +5,6 @@
 
 #include <charconv>
 #include <string>
-#include <vector>
 
 namespace Korvane::Fuzz {
 
@@ -13,59 +12,21 @@ namespace {
 
 using namespace ado::sql;
 
-/// Walks a statement's tokens beside those of its shape.
-class Comparison {
-  public:
-    explicit Comparison(std::string_view text) : mText(text), mTokens(tokens(text)) {}
+/// A token on a line of its own; all ways to write a whole number are the same.
+std::string written(const Token& token) {
+    std::int64_t value = 0;
+    const char* end = token.text.data() + token.text.size();
+    if (token.kind == TokenKind::Integer && std::from_chars(token.text.data(), end, value).ec == std::errc())
+        return std::to_string(value) + "\n";
+    return std::string(token.text) + "\n";
+}
 
-    void pass(const Token& token) {
-        require(next().kind == token.kind && next().text == token.text, "The shape has another token", mText);
-        ++mAt;
-    }
-
-    void pass(const Literal& literal) {
-        if (literal.kind == Literal::Text)
-            passText(literal);
-        else
-            passInteger(literal);
-        ++mAt;
-    }
-
-    void end() const { require(mAt == mTokens.size(), "The shape ends early", mText); }
-
-  private:
-    const Token& next() const {
-        require(mAt < mTokens.size(), "The shape has more tokens", mText);
-        return mTokens[mAt];
-    }
-
-    void passText(const Literal& literal) {
-        const std::string_view inside = next().kind == TokenKind::Text
-                                            ? next().text.substr(1, next().text.size() - 2)
-                                            : std::string_view();
-        require(next().kind == TokenKind::Text && literal.text == inside, "A text was changed", mText);
-        require(literal.doubledQuotes == (inside.find('\'') != std::string_view::npos),
-                "A text's quotes were overlooked", mText);
-    }
-
-    void passInteger(const Literal& literal) {
-        std::string digits;
-        if (next().isSymbol('-')) {
-            digits = "-";
-            ++mAt;
-        }
-        digits += next().text;
-        std::int64_t value = 0;
-        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-        require(next().kind == TokenKind::Integer && literal.kind == Literal::Integer &&
-                    error == std::errc() && end == digits.data() + digits.size() && value == literal.integer,
-                "An integer was changed", mText);
-    }
-
-    std::string_view mText;
-    std::vector<Token> mTokens;
-    std::size_t mAt = 0;
-};
+/// A value as the tokens that it was lifted from.
+std::string written(const Literal& literal) {
+    if (literal.kind == Literal::Text) return "'" + std::string(literal.text) + "'\n";
+    const std::string digits = std::to_string(literal.integer) + "\n";
+    return literal.integer < 0 ? "-\n" + digits.substr(1) : digits;
+}
 
 } // namespace
 
@@ -73,18 +34,22 @@ void lifting(std::string_view text) {
     Lifter lifter;
     lifter.lift(text);
     if (lifter.literals().empty()) return require(lifter.shape() == text, "The shape is another text", text);
-    Comparison comparison(text);
     auto literal = lifter.literals().begin();
+    std::string before, after;
+    for (const Token& token : tokens(text))
+        before += written(token);
     for (const Token& token : tokens(lifter.shape())) {
-        if (token.kind != TokenKind::Parameter) {
-            comparison.pass(token);
-            continue;
+        if (token.kind == TokenKind::Parameter) {
+            require(literal != lifter.literals().end(), "A mark stands for nothing", text);
+            const bool hasQuotes = literal->text.find('\'') != std::string_view::npos;
+            require(literal->doubledQuotes == hasQuotes, "A text's quotes were overlooked", text);
+            after += written(*literal++);
+        } else {
+            after += written(token);
         }
-        require(token.text == "?" && literal != lifter.literals().end(), "A mark stands for nothing", text);
-        comparison.pass(*literal++);
     }
-    comparison.end();
     require(literal == lifter.literals().end(), "A value has no mark", text);
+    require(before == after, "The shape with its values is another statement", text);
 }
 
 } // namespace Korvane::Fuzz

@@ -9,7 +9,7 @@ std::span<const Property> properties() {
         Property{"lexing", lexing},           Property{"lifting", lifting},
         Property{"translating", translating}, Property{"settling", settling},
         Property{"growing", growing},         Property{"keeping", keeping},
-        Property{"selecting", selecting},     Property{"converting", converting},
+        Property{"converting", converting},
     };
     return all;
 }

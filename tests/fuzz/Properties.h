@@ -50,10 +50,6 @@ void growing(std::string_view text);
 /// statement, and is found by it.
 void keeping(std::string_view text);
 
-/// A Select through the SQLite provider (lifted, bound) has the result that SQLite itself has for its
-/// translation.
-void selecting(std::string_view text);
-
 /// Numbers, dates and lists of choices survive being written and read again, and no text upsets a column of
 /// any type.
 void converting(std::string_view text);

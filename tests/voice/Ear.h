@@ -13,7 +13,6 @@
 #include <memory>
 #include <mutex>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace Korvane::Testing {
@@ -71,30 +70,6 @@ class Ear {
         source->End("The sound has ended.");
         loop->runUntil([this] { return !microphone->On(); });
         return heard;
-    }
-
-    /// The same at the pace of speech. How long after the last word's end the first answer came, if one came.
-    std::chrono::milliseconds delay(const Sound& sound) {
-        heard.clear();
-        std::chrono::steady_clock::time_point end, answered;
-        microphone->On(true);
-        const auto start = std::chrono::steady_clock::now();
-        std::thread speaker([&] {
-            for (std::size_t at = 0; at < sound.size(); at += 160) {
-                std::this_thread::sleep_until(start + std::chrono::microseconds(at * 1000000 / 16000));
-                if (at < sound.size() - silenceBehind) end = std::chrono::steady_clock::now();
-                source->Push(std::span(sound).subspan(at, std::min<std::size_t>(160, sound.size() - at)));
-            }
-            source->End("The sound has ended.");
-        });
-        const auto listening = [&] {
-            if (!heard.empty() && answered == decltype(answered)())
-                answered = std::chrono::steady_clock::now();
-            return !microphone->On();
-        };
-        loop->runUntil(listening);
-        speaker.join();
-        return std::chrono::duration_cast<std::chrono::milliseconds>(answered - end);
     }
 
     std::shared_ptr<Loop> loop = std::make_shared<Loop>();

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -10,35 +8,20 @@ namespace Korvane::Testing {
 
 using Sound = std::vector<std::int16_t>;
 
-/// Who speaks: a voice of espeak-ng ("en-us+f2") or of flite ("flite slt"), words a minute and pitch.
-struct Speaker {
-    std::string voice;
-    int speed = 150;
-    int pitch = 50;
-};
-
 /// Whether espeak-ng and sox are there; without them nobody speaks.
 bool canSpeak();
-/// Whether flite is there, too, whose voices are put together from recordings of people.
-bool hasRecordedVoices();
+/// Whether a command can be run.
+bool runs(const std::string& command);
 
-/// KORVANE_VOICE_TUNING=1: the voices speak with which the engine was tuned, and say the sentences of then.
-/// Without it others do, which the choices were not made for.
-bool isTuning();
+/// What a command writes into the sound file $said. Empty when it failed.
+Sound soundOf(const std::string& command);
+/// The same without silence around it, at a level of -9 dB.
+Sound saidBy(const std::string& command);
+/// What espeak-ng says, with silence before and behind.
+Sound said(const std::string& words);
 
-/// A speaker by chance, of espeak-ng or of flite, at the pace of dictation: 110 to 150 words a minute.
-Speaker anySpeaker(std::mt19937& chance, bool recorded);
-
-/// What somebody says, without silence around it, at a level of -9 dB. Empty when the program failed.
-Sound speak(const Speaker& speaker, const std::string& words);
-
-/// Half a minute of "white", "pink" or "babble".
-const Sound& noise(const std::string& kind);
-
-/// The sound with silence around it, in noise that lies `decibels` below it; no noise for an empty kind.
-Sound amid(const Sound& sound, const std::string& kind, double decibels, std::mt19937& chance);
-
-/// How long the silence before and behind is, in samples.
-constexpr std::size_t silenceBefore = 8000, silenceBehind = 8000;
+/// How long that silence is, in samples.
+constexpr std::size_t silence = 8000;
+Sound amidSilence(const Sound& sound);
 
 } // namespace Korvane::Testing

@@ -1,31 +1,18 @@
 #include <korvane/voice/SpokenDate.h>
 
+#include "support/CaseTable.h"
+
 #include <gtest/gtest.h>
 
 namespace Korvane::voice {
-namespace {
 
 TEST(SpokenDate, IsPartedIntoItsValues) {
-    using Values = std::vector<std::string>;
-    const struct {
-        const char* words;
-        Values values;
-    } cases[] = {
-        {"november", {"november"}},
-        {"twenty twenty six", {"twenty twenty six"}},
-        {"november fifteen", {"november", "fifteen"}},
-        {"march twenty one", {"march", "twenty one"}},
-        {"november fifteen twenty twenty six", {"november", "fifteen", "twenty twenty six"}},
-        {"may twenty first nineteen oh five", {"may", "twenty first", "nineteen oh five"}},
-        {"may twenty two thousand and five", {"may", "twenty", "two thousand and five"}},
-        {"may twenty two two thousand five", {"may", "twenty two", "two thousand five"}},
-        {"june nineteen eighty four", {"june", "nineteen eighty four"}},
-        {"next field", {"next field"}},
-        {"", {""}},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(spokenValues(c.words), c.values) << c.words;
+    for (const auto& row : Testing::readCases("spokendate.tsv")) {
+        std::string values;
+        for (const std::string& value : spokenValues(Testing::quotedText(row[0])))
+            values += (values.empty() ? "" : "/") + value;
+        EXPECT_EQ(values, row[1]) << row[0];
+    }
 }
 
-} // namespace
 } // namespace Korvane::voice

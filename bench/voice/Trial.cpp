@@ -1,4 +1,6 @@
-#include "voice/Trial.h"
+#include "Trial.h"
+
+#include "Voices.h"
 
 #include <korvane/voice/SpokenNumber.h>
 
@@ -6,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <span>
+#include <thread>
 
 namespace Korvane::Testing {
 
@@ -174,11 +177,37 @@ void note(const Tally& tally, bool right, const std::string& said, const std::ve
     std::printf("\n");
 }
 
-} // namespace
-
 double percent(int part, int whole) {
     return whole == 0 ? 100 : 100.0 * part / whole;
 }
+
+/// Lets a sound be heard at the pace of speech. How long after the last word's end the first answer came, if
+/// one came.
+std::optional<std::chrono::milliseconds> delayOf(Ear& ear, const Sound& sound) {
+    using std::chrono::steady_clock;
+    constexpr std::size_t piece = 160;
+    ear.heard.clear();
+    steady_clock::time_point end, answered;
+    ear.microphone->On(true);
+    const auto start = steady_clock::now();
+    std::thread speaker([&] {
+        for (std::size_t at = 0; at < sound.size(); at += piece) {
+            std::this_thread::sleep_until(start + std::chrono::microseconds(at * 1000000 / 16000));
+            if (at < sound.size() - silence) end = steady_clock::now();
+            ear.source->Push(std::span(sound).subspan(at, std::min(piece, sound.size() - at)));
+        }
+        ear.source->End("The sound has ended.");
+    });
+    ear.loop->runUntil([&] {
+        if (!ear.heard.empty() && answered == steady_clock::time_point()) answered = steady_clock::now();
+        return !ear.microphone->On();
+    });
+    speaker.join();
+    if (ear.heard.empty()) return std::nullopt;
+    return std::chrono::duration_cast<std::chrono::milliseconds>(answered - end);
+}
+
+} // namespace
 
 Tally tryOut(Ear& ear, Amount amount, bool recordedVoices, const std::string& noiseKind, double decibels) {
     std::mt19937 chance(11);
@@ -224,8 +253,7 @@ std::vector<int> tryDelays(Ear& ear, int count) {
         ear.dictation->Awaited(part);
         const auto words = i % 2 == 0 ? commands[i / 2 % 2] : said;
         const auto sound = amid(speak({"en-us", 140 + i, 50}, words), "white", 40, chance);
-        const auto delay = ear.delay(sound);
-        if (!ear.heard.empty()) delays.push_back(static_cast<int>(delay.count()));
+        if (const auto delay = delayOf(ear, sound)) delays.push_back(static_cast<int>(delay->count()));
     }
     std::ranges::sort(delays);
     return delays;

@@ -27,9 +27,6 @@ Tally tryOut(Ear& ear, Amount amount, bool recordedVoices, const std::string& no
 /// Delays of commands and values after the end of the last word, sorted; of those that were heard.
 std::vector<int> tryDelays(Ear& ear, int count);
 
-/// Percent; 100 of none.
-double percent(int part, int whole);
-
 void printTable(const std::vector<Tally>& tallies, const std::vector<int>& delays);
 
 } // namespace Korvane::Testing
