@@ -167,6 +167,425 @@
     </message>
 </context>
 <context>
+    <name>Korvane::ado</name>
+    <message>
+        <source>The table &quot;%1&quot; is in a database already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; needs a column.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; cannot be made: there is already a table &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; cannot be made: there is already a view &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A table, column or index needs a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name cannot hold the character NUL.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long for the database: it has %2 bytes, of which %3 would be kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; has a type that no column can have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; of the table &quot;%2&quot; has to allow Null: the table has rows, which have no value for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; of the table &quot;%2&quot; keeps no text and has no size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; of the table &quot;%2&quot; is its last one and cannot be removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; of the table &quot;%2&quot; is part of its key and cannot be removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database address has an option that is not known: &quot;%1&quot;. There are mode=ro (to read only) and mode=rwc.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This build has no PostgreSQL provider.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database address does not begin with a kind of database that is known: sqlite:file, sqlite::memory: or postgresql://host/database.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database address &quot;%1:&quot; does not begin with a kind of database that is known: sqlite:file, sqlite::memory: or postgresql://host/database.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; is there already; a primary key is given to a table when it is made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; has no index &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; keeps its primary key.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a row with the same key is already there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>other rows refer to the row, or the row it refers to is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text is longer than its column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a value is not of the type of its column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text holds bytes that are no UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text holds a character that the database&apos;s encoding does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the database, or this transaction, is read-only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an earlier statement of the transaction has failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>check the user&apos;s name; the server may also let that user in from certain machines only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>check the user&apos;s name and password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>check the database&apos;s name in the address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another program was changing the same rows; try again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this login lacks a right that is needed; ask whoever looks after the database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no room left on the server&apos;s disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server has no memory left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too many programs are connected; try again later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the statement is beyond a limit of the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another program holds the rows; try again in a moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the statement took longer than it is given, or was stopped; try again in a moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server is going down or coming up; open the connection again in a moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server could not read or write its disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database server refused the connection: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database server asks for a password, and there is none in the address, in PGPASSWORD or in the password file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database server could not be reached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is longer than the %2 bytes that the database keeps of one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement_timeout of a database address is a number of milliseconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database address is not understood. It reads postgresql://user@host:port/database; in a name or a password a character such as @ : / ? is written as % and its two hexadecimal digits (%40 for @).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection is not one to a PostgreSQL database.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database address holds the character NUL.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection is inside a transaction that has failed; it has to be rolled back before it is handed over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The row cannot be told from another one of its table; nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Another program may have changed the table since its rows were read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The row could not be found to be updated: it has been deleted, or its key has been changed, since it was read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no statement to run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy cannot be run over this connection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one statement can be run at a time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement holds a parameter mark; values are written into the statement itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection was closed by the program that opened it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to the database server was lost; it has to be opened again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A statement cannot hold the character NUL.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A statement that was announced has not been run: the transaction cannot be committed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transaction of the connection&apos;s owner has failed. It has to be rolled back before the connection is let go of, or the owner&apos;s settings could not be put back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no transaction to commit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no transaction to roll back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transaction is over: the database has rolled it back after a failure, or somebody has ended it past this connection. What was written in it was saved only if it was committed there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text cannot hold the character NUL.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to the database server was lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database server did not answer in time; check that it is running and that the network is up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection cannot be used now: its owner has something pending on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database server gave an answer that was not understood</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database server has not answered in time; the connection is given up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; is outside the range of the column (column %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; is not a date (column %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; is not a number (column %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; is too large (column %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; is not a whole number (column %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; is neither True nor False (column %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the database is in use by another program; try again in a moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk for the database; free some and try again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the database cannot be written; it may be opened read-only or the file may belong to somebody else</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>access to the database is not permitted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>check that the file&apos;s folder exists and may be read and written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the database file is damaged; restore it from a backup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is not a database of this kind, or it is encrypted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the disk could not be read or written; check that it is connected and healthy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the statement was stopped before it was done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement holds a NUL character, which no text column can keep.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address names no database file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection is not one to a SQLite database.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database has rolled the transaction back after a failure; nothing of it was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; is new; it has to be appended to a catalog first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no table &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; has no column &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; already has a column &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; cannot have a size below 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The index &quot;%1&quot; of the table &quot;%2&quot; needs a column.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The index &quot;%1&quot; of the table &quot;%2&quot; is already there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The index &quot;%1&quot; of the table &quot;%2&quot; cannot be a second primary key.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The index &quot;%1&quot; of the table &quot;%2&quot; names a column that is not there: &quot;%3&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database connection &quot;%1&quot; cannot be used: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its driver brings a SQLite of its own, which is not the one that this library uses. Let both use the system&apos;s, or open the file with ado::open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not open (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its driver %1 is none of those that are known here, QSQLITE and QPSQL.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Korvane::axDate</name>
     <message>
         <source>MM/DD/YYYY</source>
@@ -198,6 +617,63 @@
     </message>
     <message>
         <source>YYYY</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::data</name>
+    <message>
+        <source>the log level %1 is not 1 to 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot open the log file %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid Message Log Level!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failure writing to log file: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attempt to return results from an Execute only SQL cmd or error creating RS object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attempt to write results to an Execute only SQL cmd or error creating RS object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attempt to read data from a closed Recordset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attempt to query while ADO Connection not open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attempt to write results to ReadOnly Recordset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attempt to read past end of file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attempt to get RecordCount from a query that does not support that property</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1<byte value="xd"/>
+<byte value="xd"/>
+It is recommended that you restart the %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tables could not be installed: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -268,6 +744,190 @@
     </message>
     <message>
         <source>Last record</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::nip</name>
+    <message>
+        <source>The field %1 holds more than 32767 entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A field needs a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name %1 is longer than %2 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name %1 is that of the group&apos;s key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The group %1 has a field %2 already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A field of %1 characters holds nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than 32767 values of a field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A group needs a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than %1 groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The structure is not loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two fields of the table %1 have the name %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of the field %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than %1 values of the field %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than %1 fields in the group %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than %1 rows in the group %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The form was customized elsewhere since it was loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encounter is not stored yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encounter %1 is there more than once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encounter %1 is another patient&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a table or field</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::records</name>
+    <message>
+        <source>AttachmentID doesn&apos;t exist, aborting!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::runtime</name>
+    <message>
+        <source>Korvane data-entry library</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::voice</name>
+    <message>
+        <source>The sound file %1 is no WAV file with 16-bit samples.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound file %1 cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound file has ended.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No microphone was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The microphone &quot;%1&quot; was not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The microphone gives no sound of 16 bits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The microphone &quot;%1&quot; cannot be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The microphone has gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No microphone was found: the application was built without Qt Multimedia.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a voice command: the word &quot;%2&quot; has a letter or a sign that is not said in English.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a voice command: it has no words.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The speech engine speaks US English (1033), not language %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Voice is not there: the speech model %1 is missing (Debian&apos;s pocketsphinx-en-us).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Voice is not there: the speech model %1 cannot be used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The speech engine refused the commands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The microphone is off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The speech engine has been closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The microphone is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound of %1 samples a second in %2 channels cannot be listened to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Voice is not there: the application has not set up a speech engine.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Voice is not there: this build has no speech engine.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

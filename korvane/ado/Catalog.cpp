@@ -3,6 +3,7 @@
 #include <korvane/ado/CatalogDialect.h>
 #include <korvane/ado/TableState.h>
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 #include <utility>
 
@@ -40,19 +41,25 @@ Table Tables::Item(std::string_view name) const {
 
 void Tables::Append(const Table& table) {
     TableState& state = *table.mState;
-    const auto refuse = [&](int number, const std::string& reason) {
-        throw RuntimeError(number, "The table \"" + state.name + "\" " + reason);
+    const auto refuse = [&](int number, const std::string& reason, const std::string& other = {}) {
+        throw RuntimeError(number, filled(reason, {state.name, other}));
     };
-    if (state.connection) refuse(RuntimeError::InvalidArgument, "is in a database already.");
+    if (state.connection)
+        refuse(RuntimeError::InvalidArgument,
+               translate("Korvane::ado", "The table \"%1\" is in a database already."));
     const CatalogDialect& dialect = mConnection->catalogDialect();
     dialect.requireName(state.name);
-    if (state.columns.empty()) refuse(RuntimeError::InvalidArgument, "needs a column.");
+    if (state.columns.empty())
+        refuse(RuntimeError::InvalidArgument, translate("Korvane::ado", "The table \"%1\" needs a column."));
     for (const Column& column : state.columns)
         dialect.requireName(column.Name());
     if (const auto known = findRelation(*mConnection, state.name, Read::NameOnly)) {
-        refuse(RuntimeError::DuplicateKey, std::string("cannot be made: there is already a ") +
-                                               (known->isTable ? "table" : "view") + " \"" + known->name +
-                                               "\".");
+        refuse(RuntimeError::DuplicateKey,
+               known->isTable ? translate("Korvane::ado",
+                                          "The table \"%1\" cannot be made: there is already a table \"%2\".")
+                              : translate("Korvane::ado",
+                                          "The table \"%1\" cannot be made: there is already a view \"%2\"."),
+               known->name);
     }
     runSteps(*mConnection, dialect.createTable(state.name, state.columns, state.indexes));
     state.connection = mConnection;

@@ -3,6 +3,7 @@
 #include <korvane/ado/sql/Names.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 
@@ -86,12 +87,16 @@ void CatalogDialect::requireName(std::string_view name) const {
     const auto refuse = [](const std::string& reason) {
         throw RuntimeError(RuntimeError::InvalidArgument, reason);
     };
-    if (trim(name).empty()) refuse("A table, column or index needs a name.");
-    if (name.find('\0') != std::string_view::npos) refuse("A name cannot hold the character NUL.");
+    if (trim(name).empty()) refuse(translate("Korvane::ado", "A table, column or index needs a name."));
+    if (name.find('\0') != std::string_view::npos)
+        refuse(translate("Korvane::ado", "A name cannot hold the character NUL."));
     const auto longest = longestName();
     if (!longest || name.size() <= *longest) return;
-    refuse("The name \"" + std::string(name) + "\" is too long for the database: it has " +
-           std::to_string(name.size()) + " bytes, of which " + std::to_string(*longest) + " would be kept.");
+    refuse(filled(
+        translate(
+            "Korvane::ado",
+            "The name \"%1\" is too long for the database: it has %2 bytes, of which %3 would be kept."),
+        {name, std::to_string(name.size()), std::to_string(*longest)}));
 }
 
 std::string CatalogDialect::storedIndexName(const std::string& table, const std::string& index) {
@@ -121,8 +126,10 @@ std::string CatalogDialect::typeName(const Column& column) const {
     case DataType::LongVarWChar:
         return "Text";
     default:
-        throw RuntimeError(RuntimeError::InvalidArgument,
-                           "The column \"" + column.Name() + "\" has a type that no column can have.");
+        throw RuntimeError(
+            RuntimeError::InvalidArgument,
+            filled(translate("Korvane::ado", "The column \"%1\" has a type that no column can have."),
+                   {column.Name()}));
     }
 }
 

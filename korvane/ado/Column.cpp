@@ -4,6 +4,7 @@
 #include <korvane/ado/TableState.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 
@@ -12,8 +13,7 @@ namespace Korvane::ado {
 namespace {
 
 [[noreturn]] void refuse(const Relation& table, const std::string& column, const std::string& reason) {
-    throw RuntimeError(RuntimeError::InvalidArgument,
-                       "The column \"" + column + "\" of the table \"" + table.name + "\" " + reason);
+    throw RuntimeError(RuntimeError::InvalidArgument, filled(reason, {column, table.name}));
 }
 
 bool holds(const Index& index, const std::string& column) {
@@ -48,7 +48,9 @@ void Columns::Append(const Column& column) {
     const Relation table = requireTable(connection, mTable->name);
     requireNewColumn(table.columns, table.name, column);
     if (!column.Nullable() && !connection.openNative(dialect.anyRowQuery(table.name))->atEnd())
-        refuse(table, column.Name(), "has to allow Null: the table has rows, which have no value for it.");
+        refuse(table, column.Name(),
+               translate("Korvane::ado", "The column \"%1\" of the table \"%2\" has to allow Null: the table "
+                                         "has rows, which have no value for it."));
     runSteps(connection, {dialect.addColumn(table.name, column)});
 }
 
@@ -68,7 +70,10 @@ void Columns::Widen(std::string_view name, std::int32_t definedSize) {
     const Relation table = requireTable(connection, mTable->name);
     Column column = requireColumn(table, name);
     if (column.Type() == DataType::LongVarWChar) return;
-    if (column.Type() != DataType::VarWChar) refuse(table, column.Name(), "keeps no text and has no size.");
+    if (column.Type() != DataType::VarWChar)
+        refuse(table, column.Name(),
+               translate("Korvane::ado",
+                         "The column \"%1\" of the table \"%2\" keeps no text and has no size."));
     if (column.DefinedSize() == 0 || column.DefinedSize() >= definedSize) return;
     column.DefinedSize(definedSize);
     if (const auto step = connection.catalogDialect().widenColumn(table.name, column))
@@ -80,11 +85,18 @@ void Columns::Delete(std::string_view name) {
     const CatalogDialect& dialect = connection.catalogDialect();
     const Relation table = requireTable(connection, mTable->name);
     const std::string column = requireColumn(table, name).Name();
-    if (table.columns.size() == 1) refuse(table, column, "is its last one and cannot be removed.");
+    if (table.columns.size() == 1)
+        refuse(table, column,
+               translate("Korvane::ado",
+                         "The column \"%1\" of the table \"%2\" is its last one and cannot be removed."));
     std::vector<std::string> steps;
     for (const StoredIndex& stored : storedIndexes(connection, table.name)) {
         if (!holds(stored.index, column)) continue;
-        if (stored.index.PrimaryKey()) refuse(table, column, "is part of its key and cannot be removed.");
+        if (stored.index.PrimaryKey())
+            refuse(
+                table, column,
+                translate("Korvane::ado",
+                          "The column \"%1\" of the table \"%2\" is part of its key and cannot be removed."));
         if (!dialect.dropsIndexesWithColumn()) steps.push_back(dialect.dropIndex(stored.storedName));
     }
     steps.push_back(dialect.dropColumn(table.name, column));

@@ -6,6 +6,7 @@
 #include <korvane/ado/sqlite/SqliteConnection.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 namespace Korvane::ado {
 
@@ -20,8 +21,9 @@ std::shared_ptr<Connection> openSqlite(std::string_view rest) {
     if (const auto mark = rest.rfind('?'); mark != std::string_view::npos) {
         const std::string_view option = rest.substr(mark + 1);
         if (option != "mode=ro" && option != "mode=rwc") {
-            refuse("The database address has an option that is not known: \"" + std::string(option) +
-                   "\". There are mode=ro (to read only) and mode=rwc.");
+            refuse(filled(translate("Korvane::ado", "The database address has an option that is not known: "
+                                                    "\"%1\". There are mode=ro (to read only) and mode=rwc."),
+                          {option}));
         }
         readOnly = option == "mode=ro";
         rest = rest.substr(0, mark);
@@ -33,7 +35,7 @@ std::shared_ptr<Connection> openPostgres([[maybe_unused]] std::string_view addre
 #ifdef KORVANE_HAS_POSTGRES
     return postgres::open(address);
 #else
-    refuse("This build has no PostgreSQL provider.");
+    refuse(translate("Korvane::ado", "This build has no PostgreSQL provider."));
 #endif
 }
 
@@ -53,10 +55,14 @@ std::shared_ptr<Connection> open(std::string_view address) {
         if (scheme == "postgresql" || scheme == "postgres") return openPostgres(address);
     }
     // The rest of the address may hold a password.
-    const std::string begin = colon == std::string_view::npos ? std::string() : " \"" + scheme + ":\"";
-    refuse("The database address" + begin +
-           " does not begin with a kind of database that is known: sqlite:file, sqlite::memory: or "
-           "postgresql://host/database.");
+    if (colon == std::string_view::npos)
+        refuse(translate("Korvane::ado",
+                         "The database address does not begin with a kind of database that is "
+                         "known: sqlite:file, sqlite::memory: or postgresql://host/database."));
+    refuse(filled(translate("Korvane::ado",
+                            "The database address \"%1:\" does not begin with a kind of database that "
+                            "is known: sqlite:file, sqlite::memory: or postgresql://host/database."),
+                  {scheme}));
 }
 
 } // namespace Korvane::ado

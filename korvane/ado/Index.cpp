@@ -4,6 +4,7 @@
 #include <korvane/ado/TableState.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 
@@ -37,10 +38,13 @@ void Indexes::Append(const Index& index) {
     const Index spelled =
         newIndex(withoutStoredNames(storedIndexes(connection, table.name)), table.columns, table.name, index);
     if (index.PrimaryKey()) {
-        throw RuntimeError(RuntimeError::InvalidArgument,
-                           "The table \"" + table.name +
-                               "\" is there already; a primary key is given to "
-                               "a table when it is made.");
+        throw RuntimeError(
+            RuntimeError::InvalidArgument,
+            filled(
+                translate(
+                    "Korvane::ado",
+                    "The table \"%1\" is there already; a primary key is given to a table when it is made."),
+                {table.name}));
     }
     runSteps(connection, {dialect.createIndex(table.name, spelled)});
 }
@@ -52,12 +56,14 @@ void Indexes::Delete(std::string_view name) {
     const auto found = std::ranges::find_if(
         indexes, [&](const StoredIndex& stored) { return sameName(stored.index.Name(), name); });
     if (found == indexes.end()) {
-        throw RuntimeError(RuntimeError::ItemNotFound,
-                           "The table \"" + table.name + "\" has no index \"" + std::string(name) + "\".");
+        throw RuntimeError(
+            RuntimeError::ItemNotFound,
+            filled(translate("Korvane::ado", "The table \"%1\" has no index \"%2\"."), {table.name, name}));
     }
     if (found->index.PrimaryKey()) {
-        throw RuntimeError(RuntimeError::InvalidArgument,
-                           "The table \"" + table.name + "\" keeps its primary key.");
+        throw RuntimeError(
+            RuntimeError::InvalidArgument,
+            filled(translate("Korvane::ado", "The table \"%1\" keeps its primary key."), {table.name}));
     }
     runSteps(connection, {connection.catalogDialect().dropIndex(found->storedName)});
 }

@@ -4,6 +4,7 @@
 #include <korvane/ado/Transaction.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 #include <utility>
@@ -30,7 +31,9 @@ std::string ownName(const std::string& table, const std::string& storedName) {
 Connection& TableState::requireStored() const {
     if (connection) return *connection;
     throw RuntimeError(RuntimeError::InvalidArgument,
-                       "The table \"" + name + "\" is new; it has to be appended to a catalog first.");
+                       filled(translate("Korvane::ado",
+                                        "The table \"%1\" is new; it has to be appended to a catalog first."),
+                              {name}));
 }
 
 std::optional<Relation> findRelation(Connection& connection, std::string_view name, Read what) {
@@ -54,7 +57,8 @@ std::optional<Relation> findRelation(Connection& connection, std::string_view na
 Relation requireTable(Connection& connection, std::string_view name, Read what) {
     auto found = findRelation(connection, name, what);
     if (found && found->isTable) return std::move(*found);
-    throw RuntimeError(RuntimeError::ItemNotFound, "There is no table \"" + std::string(name) + "\".");
+    throw RuntimeError(RuntimeError::ItemNotFound,
+                       filled(translate("Korvane::ado", "There is no table \"%1\"."), {name}));
 }
 
 std::vector<StoredIndex> storedIndexes(Connection& connection, const std::string& table) {
@@ -86,37 +90,49 @@ const Column* columnNamed(std::span<const Column> columns, std::string_view name
 
 const Column& requireColumn(const Relation& table, std::string_view name) {
     if (const Column* column = columnNamed(table.columns, name)) return *column;
-    throw RuntimeError(RuntimeError::ItemNotFound,
-                       "The table \"" + table.name + "\" has no column \"" + std::string(name) + "\".");
+    throw RuntimeError(
+        RuntimeError::ItemNotFound,
+        filled(translate("Korvane::ado", "The table \"%1\" has no column \"%2\"."), {table.name, name}));
 }
 
 void requireNewColumn(std::span<const Column> columns, const std::string& table, const Column& column) {
     if (const Column* known = columnNamed(columns, column.Name())) {
         throw RuntimeError(RuntimeError::DuplicateKey,
-                           "The table \"" + table + "\" already has a column \"" + known->Name() + "\".");
+                           filled(translate("Korvane::ado", "The table \"%1\" already has a column \"%2\"."),
+                                  {table, known->Name()}));
     }
     if (column.DefinedSize() >= 0) return;
-    throw RuntimeError(RuntimeError::InvalidArgument,
-                       "The column \"" + column.Name() + "\" cannot have a size below 0.");
+    throw RuntimeError(
+        RuntimeError::InvalidArgument,
+        filled(translate("Korvane::ado", "The column \"%1\" cannot have a size below 0."), {column.Name()}));
 }
 
 Index newIndex(std::span<const Index> indexes, std::span<const Column> columns, const std::string& table,
                const Index& index) {
-    const auto refuse = [&](int number, const std::string& reason) {
-        throw RuntimeError(number,
-                           "The index \"" + index.Name() + "\" of the table \"" + table + "\" " + reason);
+    const auto refuse = [&](int number, const std::string& reason, const std::string& column = {}) {
+        throw RuntimeError(number, filled(reason, {index.Name(), table, column}));
     };
-    if (index.Columns().empty()) refuse(RuntimeError::InvalidArgument, "needs a column.");
+    if (index.Columns().empty())
+        refuse(RuntimeError::InvalidArgument,
+               translate("Korvane::ado", "The index \"%1\" of the table \"%2\" needs a column."));
     for (const Index& known : indexes) {
-        if (sameName(known.Name(), index.Name())) refuse(RuntimeError::DuplicateKey, "is already there.");
+        if (sameName(known.Name(), index.Name()))
+            refuse(RuntimeError::DuplicateKey,
+                   translate("Korvane::ado", "The index \"%1\" of the table \"%2\" is already there."));
         if (known.PrimaryKey() && index.PrimaryKey())
-            refuse(RuntimeError::InvalidArgument, "cannot be a second primary key.");
+            refuse(RuntimeError::InvalidArgument,
+                   translate("Korvane::ado",
+                             "The index \"%1\" of the table \"%2\" cannot be a second primary key."));
     }
     std::vector<std::string> names;
     for (const std::string& name : index.Columns()) {
         const Column* column = columnNamed(columns, name);
         if (!column)
-            refuse(RuntimeError::ItemNotFound, "names a column that is not there: \"" + name + "\".");
+            refuse(
+                RuntimeError::ItemNotFound,
+                translate("Korvane::ado",
+                          "The index \"%1\" of the table \"%2\" names a column that is not there: \"%3\"."),
+                name);
         names.push_back(column->Name());
     }
     Index spelled(index.Name(), std::move(names));

@@ -3,6 +3,7 @@
 #include <korvane/data/PrivateFile.h>
 #include <korvane/runtime/Clock.h>
 #include <korvane/runtime/Interaction.h>
+#include <korvane/runtime/Translation.h>
 
 #include <cstdio>
 
@@ -46,10 +47,13 @@ bool refuse(std::string reason) {
 
 bool bLogInit(const std::filesystem::path& directory, int level) {
     logClose();
-    if (level < 1 || level > 5) return refuse("the log level " + std::to_string(level) + " is not 1 to 5");
+    if (level < 1 || level > 5)
+        return refuse(
+            filled(translate("Korvane::data", "the log level %1 is not 1 to 5"), {std::to_string(level)}));
     const std::string path = (directory / fileName(Clock::now().parts())).string();
     if (const std::error_code failure = theLog().file.open(path))
-        return refuse("cannot open the log file " + path + ": " + failure.message());
+        return refuse(
+            filled(translate("Korvane::data", "cannot open the log file %1: %2"), {path, failure.message()}));
     theLog().level = level;
     theLog().ready = true;
     return true;
@@ -64,7 +68,8 @@ void vLogAdd(std::string_view source, std::string_view message, std::int32_t lev
     if (!theLog().ready) return;
     const std::string line = std::string(source) + ": " + std::string(message);
     if (level < 1 || level > 5) {
-        Interaction::current().MsgBox(line, MsgBoxStyle::OkOnly, "Invalid Message Log Level!");
+        Interaction::current().MsgBox(line, MsgBoxStyle::OkOnly,
+                                      translate("Korvane::data", "Invalid Message Log Level!"));
         return;
     }
     if (theLog().level >= level) vLogWrite(line, true);
@@ -77,7 +82,8 @@ void vLogWrite(std::string_view text, bool stamped) {
     line.append(text).append("\n");
     if (const std::error_code failure = theLog().file.append(line)) {
         logClose();
-        theLog().lastError = "failure writing to log file: " + failure.message();
+        theLog().lastError =
+            filled(translate("Korvane::data", "failure writing to log file: %1"), {failure.message()});
     }
 }
 

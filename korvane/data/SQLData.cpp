@@ -4,6 +4,7 @@
 #include <korvane/runtime/App.h>
 #include <korvane/runtime/Clock.h>
 #include <korvane/runtime/Interaction.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 #include <limits>
@@ -12,11 +13,11 @@ namespace Korvane {
 
 namespace {
 
-constexpr std::string_view kNothingToRead =
-    "Attempt to return results from an Execute only SQL cmd or error creating RS object";
-constexpr std::string_view kNothingToWrite =
-    "Attempt to write results to an Execute only SQL cmd or error creating RS object";
-constexpr std::string_view kClosed = "Attempt to read data from a closed Recordset";
+constexpr const char* kNothingToRead = translatable(
+    "Korvane::data", "Attempt to return results from an Execute only SQL cmd or error creating RS object");
+constexpr const char* kNothingToWrite = translatable(
+    "Korvane::data", "Attempt to write results to an Execute only SQL cmd or error creating RS object");
+constexpr const char* kClosed = translatable("Korvane::data", "Attempt to read data from a closed Recordset");
 
 constexpr std::int32_t kCountNotSupported = -2;
 constexpr std::int32_t kOpen = 1;
@@ -69,7 +70,7 @@ bool SQLData::SQL(const std::shared_ptr<ado::Connection>& connection, std::strin
     try {
         if (State() == kOpen) mRecordset->Close();
         if (!connection || connection->State() != kOpen) {
-            ReportError("Attempt to query while ADO Connection not open");
+            ReportError(translatable("Korvane::data", "Attempt to query while ADO Connection not open"));
             return false;
         }
         if (executeOnly)
@@ -94,7 +95,7 @@ void SQLData::openRecordset(const std::shared_ptr<ado::Connection>& connection, 
 }
 
 /// Whether there is an open result; reports which of the two is missing.
-bool SQLData::readable(std::string_view withoutRecordset) {
+bool SQLData::readable(const char* withoutRecordset) {
     if (!mRecordset) {
         ReportError(withoutRecordset);
         return false;
@@ -170,7 +171,7 @@ void SQLData::readField(const ado::FieldKey& key, Variant& value) const {
 void SQLData::Data(const ado::FieldKey& key, const Variant& value) {
     if (!readable(kNothingToWrite)) return;
     if (mMode != AccessMode::Write) {
-        ReportError("Attempt to write results to ReadOnly Recordset");
+        ReportError(translatable("Korvane::data", "Attempt to write results to ReadOnly Recordset"));
         return;
     }
     try {
@@ -220,7 +221,7 @@ void SQLData::NextRow() {
     emptyCache();
     if (!readable(kNothingToRead)) return;
     if (mRecordset->Eof()) {
-        ReportError("Attempt to read past end of file");
+        ReportError(translatable("Korvane::data", "Attempt to read past end of file"));
         return;
     }
     mRecordset->MoveNext();
@@ -246,7 +247,8 @@ std::optional<ado::Field> SQLData::Fields(const ado::FieldKey& key) const {
 
 std::int32_t SQLData::RecordCount() {
     if (mRecordCount != kCountNotSupported) return mRecordCount;
-    ReportError("Attempt to get RecordCount from a query that does not support that property");
+    ReportError(translatable("Korvane::data",
+                             "Attempt to get RecordCount from a query that does not support that property"));
     return 0;
 }
 
@@ -264,8 +266,8 @@ void SQLData::emptyCache() {
     mCachedValue.setText("");
 }
 
-void SQLData::ReportError(std::string_view description) {
-    ReportError(RuntimeError(0, std::string(description)));
+void SQLData::ReportError(const char* description) {
+    ReportError(RuntimeError(0, translate("Korvane::data", description)));
 }
 
 void SQLData::ReportError(RuntimeError error) {
@@ -276,9 +278,10 @@ void SQLData::ReportError(RuntimeError error) {
     // All that is needed of this object is taken now: it may be used again while the box is up.
     const std::string line = Clock::now().text() + "-SQLData Class->" + failure + "\n\t" + mStatement + "\n";
     try {
-        Interaction::current().MsgBox(failure + "\r\n\r\nIt is recommended that you restart the " +
-                                          App::FileDescription(),
-                                      MsgBoxStyle::Critical, "");
+        Interaction::current().MsgBox(
+            filled(translate("Korvane::data", "%1\r\n\r\nIt is recommended that you restart the %2"),
+                   {failure, App::FileDescription()}),
+            MsgBoxStyle::Critical, "");
     } catch (...) {
         // That the box failed is no failure of the query.
     }

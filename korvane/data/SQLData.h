@@ -118,8 +118,8 @@ class SQLData {
     void ReportError(RuntimeError error);
 
   private:
-    void ReportError(std::string_view description);
-    bool readable(std::string_view withoutRecordset);
+    void ReportError(const char* description);
+    bool readable(const char* withoutRecordset);
     void openRecordset(const std::shared_ptr<ado::Connection>& connection, std::string_view statement);
     void readField(const ado::FieldKey& key, Variant& value) const;
     void writeField(const ado::FieldKey& key, const Variant& value);

@@ -3,6 +3,7 @@
 #include <korvane/ado/Catalog.h>
 #include <korvane/ado/Transaction.h>
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 
@@ -68,7 +69,9 @@ void installTables(ado::Connection& connection) {
     } catch (const RuntimeError& error) {
         // Who enters data may create nothing, and nobody has to: what could be missing is an index at most.
         if (error.Number() == RuntimeError::PermissionDenied && areThere(connection)) return;
-        throw RuntimeError(error.Number(), "The tables could not be installed: " + error.Description(),
+        throw RuntimeError(error.Number(),
+                           filled(translate("Korvane::data", "The tables could not be installed: %1"),
+                                  {error.Description()}),
                            error.NativeCode());
     }
 }

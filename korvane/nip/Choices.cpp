@@ -2,6 +2,7 @@
 
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <limits>
 
@@ -54,7 +55,8 @@ void splitChoices(FieldRecord& field) {
     split(text, list);
     if (list.elements.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
         throw RuntimeError(RuntimeError::Overflow,
-                           "The field " + field.fieldName + " holds more than 32767 entries");
+                           filled(translate("Korvane::nip", "The field %1 holds more than 32767 entries"),
+                                  {field.fieldName}));
     field.choiceListCount = static_cast<std::int16_t>(list.elements.size());
 }
 

@@ -1,20 +1,21 @@
 #pragma once
 
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 #include <cstdint>
 #include <limits>
 #include <string>
-#include <string_view>
 
 namespace Korvane {
 
-/// One more; the counters of the model are 16-bit. Raises Overflow with what there are too many of.
-inline std::int16_t countedUp(std::int16_t count, std::string_view what, const std::string& where = {}) {
+/// One more; the counters of the model are 16-bit. Raises Overflow with the text (%1 the most there can be,
+/// %2 where).
+inline std::int16_t countedUp(std::int16_t count, const char* tooMany, const std::string& where = {}) {
     constexpr std::int16_t most = std::numeric_limits<std::int16_t>::max();
     if (count == most)
         throw RuntimeError(RuntimeError::Overflow,
-                           "More than " + std::to_string(most) + ' ' + std::string(what) + where);
+                           filled(translate("Korvane::nip", tooMany), {std::to_string(most), where}));
     return static_cast<std::int16_t>(count + 1);
 }
 

@@ -7,6 +7,7 @@
 #include <korvane/nip/FieldOrder.h>
 #include <korvane/nip/SqlName.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 #include <limits>
@@ -20,29 +21,35 @@ constexpr std::size_t longestName = 63; // of a server's column
 
 /// Refuses a name that the field cannot have beside the others of its group.
 void requireFreeName(const GroupRecord& group, const FieldRecord& field, const std::string& name) {
-    if (trim(name).empty()) throw RuntimeError(RuntimeError::InvalidArgument, "A field needs a name");
+    if (trim(name).empty())
+        throw RuntimeError(RuntimeError::InvalidArgument, translate("Korvane::nip", "A field needs a name"));
     sqlName(name);
     if (name.size() > longestName)
         throw RuntimeError(RuntimeError::InvalidArgument,
-                           "The name " + name + " is longer than " + std::to_string(longestName) + " bytes");
+                           filled(translate("Korvane::nip", "The name %1 is longer than %2 bytes"),
+                                  {name, std::to_string(longestName)}));
     if (sameName(name, "EncounterID"))
-        throw RuntimeError(RuntimeError::DuplicateKey, "The name " + name + " is that of the group's key");
+        throw RuntimeError(
+            RuntimeError::DuplicateKey,
+            filled(translate("Korvane::nip", "The name %1 is that of the group's key"), {name}));
     for (std::int16_t i = 1; i <= group.fieldCount; ++i) {
         const FieldRecord& other = group.fields[static_cast<std::size_t>(i)];
         if (&other != &field && (sameName(other.fieldName, name) || sameName(other.newFieldName, name)))
             throw RuntimeError(RuntimeError::DuplicateKey,
-                               "The group " + group.groupName + " has a field " + name + " already");
+                               filled(translate("Korvane::nip", "The group %1 has a field %2 already"),
+                                      {group.groupName, name}));
     }
 }
 
 /// Takes over all but name and place.
 void define(FieldRecord& field, const FieldDefinition& definition) {
     if (definition.maxLength < 1 && definition.maxLength != field.maxLength)
-        throw RuntimeError(RuntimeError::InvalidArgument, "A field of " +
-                                                              std::to_string(definition.maxLength) +
-                                                              " characters holds nothing");
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           filled(translate("Korvane::nip", "A field of %1 characters holds nothing"),
+                                  {std::to_string(definition.maxLength)}));
     if (definition.values.size() > std::size_t{std::numeric_limits<std::int16_t>::max()})
-        throw RuntimeError(RuntimeError::Overflow, "More than 32767 values of a field");
+        throw RuntimeError(RuntimeError::Overflow,
+                           translate("Korvane::nip", "More than 32767 values of a field"));
     field.caption = definition.caption;
     field.maxLength = definition.maxLength;
     field.displayType = definition.displayType;

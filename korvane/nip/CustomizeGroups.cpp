@@ -6,6 +6,7 @@
 #include <korvane/nip/GroupTableName.h>
 #include <korvane/nip/Query.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 namespace Korvane {
 
@@ -15,11 +16,12 @@ bool cNIP::CreateGroup(std::string_view name) {
     group.fields.emplace_back();
     if (trim(name).empty())
         return attempt("Error in cNip.CreateGroup:", []() -> bool {
-            throw RuntimeError(RuntimeError::InvalidArgument, "A group needs a name");
+            throw RuntimeError(RuntimeError::InvalidArgument,
+                               translate("Korvane::nip", "A group needs a name"));
         });
     const bool created = changeSchema("Error in cNip.CreateGroup:", [&] {
         catalog();
-        countedUp(GroupCount(), "groups");
+        countedUp(GroupCount(), translatable("Korvane::nip", "More than %1 groups"));
         insertGroup(group);
         return true;
     });

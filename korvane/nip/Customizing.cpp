@@ -5,6 +5,7 @@
 #include <korvane/nip/Query.h>
 #include <korvane/nip/Revision.h>
 #include <korvane/runtime/HeldMessages.h>
+#include <korvane/runtime/Translation.h>
 
 #include <utility>
 
@@ -26,7 +27,8 @@ bool cNIP::attempt(std::string_view prefix, const std::function<bool()>& body) {
 bool cNIP::changeSchema(std::string_view prefix, const std::function<bool()>& change) {
     return attempt(prefix, [&] {
         if (!mStructureLoaded)
-            throw RuntimeError(RuntimeError::InvalidProcedureCall, "The structure is not loaded");
+            throw RuntimeError(RuntimeError::InvalidProcedureCall,
+                               translate("Korvane::nip", "The structure is not loaded"));
         return withCurrentSchema([&] {
             const HeldMessages messages;
             ado::Transaction work(*mConnection, ado::TransactionFor::ChangingSchema);

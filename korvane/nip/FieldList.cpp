@@ -5,6 +5,7 @@
 #include <korvane/nip/SqlName.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 #include <set>
@@ -35,8 +36,10 @@ FieldList GetFieldList(const GroupRecord& group) {
             continue;
         }
         if (!names.insert(lowerCase(fieldName)).second)
-            throw RuntimeError(RuntimeError::InvalidArgument,
-                               "Two fields of the table " + group.tableName + " have the name " + fieldName);
+            throw RuntimeError(
+                RuntimeError::InvalidArgument,
+                filled(translate("Korvane::nip", "Two fields of the table %1 have the name %2"),
+                       {group.tableName, fieldName}));
         append(list.columns, sqlName(fieldName));
         list.columnOf[i] = column++;
     }

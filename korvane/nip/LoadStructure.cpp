@@ -6,6 +6,7 @@
 #include <korvane/nip/FieldIndex.h>
 #include <korvane/nip/Query.h>
 #include <korvane/nip/Revision.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 #include <array>
@@ -91,8 +92,9 @@ class Row {
         try {
             return (value.*convert)();
         } catch (const RuntimeError& error) {
-            throw RuntimeError(error.Number(), mQuery.Fields(column)->Name() + " of the field " +
-                                                   std::string(fieldName) + ": " + error.Description());
+            throw RuntimeError(error.Number(),
+                               filled(translate("Korvane::nip", "%1 of the field %2: %3"),
+                                      {mQuery.Fields(column)->Name(), fieldName, error.Description()}));
         }
     }
 
@@ -137,7 +139,9 @@ void addAllowedValue(FieldRecord& field, const ValueRow& row, std::string_view f
     const bool byDefault = row.number(isDefault, &Variant::toBoolean, fieldName);
     if (field.valueListCount == 0) field.valueList = roomyList();
     std::vector<Variant>& values = field.valueList.array().elements;
-    field.valueListCount = countedUp(field.valueListCount, "values of the field ", field.fieldName);
+    field.valueListCount =
+        countedUp(field.valueListCount, translatable("Korvane::nip", "More than %1 values of the field %2"),
+                  field.fieldName);
     row.value(allowedValue, values.emplace_back());
     if (byDefault) field.defaultValue = values.back();
 }
@@ -180,7 +184,7 @@ void cNIP::loadGroups(std::vector<GroupRecord>& former) {
     SQLData query;
     for (run(query, mConnection, structureStatements[0]); !query.Eof(); query.NextRow()) {
         const GroupRow row(query);
-        countedUp(GroupCount(), "groups");
+        countedUp(GroupCount(), translatable("Korvane::nip", "More than %1 groups"));
         GroupRecord& group = mGroups.emplace_back();
         group.tableName = row.text(groupTable);
         group.groupName = row.text(groupName);
@@ -222,7 +226,9 @@ void cNIP::loadFields(FieldIndex& index) {
 }
 
 FieldRecord& cNIP::appendField(GroupRecord& group) {
-    const std::int16_t count = countedUp(group.fieldCount, "fields in the group ", group.groupName);
+    const std::int16_t count =
+        countedUp(group.fieldCount, translatable("Korvane::nip", "More than %1 fields in the group %2"),
+                  group.groupName);
     const auto index = static_cast<std::size_t>(count);
     if (index >= group.fields.size()) group.fields.resize(index + 1);
     group.fieldCount = count;
@@ -246,7 +252,8 @@ void cNIP::placeInGrid(GroupRecord& group, FieldRecord& field, const FieldIndex&
 }
 
 void cNIP::beginRow(GroupRecord& group, FieldRecord& field) {
-    group.rowCount = countedUp(group.rowCount, "rows in the group ", group.groupName);
+    group.rowCount = countedUp(
+        group.rowCount, translatable("Korvane::nip", "More than %1 rows in the group %2"), group.groupName);
     field.colIndex = 1;
     field.rowIndex = group.rowCount;
     mRowCountMax = std::max(mRowCountMax, group.rowCount);

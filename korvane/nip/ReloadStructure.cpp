@@ -4,6 +4,7 @@
 #include <korvane/nip/Query.h>
 #include <korvane/nip/Revision.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <set>
 #include <string>
@@ -52,7 +53,8 @@ std::set<std::int32_t> fieldsInWork(const std::vector<GroupRecord>& groups) {
 class SchemaHasChanged : public RuntimeError {
   public:
     explicit SchemaHasChanged(bool counted)
-        : RuntimeError(InvalidProcedureCall, "The form was customized elsewhere since it was loaded"),
+        : RuntimeError(InvalidProcedureCall,
+                       translate("Korvane::nip", "The form was customized elsewhere since it was loaded")),
           mCounted(counted) {}
     bool counted() const { return mCounted; }
 

@@ -7,6 +7,7 @@
 #include <korvane/runtime/HeldMessages.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <span>
 
@@ -68,9 +69,11 @@ std::string insertStatement(SQLData& lists, const GroupRecord& group, std::int32
 bool cNIP::Save() {
     const bool saved = attempt("Error in cNip.Save: ", [&] {
         if (!mStructureLoaded)
-            throw RuntimeError(RuntimeError::InvalidProcedureCall, "The structure is not loaded");
+            throw RuntimeError(RuntimeError::InvalidProcedureCall,
+                               translate("Korvane::nip", "The structure is not loaded"));
         if (mEncounterID == -1)
-            throw RuntimeError(RuntimeError::InvalidProcedureCall, "The encounter is not stored yet");
+            throw RuntimeError(RuntimeError::InvalidProcedureCall,
+                               translate("Korvane::nip", "The encounter is not stored yet"));
         return withCurrentSchema([&] {
             const HeldMessages messages;
             ado::Transaction work(*mConnection);
@@ -90,10 +93,15 @@ void cNIP::requireOwnEncounter(std::string_view statement) const {
     SQLData query;
     run(query, mConnection, statement);
     for (bool first = true; !query.Eof(); first = false) {
-        const std::string what = "The encounter " + std::to_string(mEncounterID);
-        if (!first) throw RuntimeError(RuntimeError::DuplicateKey, what + " is there more than once");
+        const std::string id = std::to_string(mEncounterID);
+        if (!first)
+            throw RuntimeError(
+                RuntimeError::DuplicateKey,
+                filled(translate("Korvane::nip", "The encounter %1 is there more than once"), {id}));
         if (trim(query.DataView("PatientID").textOrEmpty()) != trim(mPatientID))
-            throw RuntimeError(RuntimeError::InvalidProcedureCall, what + " is another patient's");
+            throw RuntimeError(
+                RuntimeError::InvalidProcedureCall,
+                filled(translate("Korvane::nip", "The encounter %1 is another patient's"), {id}));
         query.NextRow();
     }
     raiseFailure(query);

@@ -2,6 +2,7 @@
 
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 #include <set>
@@ -50,8 +51,9 @@ bool isReservedWord(std::string_view word) {
 
 std::string sqlName(std::string_view name) {
     if (name.empty() || name.find_first_of("]\0"sv) != std::string_view::npos)
-        throw RuntimeError(RuntimeError::InvalidArgument,
-                           "\"" + std::string(name) + "\" cannot be the name of a table or field");
+        throw RuntimeError(
+            RuntimeError::InvalidArgument,
+            filled(translate("Korvane::nip", "\"%1\" cannot be the name of a table or field"), {name}));
     if (isPlain(name) && !isReservedWord(name)) return std::string(name);
     return "[" + std::string(name) + "]";
 }

@@ -6,6 +6,7 @@
 #endif
 #include <korvane/ado/sqlite/SqliteConnection.h>
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 #include <QMetaType>
 #include <QPointer>
@@ -28,8 +29,9 @@ namespace {
 
 [[noreturn]] void refuse(const QSqlDatabase& database, const std::string& reason,
                          int number = RuntimeError::InvalidArgument) {
-    throw RuntimeError(number, "The database connection \"" + database.connectionName().toStdString() +
-                                   "\" cannot be used: " + reason);
+    throw RuntimeError(number,
+                       filled(translate("Korvane::ado", "The database connection \"%1\" cannot be used: %2"),
+                              {database.connectionName().toStdString(), reason}));
 }
 
 // The engine's handle, when the driver has one of that type.
@@ -57,9 +59,9 @@ void requireOurSqlite(const QSqlDatabase& database) {
     QSqlQuery theirs(database);
     const bool answered = theirs.exec(QString::fromLatin1(makeOfSqlite)) && theirs.next();
     if (answered && theirs.value(0).toString().toStdString() == ours->Value(0).text()) return;
-    refuse(database,
-           "its driver brings a SQLite of its own, which is not the one that this library uses. Let "
-           "both use the system's, or open the file with ado::open.");
+    refuse(database, translate("Korvane::ado",
+                               "its driver brings a SQLite of its own, which is not the one that this "
+                               "library uses. Let both use the system's, or open the file with ado::open."));
 }
 
 } // namespace
@@ -68,7 +70,9 @@ std::shared_ptr<Connection> adopt(const QSqlDatabase& database) {
     QSqlDriver* const driver = database.driver();
     if (!database.isOpen()) {
         const std::string why = database.lastError().text().trimmed().toStdString();
-        refuse(database, why.empty() ? "it is not open." : "it is not open (" + why + ").",
+        refuse(database,
+               why.empty() ? translate("Korvane::ado", "it is not open.")
+                           : filled(translate("Korvane::ado", "it is not open (%1)."), {why}),
                RuntimeError::ObjectClosed);
     }
     if (auto* handle = handleOf<sqlite3>(*driver)) {
@@ -79,8 +83,10 @@ std::shared_ptr<Connection> adopt(const QSqlDatabase& database) {
     if (auto* handle = handleOf<pg_conn>(*driver))
         return postgres::adopt(handle, untilClosed(driver, handle));
 #endif
-    refuse(database, "its driver " + database.driverName().toStdString() +
-                         " is none of those that are known here, QSQLITE and QPSQL.");
+    refuse(database,
+           filled(translate("Korvane::ado",
+                            "its driver %1 is none of those that are known here, QSQLITE and QPSQL."),
+                  {database.driverName().toStdString()}));
 }
 
 } // namespace Korvane::ado

@@ -1,5 +1,7 @@
 #include <korvane/runtime/App.h>
 
+#include <korvane/runtime/Translation.h>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -67,7 +69,7 @@ void App::Path(std::string_view directory) {
 }
 
 std::string App::FileDescription() {
-    return "Korvane data-entry library";
+    return translate("Korvane::runtime", "Korvane data-entry library");
 }
 
 } // namespace Korvane

@@ -2,6 +2,7 @@
 
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 #include <korvane/voice/Resampler.h>
 
 #include <algorithm>
@@ -30,8 +31,10 @@ std::vector<std::int16_t> samplesOf(std::string_view bytes) {
 }
 
 [[noreturn]] void refuse(const std::filesystem::path& file) {
-    throw RuntimeError(RuntimeError::InvalidProcedureCall,
-                       "The sound file " + file.string() + " is no WAV file with 16-bit samples.");
+    throw RuntimeError(
+        RuntimeError::InvalidProcedureCall,
+        filled(translate("Korvane::voice", "The sound file %1 is no WAV file with 16-bit samples."),
+               {file.string()}));
 }
 
 std::vector<std::int16_t> fromWav(std::string_view bytes, const std::filesystem::path& file) {
@@ -65,8 +68,9 @@ std::vector<std::int16_t> readSoundFile(const std::filesystem::path& file) {
     // A device may have no end.
     if (std::filesystem::is_regular_file(file, error)) in.open(file, std::ios::binary);
     if (!in.is_open())
-        throw RuntimeError(RuntimeError::FileNotFound,
-                           "The sound file " + file.string() + " cannot be read.");
+        throw RuntimeError(
+            RuntimeError::FileNotFound,
+            filled(translate("Korvane::voice", "The sound file %1 cannot be read."), {file.string()}));
     const std::string bytes(std::istreambuf_iterator<char>(in), {});
     return sameName(file.extension().string(), ".raw") ? samplesOf(bytes) : fromWav(bytes, file);
 }
@@ -108,7 +112,7 @@ std::optional<std::size_t> FileSource::Read(std::span<std::int16_t> samples,
 }
 
 std::string FileSource::WhyEnded() const {
-    return "The sound file has ended.";
+    return translate("Korvane::voice", "The sound file has ended.");
 }
 
 } // namespace Korvane::voice

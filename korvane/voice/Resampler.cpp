@@ -1,6 +1,7 @@
 #include <korvane/voice/Resampler.h>
 
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 #include <korvane/voice/AudioSource.h>
 
 #include <algorithm>
@@ -22,9 +23,11 @@ std::int16_t toSample(double value) {
 
 Resampler::Resampler(int rate, int channels) : mChannels(channels) {
     if (rate < 4000 || rate > 384000 || channels < 1)
-        throw RuntimeError(RuntimeError::InvalidProcedureCall,
-                           "Sound of " + std::to_string(rate) + " samples a second in " +
-                               std::to_string(channels) + " channels cannot be listened to.");
+        throw RuntimeError(
+            RuntimeError::InvalidProcedureCall,
+            filled(translate("Korvane::voice",
+                             "Sound of %1 samples a second in %2 channels cannot be listened to."),
+                   {std::to_string(rate), std::to_string(channels)}));
     mStep = static_cast<double>(rate) / AudioSource::sampleRate;
     mCutoff = 0.5 * std::min(1.0, 1.0 / mStep) * 0.94;
     mReach = static_cast<int>(std::ceil(zeroCrossings / (2 * mCutoff)));

@@ -1,5 +1,7 @@
 #include <korvane/voice/SpeechEngine.h>
 
+#include <korvane/runtime/Translation.h>
+
 #include <utility>
 
 namespace Korvane::voice {
@@ -18,9 +20,9 @@ Installed& installed() {
 
 std::string usualReason() {
 #ifdef KORVANE_HAS_VOICE
-    return "Voice is not there: the application has not set up a speech engine.";
+    return translate("Korvane::voice", "Voice is not there: the application has not set up a speech engine.");
 #else
-    return "Voice is not there: this build has no speech engine.";
+    return translate("Korvane::voice", "Voice is not there: this build has no speech engine.");
 #endif
 }
 

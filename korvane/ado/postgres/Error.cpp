@@ -1,6 +1,7 @@
 #include <korvane/ado/postgres/Error.h>
 
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <libpq-fe.h>
 
@@ -21,38 +22,58 @@ struct Report {
 };
 
 constexpr std::array reports{
-    Report{"23505", RuntimeError::DuplicateKey, "a row with the same key is already there"},
+    Report{"23505", RuntimeError::DuplicateKey,
+           translatable("Korvane::ado", "a row with the same key is already there")},
     Report{"23503", RuntimeError::DatabaseFailure,
-           "other rows refer to the row, or the row it refers to is missing"},
-    Report{"22001", RuntimeError::DatabaseFailure, "a text is longer than its column"},
+           translatable("Korvane::ado", "other rows refer to the row, or the row it refers to is missing")},
+    Report{"22001", RuntimeError::DatabaseFailure,
+           translatable("Korvane::ado", "a text is longer than its column")},
     Report{"22003", RuntimeError::Overflow, nullptr},
     Report{"22008", RuntimeError::Overflow, nullptr},
     Report{"22007", RuntimeError::TypeMismatch, nullptr},
-    Report{"22P02", RuntimeError::TypeMismatch, "a value is not of the type of its column"},
+    Report{"22P02", RuntimeError::TypeMismatch,
+           translatable("Korvane::ado", "a value is not of the type of its column")},
     Report{"42804", RuntimeError::TypeMismatch, nullptr},
     Report{"22012", RuntimeError::DivisionByZero, nullptr},
-    Report{"22021", RuntimeError::InvalidArgument, "a text holds bytes that are no UTF-8"},
-    Report{"22P05", RuntimeError::InvalidArgument,
-           "a text holds a character that the database's encoding does not have"},
-    Report{"25006", RuntimeError::PermissionDenied, "the database, or this transaction, is read-only"},
-    Report{"25P02", RuntimeError::DatabaseFailure, "an earlier statement of the transaction has failed"},
+    Report{"22021", RuntimeError::InvalidArgument,
+           translatable("Korvane::ado", "a text holds bytes that are no UTF-8")},
+    Report{
+        "22P05", RuntimeError::InvalidArgument,
+        translatable("Korvane::ado", "a text holds a character that the database's encoding does not have")},
+    Report{"25006", RuntimeError::PermissionDenied,
+           translatable("Korvane::ado", "the database, or this transaction, is read-only")},
+    Report{"25P02", RuntimeError::DatabaseFailure,
+           translatable("Korvane::ado", "an earlier statement of the transaction has failed")},
     Report{"28000", RuntimeError::PermissionDenied,
-           "check the user's name; the server may also let that user in from certain machines only"},
-    Report{"28", RuntimeError::PermissionDenied, "check the user's name and password"},
-    Report{"3D000", RuntimeError::FileNotFound, "check the database's name in the address"},
-    Report{"40", RuntimeError::DatabaseFailure, "another program was changing the same rows; try again"},
+           translatable(
+               "Korvane::ado",
+               "check the user's name; the server may also let that user in from certain machines only")},
+    Report{"28", RuntimeError::PermissionDenied,
+           translatable("Korvane::ado", "check the user's name and password")},
+    Report{"3D000", RuntimeError::FileNotFound,
+           translatable("Korvane::ado", "check the database's name in the address")},
+    Report{"40", RuntimeError::DatabaseFailure,
+           translatable("Korvane::ado", "another program was changing the same rows; try again")},
     Report{"42501", RuntimeError::PermissionDenied,
-           "this login lacks a right that is needed; ask whoever looks after the database"},
-    Report{"53100", RuntimeError::DiskFull, "there is no room left on the server's disk"},
-    Report{"53200", RuntimeError::OutOfMemory, "the server has no memory left"},
-    Report{"53300", RuntimeError::DatabaseFailure, "too many programs are connected; try again later"},
-    Report{"54", RuntimeError::DatabaseFailure, "the statement is beyond a limit of the server"},
-    Report{"55P03", RuntimeError::DatabaseFailure, "another program holds the rows; try again in a moment"},
+           translatable("Korvane::ado",
+                        "this login lacks a right that is needed; ask whoever looks after the database")},
+    Report{"53100", RuntimeError::DiskFull,
+           translatable("Korvane::ado", "there is no room left on the server's disk")},
+    Report{"53200", RuntimeError::OutOfMemory, translatable("Korvane::ado", "the server has no memory left")},
+    Report{"53300", RuntimeError::DatabaseFailure,
+           translatable("Korvane::ado", "too many programs are connected; try again later")},
+    Report{"54", RuntimeError::DatabaseFailure,
+           translatable("Korvane::ado", "the statement is beyond a limit of the server")},
+    Report{"55P03", RuntimeError::DatabaseFailure,
+           translatable("Korvane::ado", "another program holds the rows; try again in a moment")},
     Report{"57014", RuntimeError::DatabaseFailure,
-           "the statement took longer than it is given, or was stopped; try again in a moment"},
+           translatable("Korvane::ado",
+                        "the statement took longer than it is given, or was stopped; try again in a moment")},
     Report{"57P", RuntimeError::DatabaseFailure,
-           "the server is going down or coming up; open the connection again in a moment"},
-    Report{"58030", RuntimeError::DeviceIo, "the server could not read or write its disk"},
+           translatable("Korvane::ado",
+                        "the server is going down or coming up; open the connection again in a moment")},
+    Report{"58030", RuntimeError::DeviceIo,
+           translatable("Korvane::ado", "the server could not read or write its disk")},
 };
 
 const Report* reportFor(std::string_view state) {
@@ -64,7 +85,7 @@ const Report* reportFor(std::string_view state) {
 
 RuntimeError reported(std::string message, std::string_view state) {
     const Report* report = reportFor(state);
-    if (report && report->advice) message += std::string(" (") + report->advice + ")";
+    if (report && report->advice) message += " (" + Korvane::translate("Korvane::ado", report->advice) + ")";
     if (!state.empty()) message += " [" + std::string(state) + "]";
     return {report ? report->number : RuntimeError::DatabaseFailure, message, nativeCode(state)};
 }
@@ -106,8 +127,8 @@ RuntimeError engineError(const pg_result* result) {
     return reported(std::move(message), code ? code : "");
 }
 
-RuntimeError connectionError(const pg_conn* handle, std::string_view what) {
-    std::string message(what);
+RuntimeError connectionError(const pg_conn* handle, const char* what) {
+    std::string message = Korvane::translate("Korvane::ado", what);
     const std::string_view said = withoutLineEnd(handle ? PQerrorMessage(handle) : "");
     if (!said.empty()) message += ": ";
     for (const char c : said)
@@ -133,14 +154,18 @@ RuntimeError refusalError(const pg_conn* handle) {
         const std::string_view message = said.substr(std::min(said.size(), at + before.size() + codeSize));
         if (!isCode(code) || !message.starts_with(behind)) continue;
         const std::string text(message.substr(behind.size(), message.find('\n') - behind.size()));
-        return reported("The database server refused the connection: " + text, code);
+        return reported(
+            filled(Korvane::translate("Korvane::ado", "The database server refused the connection: %1"),
+                   {text}),
+            code);
     }
     if (PQconnectionNeedsPassword(handle) != 0) {
-        return reported("The database server asks for a password, and there is none in the address, in "
-                        "PGPASSWORD or in the password file.",
+        return reported(Korvane::translate("Korvane::ado",
+                                           "The database server asks for a password, and there is none "
+                                           "in the address, in PGPASSWORD or in the password file."),
                         "28P01");
     }
-    return connectionError(handle, "The database server could not be reached");
+    return connectionError(handle, translatable("Korvane::ado", "The database server could not be reached"));
 }
 
 } // namespace Korvane::ado::postgres

@@ -24,8 +24,9 @@ bool mayDoBetterAsText(const RuntimeError& error);
 /// its code.
 RuntimeError engineError(const pg_result* result);
 
-/// The connection is gone, or could not be made: what the client library says about it.
-RuntimeError connectionError(const pg_conn* handle, std::string_view what);
+/// The connection is gone, or could not be made: which of the two, a text that is translated here, and what
+/// the client library says about it.
+RuntimeError connectionError(const pg_conn* handle, const char* what);
 
 /// Why a connection could not be made: what the server said, as of any other failure, when it was reached.
 /// The handle has to be at its most talkative (PQERRORS_VERBOSE).

@@ -2,6 +2,7 @@
 
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 #include <array>
@@ -132,9 +133,12 @@ std::string newSpelling(std::string_view name) {
 void requireKeepable(std::string_view name) {
     constexpr std::size_t longest = 63;
     if (name.size() <= longest) return;
-    throw RuntimeError(RuntimeError::InvalidArgument, "The name \"" + std::string(name) +
-                                                          "\" is longer than the " + std::to_string(longest) +
-                                                          " bytes that the database keeps of one.");
+    throw RuntimeError(
+        RuntimeError::InvalidArgument,
+        filled(
+            Korvane::translate("Korvane::ado",
+                               "The name \"%1\" is longer than the %2 bytes that the database keeps of one."),
+            {name, std::to_string(longest)}));
 }
 
 bool isPlainFor(std::string_view written, std::string_view spelling) {

@@ -3,6 +3,7 @@
 #include <korvane/ado/postgres/Session.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <libpq-fe.h>
 
@@ -38,7 +39,8 @@ std::string takeStatementTimeout(std::string_view address, Limits& limits) {
         int milliseconds = -1;
         const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), milliseconds);
         if (read.ptr != digits.data() + digits.size() || milliseconds < 0)
-            refuse("The statement_timeout of a database address is a number of milliseconds.");
+            refuse(Korvane::translate(
+                "Korvane::ado", "The statement_timeout of a database address is a number of milliseconds."));
         limits.statement = std::chrono::milliseconds(milliseconds);
     }
     return rest;
@@ -59,21 +61,24 @@ void requireUnderstood(const std::string& address) {
     }
     PQconninfoFree(options);
     if (good) return;
-    refuse(
-        "The database address is not understood. It reads postgresql://user@host:port/database; in a name or "
-        "a password a character such as @ : / ? is written as % and its two hexadecimal digits (%40 for @).");
+    refuse(Korvane::translate("Korvane::ado",
+                              "The database address is not understood. It reads "
+                              "postgresql://user@host:port/database; in a name or a password a character "
+                              "such as @ : / ? is written as % and its two hexadecimal digits (%40 for @)."));
 }
 
 Session& sessionOf(Connection& connection) {
     auto* session = dynamic_cast<Session*>(&connection);
-    if (!session) refuse("The connection is not one to a PostgreSQL database.");
+    if (!session)
+        refuse(Korvane::translate("Korvane::ado", "The connection is not one to a PostgreSQL database."));
     return *session;
 }
 
 } // namespace
 
 std::shared_ptr<Connection> open(std::string_view address, const Limits& limits) {
-    if (address.find('\0') != std::string_view::npos) refuse("The database address holds the character NUL.");
+    if (address.find('\0') != std::string_view::npos)
+        refuse(Korvane::translate("Korvane::ado", "The database address holds the character NUL."));
     Limits own = limits;
     const std::string rest = takeStatementTimeout(address, own);
     requireUnderstood(rest);
@@ -87,8 +92,9 @@ std::shared_ptr<Connection> adopt(pg_conn* handle, StillLent stillLent) {
     }
     if (PQtransactionStatus(handle) == PQTRANS_INERROR) {
         throw RuntimeError(RuntimeError::InvalidConnection,
-                           "The connection is inside a transaction that has failed; it has to be rolled back "
-                           "before it is handed over.");
+                           Korvane::translate("Korvane::ado",
+                                              "The connection is inside a transaction that has failed; it "
+                                              "has to be rolled back before it is handed over."));
     }
     return std::make_shared<Session>(std::make_unique<Wire>(handle, std::move(stillLent)));
 }

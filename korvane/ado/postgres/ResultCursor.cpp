@@ -5,6 +5,7 @@
 #include <korvane/ado/postgres/Values.h>
 #include <korvane/ado/sql/Names.h>
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 #include <libpq-fe.h>
 
@@ -160,27 +161,33 @@ Answer ResultCursor::write(std::span<const FieldChange> changes) {
         return mSession->runForWriting(updateCommand(changes, origins));
     } catch (const RuntimeError& error) {
         if (sqlState(error.NativeCode()) == "21000") {
-            throw RuntimeError(RuntimeError::DatabaseFailure,
-                               "The row cannot be told from another one of its table; nothing was written.",
-                               error.NativeCode());
+            throw RuntimeError(
+                RuntimeError::DatabaseFailure,
+                Korvane::translate(
+                    "Korvane::ado",
+                    "The row cannot be told from another one of its table; nothing was written."),
+                error.NativeCode());
         }
         if (mSession->State() == 0 || !mayDoBetterAsText(error)) throw;
         mSession->rereadSchema();
         if (error.NativeCode() == 0) throw;
-        throw RuntimeError(error.Number(),
-                           error.Description() +
-                               " Another program may have changed the table since its rows were read.",
-                           error.NativeCode());
+        throw RuntimeError(
+            error.Number(),
+            filled(
+                Korvane::translate("Korvane::ado",
+                                   "%1 Another program may have changed the table since its rows were read."),
+                {error.Description()}),
+            error.NativeCode());
     }
 }
 
 void ResultCursor::update(std::span<const FieldChange> changes) {
     const Answer stored = write(changes);
     if (PQntuples(stored.get()) == 0) {
-        throw RuntimeError(
-            RuntimeError::DatabaseFailure,
-            "The row could not be found to be updated: it has been deleted, or its key has been changed, "
-            "since it was read.");
+        throw RuntimeError(RuntimeError::DatabaseFailure,
+                           Korvane::translate("Korvane::ado",
+                                              "The row could not be found to be updated: it has been "
+                                              "deleted, or its key has been changed, since it was read."));
     }
     const std::size_t returned = changes.size() + mWriteback.key.size();
     for (std::size_t at = 0; at < returned; ++at) {

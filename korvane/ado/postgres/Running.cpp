@@ -9,6 +9,7 @@
 #include <korvane/ado/sql/Statement.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <libpq-fe.h>
 
@@ -34,14 +35,18 @@ bool failed(const Answer& answer) {
 void requireOneStatement(const sql::Statement& statement) {
     const auto& tokens = statement.tokens;
     if (tokens.front().kind == sql::TokenKind::End)
-        throw RuntimeError(RuntimeError::InvalidArgument, "There is no statement to run.");
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           Korvane::translate("Korvane::ado", "There is no statement to run."));
     if (tokens.front().isWord("copy"))
-        throw RuntimeError(RuntimeError::InvalidArgument, "Copy cannot be run over this connection.");
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           Korvane::translate("Korvane::ado", "Copy cannot be run over this connection."));
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         if (!tokens[at].isSymbol(';')) continue;
         const sql::Token& behind = tokens[at + 1];
         if (behind.kind != sql::TokenKind::End && !behind.isSymbol(';'))
-            throw RuntimeError(RuntimeError::InvalidArgument, "Only one statement can be run at a time.");
+            throw RuntimeError(
+                RuntimeError::InvalidArgument,
+                Korvane::translate("Korvane::ado", "Only one statement can be run at a time."));
     }
 }
 
@@ -130,7 +135,9 @@ Request Session::request(std::string_view statement) {
     if (rules.size() != literals.size()) {
         throw RuntimeError(
             RuntimeError::InvalidArgument,
-            "The statement holds a parameter mark; values are written into the statement itself.");
+            Korvane::translate(
+                "Korvane::ado",
+                "The statement holds a parameter mark; values are written into the statement itself."));
     }
     std::vector<TypeId> types;
     for (std::size_t i = 0; i < literals.size(); ++i) {
@@ -156,7 +163,9 @@ Request Session::literalRequest(std::string_view statement, std::string_view add
     if (!request.shape->translation.parameters.empty()) {
         throw RuntimeError(
             RuntimeError::InvalidArgument,
-            "The statement holds a parameter mark; values are written into the statement itself.");
+            Korvane::translate(
+                "Korvane::ado",
+                "The statement holds a parameter mark; values are written into the statement itself."));
     }
     request.command.text = request.shape->translation.text;
     return request;

@@ -4,6 +4,7 @@
 #include <korvane/ado/postgres/ResultCursor.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <libpq-fe.h>
 
@@ -23,16 +24,19 @@ Session::~Session() {
 void Session::requireLine() const {
     if (!mOpen) throw RuntimeError(RuntimeError::ObjectClosed);
     if (mWire->isTakenBack()) {
-        throw RuntimeError(RuntimeError::ObjectClosed,
-                           "The connection was closed by the program that opened it.");
+        throw RuntimeError(
+            RuntimeError::ObjectClosed,
+            Korvane::translate("Korvane::ado", "The connection was closed by the program that opened it."));
     }
 }
 
 void Session::requireOpen() const {
     requireLine();
     if (!mWire->isUp()) {
-        throw RuntimeError(RuntimeError::ObjectClosed,
-                           "The connection to the database server was lost; it has to be opened again.");
+        throw RuntimeError(
+            RuntimeError::ObjectClosed,
+            Korvane::translate("Korvane::ado",
+                               "The connection to the database server was lost; it has to be opened again."));
     }
 }
 
@@ -40,7 +44,8 @@ void Session::requireReady(std::string_view statement) const {
     requireOpen();
     mTransactions.requireNotLost();
     if (statement.find('\0') != std::string_view::npos) {
-        throw RuntimeError(RuntimeError::InvalidArgument, "A statement cannot hold the character NUL.");
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           Korvane::translate("Korvane::ado", "A statement cannot hold the character NUL."));
     }
 }
 
@@ -61,7 +66,9 @@ void Session::CommitTrans() {
     if (mAnnouncements.hasUnaskedWrites()) {
         throw RuntimeError(
             RuntimeError::InvalidProcedureCall,
-            "A statement that was announced has not been run: the transaction cannot be committed.");
+            Korvane::translate(
+                "Korvane::ado",
+                "A statement that was announced has not been run: the transaction cannot be committed."));
     }
     mTransactions.commit();
     if (transactionLevel() > 0) return;
@@ -103,8 +110,10 @@ void Session::Close() {
     if (mWire->isLent() && mWire->isUp() && mWire->transaction() == Wire::Transaction::Failed) {
         throw RuntimeError(
             RuntimeError::TransactionOpen,
-            "The transaction of the connection's owner has failed. It has to be rolled back before the "
-            "connection is let go of, or the owner's settings could not be put back.");
+            Korvane::translate(
+                "Korvane::ado",
+                "The transaction of the connection's owner has failed. It has to be rolled back before the "
+                "connection is let go of, or the owner's settings could not be put back."));
     }
     letGo();
 }

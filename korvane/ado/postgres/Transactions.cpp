@@ -1,6 +1,7 @@
 #include <korvane/ado/postgres/Transactions.h>
 
 #include <korvane/ado/postgres/Error.h>
+#include <korvane/runtime/Translation.h>
 
 #include <libpq-fe.h>
 
@@ -37,7 +38,8 @@ std::int32_t Transactions::begin(TransactionFor use) {
 
 void Transactions::commit() {
     if (mLevels.empty())
-        throw RuntimeError(RuntimeError::DatabaseFailure, "There is no transaction to commit.");
+        throw RuntimeError(RuntimeError::DatabaseFailure,
+                           Korvane::translate("Korvane::ado", "There is no transaction to commit."));
     requireNotLost();
     if (mLevels.back()) {
         const std::string begun = "Savepoint " + savepoint(level());
@@ -59,7 +61,8 @@ void Transactions::commit() {
 
 void Transactions::rollback() {
     if (mLevels.empty())
-        throw RuntimeError(RuntimeError::DatabaseFailure, "There is no transaction to roll back.");
+        throw RuntimeError(RuntimeError::DatabaseFailure,
+                           Korvane::translate("Korvane::ado", "There is no transaction to roll back."));
     const bool isSavepoint = mLevels.back();
     const std::string mark = savepoint(level());
     mLevels.pop_back();
@@ -80,8 +83,10 @@ void Transactions::requireNotLost() const {
     if (!lost()) return;
     throw RuntimeError(
         RuntimeError::DatabaseFailure,
-        "The transaction is over: the database has rolled it back after a failure, or somebody has ended it "
-        "past this connection. What was written in it was saved only if it was committed there.");
+        Korvane::translate(
+            "Korvane::ado",
+            "The transaction is over: the database has rolled it back after a failure, or somebody has ended "
+            "it past this connection. What was written in it was saved only if it was committed there."));
 }
 
 Answer Transactions::run(const std::string& statement) {

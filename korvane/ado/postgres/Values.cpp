@@ -4,6 +4,7 @@
 #include <korvane/runtime/FixedPoint.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <charconv>
 #include <cmath>
@@ -72,7 +73,8 @@ std::string comparedText(const sql::ColumnValue& value, const ColumnInfo& column
 std::optional<std::string> parameterText(const sql::ColumnValue& value) {
     using Text = std::optional<std::string>;
     if (const auto* text = std::get_if<std::string_view>(&value); text && text->find('\0') != text->npos)
-        throw RuntimeError(RuntimeError::InvalidArgument, "A text cannot hold the character NUL.");
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           Korvane::translate("Korvane::ado", "A text cannot hold the character NUL."));
     return std::visit(sql::Overloaded{[](std::monostate) { return Text(); },
                                       [](bool truth) { return Text(truth ? "t" : "f"); },
                                       [](std::int64_t number) { return Text(std::to_string(number)); },

@@ -1,6 +1,7 @@
 #include <korvane/ado/postgres/Wire.h>
 
 #include <korvane/ado/postgres/Error.h>
+#include <korvane/runtime/Translation.h>
 
 #include <libpq-fe.h>
 #include <poll.h>
@@ -22,6 +23,9 @@ using Moment = std::chrono::steady_clock::time_point;
 // The server stops a statement by itself when its time is up; this much later the line is taken for dead.
 constexpr milliseconds grace{2000};
 constexpr milliseconds withoutLimit = std::chrono::hours(24);
+
+constexpr const char* connectionLost =
+    translatable("Korvane::ado", "The connection to the database server was lost");
 
 milliseconds until(Moment deadline) {
     const auto left = std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
@@ -88,9 +92,9 @@ void Wire::connect(Poll poll) {
     while (PQstatus(mHandle) != CONNECTION_BAD && state != PGRES_POLLING_OK &&
            state != PGRES_POLLING_FAILED) {
         if (!await(state == PGRES_POLLING_READING ? POLLIN : POLLOUT, until(deadline))) {
-            throw connectionError(nullptr,
-                                  "The database server did not answer in time; check that it is running "
-                                  "and that the network is up");
+            throw connectionError(nullptr, translatable("Korvane::ado",
+                                                        "The database server did not answer in time; check "
+                                                        "that it is running and that the network is up"));
         }
         state = poll(mHandle);
     }
@@ -101,7 +105,8 @@ void Wire::connect(Poll poll) {
 void Wire::reset() {
     mLost = true;
     if (PQresetStart(mHandle) == 0)
-        throw connectionError(mHandle, "The database server could not be reached");
+        throw connectionError(mHandle,
+                              translatable("Korvane::ado", "The database server could not be reached"));
     connect(PQresetPoll);
     mLost = false;
 }
@@ -144,14 +149,16 @@ void Wire::begin(std::span<const Command> commands) {
     mUnderWay = true;
     mWasNonBlocking = PQisnonblocking(mHandle);
     if (PQsetnonblocking(mHandle, 1) != 0 || PQenterPipelineMode(mHandle) != 1) {
-        if (PQstatus(mHandle) != CONNECTION_OK) lose("The connection to the database server was lost");
+        if (PQstatus(mHandle) != CONNECTION_OK) lose(connectionLost);
         leavePipeline();
-        throw RuntimeError(RuntimeError::InvalidConnection,
-                           "The connection cannot be used now: its owner has something pending on it.");
+        throw RuntimeError(
+            RuntimeError::InvalidConnection,
+            Korvane::translate("Korvane::ado",
+                               "The connection cannot be used now: its owner has something pending on it."));
     }
     for (const Command& command : commands)
         queue(command);
-    if (PQpipelineSync(mHandle) == 0) lose("The connection to the database server was lost");
+    if (PQpipelineSync(mHandle) == 0) lose(connectionLost);
 }
 
 void Wire::leavePipeline() {
@@ -181,17 +188,17 @@ void Wire::queue(const Command& command) {
         break;
     }
     if (sent != 0 && command.atOnce) sent = PQsendFlushRequest(mHandle);
-    if (sent == 0) lose("The connection to the database server was lost");
+    if (sent == 0) lose(connectionLost);
 }
 
 Answer Wire::next() {
     for (;;) {
         Answer answer = receive();
         if (answer && PQresultStatus(answer.get()) == PGRES_PIPELINE_SYNC)
-            lose("The database server gave an answer that was not understood");
+            lose(translatable("Korvane::ado", "The database server gave an answer that was not understood"));
         if (answer) return answer;
         // Nothing is the end of one command's answer.
-        if (!isUp()) lose("The connection to the database server was lost");
+        if (!isUp()) lose(connectionLost);
     }
 }
 
@@ -203,7 +210,7 @@ Answer Wire::end() {
     Answer failure;
     for (;;) {
         Answer answer = receive();
-        if (!answer && !isUp()) lose("The connection to the database server was lost");
+        if (!answer && !isUp()) lose(connectionLost);
         if (!answer) continue;
         if (PQresultStatus(answer.get()) == PGRES_PIPELINE_SYNC) break;
         failure = std::move(answer);
@@ -221,10 +228,10 @@ Answer Wire::receive() {
         if (unsent < 0) await(POLLIN, grace);
         const auto events = static_cast<short>(unsent > 0 ? POLLIN | POLLOUT : POLLIN);
         if (unsent >= 0 && !await(events, patience))
-            lose("The database server has not answered in time; the connection is given up");
+            lose(translatable("Korvane::ado",
+                              "The database server has not answered in time; the connection is given up"));
         const bool read = PQconsumeInput(mHandle) != 0;
-        if (!read || (unsent < 0 && PQisBusy(mHandle) != 0))
-            lose("The connection to the database server was lost");
+        if (!read || (unsent < 0 && PQisBusy(mHandle) != 0)) lose(connectionLost);
     }
     return Answer(PQgetResult(mHandle));
 }
@@ -240,7 +247,7 @@ bool Wire::await(short events, milliseconds patience) const {
     }
 }
 
-void Wire::lose(std::string_view what) {
+void Wire::lose(const char* what) {
     mLost = true;
     const RuntimeError error = connectionError(mHandle, what);
     // When the network is back the server has to learn that nobody is there any more: what it holds for us,

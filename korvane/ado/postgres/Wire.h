@@ -87,7 +87,7 @@ class Wire {
     Answer receive();
     void leavePipeline();
     bool await(short events, std::chrono::milliseconds patience) const;
-    [[noreturn]] void lose(std::string_view what);
+    [[noreturn]] void lose(const char* what);
 
     pg_conn* mHandle = nullptr;
     bool mOwned;

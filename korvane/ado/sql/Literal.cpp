@@ -2,6 +2,7 @@
 
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <charconv>
 #include <cmath>
@@ -21,9 +22,13 @@ std::string shortened(std::string_view text) {
     return std::string(text.substr(0, end)) + "...";
 }
 
+constexpr const char* outOfRange =
+    translatable("Korvane::ado", "The value \"%1\" is outside the range of the column (column %2).");
+constexpr const char* notADate = translatable("Korvane::ado", "The value \"%1\" is not a date (column %2).");
+
+/// The reason has places for the value and the column.
 [[noreturn]] void refuse(int number, std::string_view text, const ColumnInfo& column, const char* reason) {
-    throw RuntimeError(number,
-                       "The value \"" + shortened(text) + "\" " + reason + " (column " + column.name + ").");
+    throw RuntimeError(number, filled(translate("Korvane::ado", reason), {shortened(text), column.name}));
 }
 
 std::string_view plainText(const Literal& literal, std::string& scratch) {
@@ -72,8 +77,12 @@ std::optional<std::int64_t> wholeNumber(double number) {
 ColumnValue readNumber(std::string_view text, const ColumnInfo& column) {
     if (const auto whole = wholeNumber(trim(text))) return *whole;
     const auto number = parseNumber(text);
-    if (!number) refuse(RuntimeError::TypeMismatch, text, column, "is not a number");
-    if (!std::isfinite(*number)) refuse(RuntimeError::Overflow, text, column, "is too large");
+    if (!number)
+        refuse(RuntimeError::TypeMismatch, text, column,
+               translatable("Korvane::ado", "The value \"%1\" is not a number (column %2)."));
+    if (!std::isfinite(*number))
+        refuse(RuntimeError::Overflow, text, column,
+               translatable("Korvane::ado", "The value \"%1\" is too large (column %2)."));
     return *number;
 }
 
@@ -121,15 +130,15 @@ ColumnValue asInteger(const Literal& literal, const ColumnInfo& column, Use use,
     if (std::holds_alternative<std::monostate>(value) || use == Use::Compare) return value;
     if (const double* number = std::get_if<double>(&value)) {
         if (std::trunc(*number) != *number) {
-            refuse(RuntimeError::TypeMismatch, describe(literal), column, "is not a whole number");
+            refuse(RuntimeError::TypeMismatch, describe(literal), column,
+                   translatable("Korvane::ado", "The value \"%1\" is not a whole number (column %2)."));
         }
         const auto whole = wholeNumber(*number);
-        if (!whole)
-            refuse(RuntimeError::Overflow, describe(literal), column, "is outside the range of the column");
+        if (!whole) refuse(RuntimeError::Overflow, describe(literal), column, outOfRange);
         value = *whole;
     }
     if (!fits(std::get<std::int64_t>(value), literal, column.type)) {
-        refuse(RuntimeError::Overflow, describe(literal), column, "is outside the range of the column");
+        refuse(RuntimeError::Overflow, describe(literal), column, outOfRange);
     }
     return value;
 }
@@ -152,7 +161,8 @@ ColumnValue asBoolean(const Literal& literal, const ColumnInfo& column, Use use,
         if (sameName(text, "True")) return true;
         if (sameName(text, "False")) return false;
         if (!text.empty() && !isNumeric(text)) {
-            refuse(RuntimeError::TypeMismatch, text, column, "is neither True nor False");
+            refuse(RuntimeError::TypeMismatch, text, column,
+                   translatable("Korvane::ado", "The value \"%1\" is neither True nor False (column %2)."));
         }
     }
     const ColumnValue number = asNumber(literal, column, scratch);
@@ -176,10 +186,10 @@ ColumnValue asDate(const Literal& literal, const ColumnInfo& column, std::string
         if (trim(text).empty()) return {};
         if (const auto iso = parseIsoDate(text)) return *iso;
         if (const auto date = parseDate(text)) return *date;
-        refuse(RuntimeError::TypeMismatch, text, column, "is not a date");
+        refuse(RuntimeError::TypeMismatch, text, column, notADate);
     }
     case Literal::Boolean:
-        refuse(RuntimeError::TypeMismatch, describe(literal), column, "is not a date");
+        refuse(RuntimeError::TypeMismatch, describe(literal), column, notADate);
     case Literal::Integer:
     case Literal::Number:
         break;

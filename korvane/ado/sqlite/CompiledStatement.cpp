@@ -2,6 +2,7 @@
 
 #include <korvane/ado/sql/Lexer.h>
 #include <korvane/ado/sqlite/Error.h>
+#include <korvane/runtime/Translation.h>
 
 #include <sqlite3.h>
 
@@ -12,7 +13,8 @@ namespace Korvane::ado::sqlite {
 
 CompiledStatement::CompiledStatement(sqlite3* handle, std::string_view text, bool keep) {
     if (text.size() > std::size_t{std::numeric_limits<int>::max()})
-        throw RuntimeError(RuntimeError::InvalidArgument, "The statement is too long.");
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           Korvane::translate("Korvane::ado", "The statement is too long."));
     const char* tail = nullptr;
     const unsigned flags = keep ? SQLITE_PREPARE_PERSISTENT : 0U;
     // A string_view need not end in a NUL; the length says where it ends.
@@ -25,7 +27,8 @@ CompiledStatement::CompiledStatement(sqlite3* handle, std::string_view text, boo
         token = lexer.next();
     if (token.kind == sql::TokenKind::End) return;
     sqlite3_finalize(mStatement);
-    throw RuntimeError(RuntimeError::InvalidArgument, "Only one statement can be run at a time.");
+    throw RuntimeError(RuntimeError::InvalidArgument,
+                       Korvane::translate("Korvane::ado", "Only one statement can be run at a time."));
 }
 
 CompiledStatement::~CompiledStatement() {

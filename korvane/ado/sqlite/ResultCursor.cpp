@@ -6,6 +6,7 @@
 #include <korvane/ado/sqlite/Values.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 
 #include <sqlite3.h>
 
@@ -158,10 +159,10 @@ void ResultCursor::update(std::span<const FieldChange> changes) {
         bindNext(sql::asItStands(sql::fromVariant(cell(ownColumns() + i), variantText), scratch));
     }
     if (!statement.step()) {
-        throw RuntimeError(
-            RuntimeError::DatabaseFailure,
-            "The row could not be found to be updated: it has been deleted, or its key has been changed, "
-            "since it was read.");
+        throw RuntimeError(RuntimeError::DatabaseFailure,
+                           Korvane::translate("Korvane::ado",
+                                              "The row could not be found to be updated: it has been "
+                                              "deleted, or its key has been changed, since it was read."));
     }
     std::vector<Variant> stored(changes.size() + mWriteback.key.size());
     for (std::size_t i = 0; i < stored.size(); ++i) {

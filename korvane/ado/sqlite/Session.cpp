@@ -6,6 +6,7 @@
 #include <korvane/ado/sqlite/ResultCursor.h>
 #include <korvane/ado/sqlite/Types.h>
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 #include <sqlite3.h>
 
@@ -48,8 +49,9 @@ Session::~Session() {
 sqlite3* Session::handle() const {
     if (!mHandle) throw RuntimeError(RuntimeError::ObjectClosed);
     if (isTakenBack()) {
-        throw RuntimeError(RuntimeError::ObjectClosed,
-                           "The connection was closed by the program that opened it.");
+        throw RuntimeError(
+            RuntimeError::ObjectClosed,
+            Korvane::translate("Korvane::ado", "The connection was closed by the program that opened it."));
     }
     return mHandle;
 }
@@ -138,8 +140,10 @@ void Session::requireReady(std::string_view statement) const {
     handle();
     mTransactions.requireNotLost();
     if (statement.find('\0') != std::string_view::npos) {
-        throw RuntimeError(RuntimeError::InvalidArgument,
-                           "The statement holds a NUL character, which no text column can keep.");
+        throw RuntimeError(
+            RuntimeError::InvalidArgument,
+            Korvane::translate("Korvane::ado",
+                               "The statement holds a NUL character, which no text column can keep."));
     }
 }
 
@@ -197,7 +201,9 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
     shape->text = text;
     shape->translation = translate(text, mSchema, addedColumns);
     shape->idle = CompiledStatement(mHandle, shape->translation.text, true);
-    if (!shape->idle) throw RuntimeError(RuntimeError::InvalidArgument, "There is no statement to run.");
+    if (!shape->idle)
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           Korvane::translate("Korvane::ado", "There is no statement to run."));
     shape->meetsColumns =
         std::ranges::any_of(shape->translation.parameters,
                             [](const sql::ParameterRule& rule) { return rule.column.has_value(); });
@@ -213,7 +219,9 @@ void Session::bindLiterals(const Lease& lease, TextLives lives) {
     if (sqlite3_bind_parameter_count(statement) != static_cast<int>(literals.size())) {
         throw RuntimeError(
             RuntimeError::InvalidArgument,
-            "The statement holds a parameter mark; values are written into the statement itself.");
+            Korvane::translate(
+                "Korvane::ado",
+                "The statement holds a parameter mark; values are written into the statement itself."));
     }
     for (std::size_t i = 0; i < literals.size(); ++i) {
         const sql::Literal& literal = literals[i];

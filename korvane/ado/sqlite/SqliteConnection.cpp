@@ -2,6 +2,7 @@
 
 #include <korvane/ado/sqlite/Error.h>
 #include <korvane/ado/sqlite/Session.h>
+#include <korvane/runtime/Translation.h>
 
 #include <sqlite3.h>
 
@@ -50,7 +51,8 @@ void requireDatabase(sqlite3* handle, std::string_view path) {
 
 std::shared_ptr<Connection> open(std::string_view path, bool readOnly) {
     if (path.empty() || path.find('\0') != std::string_view::npos) {
-        throw RuntimeError(RuntimeError::InvalidArgument, "The address names no database file.");
+        throw RuntimeError(RuntimeError::InvalidArgument,
+                           Korvane::translate("Korvane::ado", "The address names no database file."));
     }
     // A file may have any name; only the engine would take this one for an address.
     const std::string file = (path.starts_with("file:") ? "./" : "") + std::string(path);
@@ -86,7 +88,9 @@ namespace {
 Session& sessionOf(Connection& connection) {
     auto* session = dynamic_cast<Session*>(&connection);
     if (!session)
-        throw RuntimeError(RuntimeError::InvalidArgument, "The connection is not one to a SQLite database.");
+        throw RuntimeError(
+            RuntimeError::InvalidArgument,
+            Korvane::translate("Korvane::ado", "The connection is not one to a SQLite database."));
     return *session;
 }
 

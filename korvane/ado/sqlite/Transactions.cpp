@@ -1,6 +1,7 @@
 #include <korvane/ado/sqlite/Transactions.h>
 
 #include <korvane/ado/sqlite/Error.h>
+#include <korvane/runtime/Translation.h>
 
 #include <sqlite3.h>
 
@@ -36,7 +37,9 @@ std::int32_t Transactions::begin(TransactionFor use) {
 }
 
 void Transactions::commit() {
-    if (mSavepoints.empty()) throw RuntimeError(noTransaction, "There is no transaction to commit.");
+    if (mSavepoints.empty())
+        throw RuntimeError(noTransaction,
+                           Korvane::translate("Korvane::ado", "There is no transaction to commit."));
     requireNotLost();
     if (mSavepoints.back()) {
         run("Release", level());
@@ -47,7 +50,9 @@ void Transactions::commit() {
 }
 
 void Transactions::rollback() {
-    if (mSavepoints.empty()) throw RuntimeError(noTransaction, "There is no transaction to roll back.");
+    if (mSavepoints.empty())
+        throw RuntimeError(noTransaction,
+                           Korvane::translate("Korvane::ado", "There is no transaction to roll back."));
     if (!lost()) {
         if (mSavepoints.back()) {
             run("Rollback To", level());
@@ -67,7 +72,9 @@ void Transactions::requireNotLost() const {
     if (!lost()) return;
     throw RuntimeError(
         RuntimeError::DatabaseFailure,
-        "The database has rolled the transaction back after a failure; nothing of it was saved.");
+        Korvane::translate(
+            "Korvane::ado",
+            "The database has rolled the transaction back after a failure; nothing of it was saved."));
 }
 
 } // namespace Korvane::ado::sqlite

@@ -1,6 +1,7 @@
 #include <korvane/voice/microphone/Microphone.h>
 
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 #include <korvane/voice/Resampler.h>
 #include <korvane/voice/StreamSource.h>
 
@@ -24,10 +25,11 @@ namespace {
 
 QAudioDevice deviceNamed(const std::string& name) {
     const auto inputs = QMediaDevices::audioInputs();
-    if (inputs.isEmpty()) refuse("No microphone was found.");
+    if (inputs.isEmpty()) refuse(translate("Korvane::voice", "No microphone was found."));
     if (name.empty()) return QMediaDevices::defaultAudioInput();
     const auto found = std::ranges::find(inputs, QString::fromStdString(name), &QAudioDevice::description);
-    if (found == inputs.end()) refuse("The microphone \"" + name + "\" was not found.");
+    if (found == inputs.end())
+        refuse(filled(translate("Korvane::voice", "The microphone \"%1\" was not found."), {name}));
     return *found;
 }
 
@@ -40,7 +42,8 @@ QAudioFormat formatFor(const QAudioDevice& device) {
     if (device.isFormatSupported(format)) return format;
     format = device.preferredFormat();
     format.setSampleFormat(QAudioFormat::Int16);
-    if (!device.isFormatSupported(format)) refuse("The microphone gives no sound of 16 bits.");
+    if (!device.isFormatSupported(format))
+        refuse(translate("Korvane::voice", "The microphone gives no sound of 16 bits."));
     return format;
 }
 
@@ -61,13 +64,14 @@ class Microphone::Device {
         mInput = mSource->start();
         if (!mInput || mSource->error() != QAudio::NoError) {
             stop();
-            refuse("The microphone \"" + device.description().toStdString() + "\" cannot be opened.");
+            refuse(filled(translate("Korvane::voice", "The microphone \"%1\" cannot be opened."),
+                          {device.description().toStdString()}));
         }
         QObject::connect(mInput, &QIODevice::readyRead, mSource.get(), [this] { take(); });
         QObject::connect(mSource.get(), &QAudioSource::stateChanged, mSource.get(),
                          [this](QAudio::State state) {
                              if (state == QAudio::StoppedState && mSource->error() != QAudio::NoError)
-                                 stream.End("The microphone has gone.");
+                                 stream.End(translate("Korvane::voice", "The microphone has gone."));
                          });
     }
 

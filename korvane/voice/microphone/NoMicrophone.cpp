@@ -1,6 +1,7 @@
 #include <korvane/voice/microphone/Microphone.h>
 
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 namespace Korvane::voice {
 
@@ -12,8 +13,10 @@ Microphone::Microphone(std::string) {}
 Microphone::~Microphone() = default;
 
 void Microphone::Start() {
-    throw RuntimeError(RuntimeError::DeviceIo,
-                       "No microphone was found: the application was built without Qt Multimedia.");
+    throw RuntimeError(
+        RuntimeError::DeviceIo,
+        translate("Korvane::voice",
+                  "No microphone was found: the application was built without Qt Multimedia."));
 }
 
 void Microphone::Stop() noexcept {}

@@ -1,5 +1,6 @@
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
+#include <korvane/runtime/Translation.h>
 #include <korvane/voice/pocketsphinx/Audience.h>
 
 namespace Korvane::voice {
@@ -9,9 +10,8 @@ namespace {
 constexpr std::string_view digits[] = {"zero", "one", "two",   "three", "four",
                                        "five", "six", "seven", "eight", "nine"};
 
-[[noreturn]] void refuse(std::string_view words, const std::string& why) {
-    throw RuntimeError(RuntimeError::InvalidProcedureCall,
-                       "\"" + std::string(words) + "\" cannot be a voice command: " + why);
+[[noreturn]] void refuse(const std::string& why) {
+    throw RuntimeError(RuntimeError::InvalidProcedureCall, why);
 }
 
 /// The word around a character that nobody can say.
@@ -42,11 +42,14 @@ std::string commandWords(std::string_view words) {
         else if (isPunctuation(c) || c == '\'')
             part();
         else
-            refuse(words, "the word \"" + wordAround(words, i) +
-                              "\" has a letter or a sign that is not said in English.");
+            refuse(filled(translate("Korvane::voice", "\"%1\" cannot be a voice command: the word \"%2\" has "
+                                                      "a letter or a sign that is not said in English."),
+                          {words, wordAround(words, i)}));
     }
     said = trim(said);
-    if (said.empty()) refuse(words, "it has no words.");
+    if (said.empty())
+        refuse(filled(translate("Korvane::voice", "\"%1\" cannot be a voice command: it has no words."),
+                      {words}));
     return said;
 }
 

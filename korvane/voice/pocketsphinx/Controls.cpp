@@ -1,6 +1,7 @@
 #include <korvane/voice/pocketsphinx/Controls.h>
 
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 #include <utility>
 
@@ -13,8 +14,9 @@ constexpr std::int32_t usEnglish = 1033;
 void checkLanguage(std::int32_t language) {
     if (language != usEnglish)
         throw RuntimeError(RuntimeError::InvalidProcedureCall,
-                           "The speech engine speaks US English (1033), not language " +
-                               std::to_string(language) + ".");
+                           filled(translate("Korvane::voice",
+                                            "The speech engine speaks US English (1033), not language %1."),
+                                  {std::to_string(language)}));
 }
 
 void changed(const std::weak_ptr<Audience>& weak) {

@@ -1,6 +1,7 @@
 #include <korvane/voice/pocketsphinx/Decoder.h>
 
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 #include <korvane/voice/LetterToSound.h>
 #include <korvane/voice/pocketsphinx/Grammar.h>
 
@@ -19,8 +20,11 @@ namespace {
 std::filesystem::path existing(const std::filesystem::path& path) {
     std::error_code error;
     if (std::filesystem::exists(path, error)) return path;
-    throw RuntimeError(RuntimeError::FileNotFound, "Voice is not there: the speech model " + path.string() +
-                                                       " is missing (Debian's pocketsphinx-en-us).");
+    throw RuntimeError(
+        RuntimeError::FileNotFound,
+        filled(translate("Korvane::voice",
+                         "Voice is not there: the speech model %1 is missing (Debian's pocketsphinx-en-us)."),
+               {path.string()}));
 }
 
 struct FreeConfig {
@@ -79,8 +83,10 @@ Decoder::Decoder(const std::filesystem::path& model) {
         "-remove_silence", "no", "-remove_noise", "yes", "-silprob", "0.5", "-topn", "16", nullptr));
     if (config) mDecoder.reset(ps_init(config.get()));
     if (!mDecoder)
-        throw RuntimeError(RuntimeError::InvalidProcedureCall,
-                           "Voice is not there: the speech model " + model.string() + " cannot be used.");
+        throw RuntimeError(
+            RuntimeError::InvalidProcedureCall,
+            filled(translate("Korvane::voice", "Voice is not there: the speech model %1 cannot be used."),
+                   {model.string()}));
 }
 
 Decoder::~Decoder() = default;
@@ -98,7 +104,8 @@ void Decoder::want(const Wanted& wanted) {
     const bool taken = ps_set_fsg(mDecoder.get(), nameOf(wanted.awaited), fsg) == 0;
     fsg_model_free(fsg);
     if (!taken)
-        throw RuntimeError(RuntimeError::InvalidProcedureCall, "The speech engine refused the commands.");
+        throw RuntimeError(RuntimeError::InvalidProcedureCall,
+                           translate("Korvane::voice", "The speech engine refused the commands."));
     mSentences[wanted.awaited] = sentences;
 }
 

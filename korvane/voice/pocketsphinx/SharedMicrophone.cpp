@@ -1,6 +1,7 @@
 #include <korvane/voice/pocketsphinx/SharedMicrophone.h>
 
 #include <korvane/runtime/RuntimeError.h>
+#include <korvane/runtime/Translation.h>
 
 #include <utility>
 
@@ -31,13 +32,15 @@ class Switch : public MicrophoneSwitch {
 void SharedMicrophone::on(bool on) {
     if (on == this->on()) return;
     if (!on) {
-        off("The microphone is off.");
+        off(translate("Korvane::voice", "The microphone is off."));
         return;
     }
-    if (!mListener) throw RuntimeError(RuntimeError::ObjectClosed, "The speech engine has been closed.");
+    if (!mListener)
+        throw RuntimeError(RuntimeError::ObjectClosed,
+                           translate("Korvane::voice", "The speech engine has been closed."));
     mSource->Start();
     mSession = ++mSessions;
-    mStatus = "The microphone is on.";
+    mStatus = translate("Korvane::voice", "The microphone is on.");
     mListener->listen(mSession);
     Changed.raise(true);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <korvane/runtime/Translation.h>
 #include <korvane/voice/MicrophoneSwitch.h>
 #include <korvane/voice/pocketsphinx/Listener.h>
 
@@ -35,7 +36,7 @@ class SharedMicrophone {
     Listener* mListener = nullptr;
     std::uint64_t mSession = 0; ///< 0 while it is off
     std::uint64_t mSessions = 0;
-    std::string mStatus = "The microphone is off.";
+    std::string mStatus = translate("Korvane::voice", "The microphone is off.");
 };
 
 /// A switch that turns it on and off.
