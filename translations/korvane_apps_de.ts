@@ -67,7 +67,239 @@
     </message>
 </context>
 <context>
-    <name>Clinic</name>
+    <name>Clinic::Actions</name>
+    <message>
+        <source>N&amp;ip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;atients</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a new Nip for the chosen patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the Nip of the chosen encounter (Enter in the list)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the Nip and close it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the Nip without saving</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find Patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search by part of a name or an ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read patients and encounters again; reconnects to a database that was lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Patients and &amp;Encounters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or hide the lists beside an open Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Pane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to the next part of the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous Pane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to the part of the window before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Larger Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make all text larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Smaller Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make all text smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Usual Text Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text in its usual size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which keys do what</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What this program is</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Clinic::ConnectionBar</name>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connects to the database again; nothing that was entered is lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to the database is lost. What you entered is still here: reconnect, then save it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is still no connection to the database. What you entered is still here.
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Clinic::Database</name>
+    <message>
+        <source>The directory %1 cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Clinic::EncounterModel</name>
+    <message>
+        <source>(no description)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Provider</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, open</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Clinic::EncounterPane</name>
+    <message>
+        <source>Enter opens the encounter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Encounters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encounters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a patient to see the encounters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encounters of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No encounters yet. Ctrl+N starts the first Nip.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encounters could not be read. F5 tries again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Encounters of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Clinic::Help</name>
     <message>
         <source>Down</source>
         <translation type="unfinished"></translation>
@@ -126,103 +358,6 @@
     </message>
 </context>
 <context>
-    <name>Clinic::Actions</name>
-    <message>
-        <source>N&amp;ip</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>P&amp;atients</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Actions</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Clinic::ConnectionBar</name>
-    <message>
-        <source>&amp;Reconnect</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Connects to the database again; nothing that was entered is lost</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The connection to the database is lost. What you entered is still here: reconnect, then save it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is still no connection to the database. What you entered is still here.
-%1</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Clinic::EncounterModel</name>
-    <message>
-        <source>(no description)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>, open</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Provider</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Clinic::EncounterPane</name>
-    <message>
-        <source>Enter opens the encounter.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Encounters</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Encounters</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choose a patient to see the encounters.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Encounters of %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No encounters yet. Ctrl+N starts the first Nip.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The encounters could not be read. F5 tries again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>Clinic::MainWindow</name>
     <message>
         <source>The new Nip is saved.</source>
@@ -240,13 +375,17 @@
         <source>The database is connected again.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 - Korvane Clinic[*]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvane Clinic[*]</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Clinic::NipDesk</name>
-    <message>
-        <source>born %1, age %2</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>Nip</source>
         <translation type="unfinished"></translation>
@@ -269,6 +408,14 @@
     </message>
     <message>
         <source>No Nip is open. Open an encounter of the list with Enter or a double click, or start a new Nip with Ctrl+N.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID %1  ·  born %2, age %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -414,6 +561,14 @@
         <source>Heard: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Date Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DateForm::VoiceBox</name>
@@ -427,29 +582,6 @@
     </message>
     <message>
         <source>&amp;Microphone</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Gallery</name>
-    <message>
-        <source>A data-entry form that the clinic shapes itself, here over a sample clinic in memory.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>One date in three boxes: month, day and year.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A frame around one to five buttons that tell the host which one was clicked.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Four buttons to move to the first, the previous, the next and the last record.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The definition of one field of a database: its names, how it is entered, its list of values.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -504,6 +636,29 @@
     <name>Gallery::ControlPage</name>
     <message>
         <source>Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::Exhibits</name>
+    <message>
+        <source>A data-entry form that the clinic shapes itself, here over a sample clinic in memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One date in three boxes: month, day and year.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A frame around one to five buttons that tell the host which one was clicked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Four buttons to move to the first, the previous, the next and the last record.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The definition of one field of a database: its names, how it is entered, its list of values.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -583,6 +738,10 @@
     <name>main</name>
     <message>
         <source>The database %1 cannot be opened: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvane Clinic</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

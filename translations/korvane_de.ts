@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>Designer::ControlKind</name>
+    <message>
+        <source>Nip panel: a data-entry form that the clinic shapes itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows, enters and customizes the Nip of one patient. The program gives it its database with Initialize, and a patient with CreateNip or LoadNipInfo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date control: one date in three boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes a date as month, day and year, by keys or by voice. What cannot be right is told by Exception, a change by OnChange.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Function buttons: one to five in a frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells with btnClick which of its buttons was clicked, counted from 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record-move buttons: first, previous, next, last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells with btnClick where to move: 0 first, 1 previous, 2 next, 3 last.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field administration: the definition of one field of a database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edits the names, the kind of entry and the values of one field. It tells with RecordMove and UpdateClick what the user wants; the program does it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Designer::NewControl</name>
     <message>
         <source>%1: no form keeps it.</source>
@@ -27,6 +70,252 @@
     </message>
 </context>
 <context>
+    <name>Korvane::ButtonRow</name>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customize</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the Nip and close it (Ctrl+S)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the Nip without saving it (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change the groups and fields of the Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::ChoiceEditDelegate</name>
+    <message>
+        <source>Choice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  (default)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::ChoiceEditor</name>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a choice behind the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the highlighted choice (Delete)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the highlighted choice up (Alt+Up)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the highlighted choice down (Alt+Down)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: choice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The checked choice is the default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag a choice to put it elsewhere, with the Ctrl key to copy it. F2 or a double click edits it. Space or a click on its box makes it the default, or no longer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choices (the checked one is the default):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choices, not offered with this display type (the checked one is the default):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is the new item?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::ChoiceOrderModel</name>
+    <message>
+        <source>A choice cannot be empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list already has the choice &quot;%1&quot;. Two choices cannot be the same; capital and small letters count as the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::CustomizeBar</name>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Back to the Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New Nip Group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a group to the Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete Nip Group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CustomizeNipGroup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go on with the Nip (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the group %1 and all that was entered in it, in every encounter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to the fields of the group %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::CustomizePane</name>
+    <message>
+        <source>Customizing the Structure of the NIP tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a field to this group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel the field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave the field as it is stored (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store the field (Ctrl+S)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 with its 1 field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 with its %2 fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no group yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New field in group %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields of group %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Editing field [%1] of group %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Field destroys [%1] with all that any encounter has in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Nip Group destroys %1 and all that any encounter has in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a field in the list or by a click on it in the form, or press New Field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Korvane::DatePartBox</name>
     <message>
         <source>Cu&amp;t</source>
@@ -46,9 +335,256 @@
     </message>
 </context>
 <context>
+    <name>Korvane::DateVoice</name>
+    <message>
+        <source>%1 Dates can be entered by hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::DisplayType</name>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List-Multiple</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List-Editcontent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combobox</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combobox-Restricted</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::EditContentEntry</name>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please enter the content for %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::EncounterPane</name>
+    <message>
+        <source>Choose a provider</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>De&amp;scription:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Da&amp;te:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Provider:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::FieldDraft</name>
+    <message>
+        <source>The field name is too long.  It can have %1 characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The field name is too long.  It can have %1 letters, fewer when there are accents or other alphabets in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The field caption is too long.  It can have %1 characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The width must be a whole number from 1 to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The row position must be a whole number from 1, or empty to leave the field where it stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A field can have no more than %1 choices.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A choice must not be empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The choice [%1] must not have a &quot;|&quot; in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The choice [%1] is too long.  It can have %2 characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two of the choices are the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The choices do not fit when all of them are chosen.  Together they need a width of %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The longest choice does not fit.  It needs a width of %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::FieldForm</name>
+    <message>
+        <source>Field Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field Caption:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Initial Value Rule:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Row Position:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cascade Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not Cascade</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cascading means that values from one Exam will be carried over to the next exam</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed; it was %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::FieldGrid</name>
+    <message>
+        <source>Fields of the group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::FieldMark</name>
+    <message>
+        <source>This field is being customized</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::ListEntryText</name>
+    <message>
+        <source>An entry of a list cannot contain the character &quot;|&quot;, which separates the entries: it would come back as two entries.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List Entry Validation</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Korvane::MoveRow</name>
     <message>
         <source>Record number</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::NipTabs</name>
+    <message>
+        <source>The following problems occurred when loading the NIP controls:
+
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::PanelForm</name>
+    <message>
+        <source>Close the Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groups of the Nip</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -141,6 +677,13 @@
     <message>
         <source>Unknown error</source>
         <translation>Unbekannter Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::StructurePlan</name>
+    <message>
+        <source>%1 has unrecognized display type:%2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -619,6 +1162,22 @@
         <source>YYYY</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Invalid date format. Please re-enter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year requires four digits. Please re-enter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>value &quot;%1&quot; not found. You can say either a numeric or the name of a month.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Error in %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Korvane::data</name>
@@ -667,13 +1226,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1<byte value="xd"/>
-<byte value="xd"/>
-It is recommended that you restart the %2</source>
+        <source>The tables could not be installed: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The tables could not be installed: %1</source>
+        <source>It is recommended that you restart the %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -725,6 +1282,17 @@ It is recommended that you restart the %2</source>
     </message>
     <message>
         <source>Just a Reminder</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::funcPanel</name>
+    <message>
+        <source>buttonCount must be at least 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>buttonCount must not be greater than 5.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -845,6 +1413,235 @@ It is recommended that you restart the %2</source>
     </message>
 </context>
 <context>
+    <name>Korvane::ucNIPPanel</name>
+    <message>
+        <source>Are you sure you want to cancel creating this field?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel field creation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes have been made to the field [%1] in the group %2. 
+Are you certain you want to discard those changes?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard Customization Confirmation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field Name Validation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The field name already exists in this Nip group.  Field names cannot be duplicated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The field name (%1) is not a valid field name.  
+
+Field names cannot contain spaces, quotation marks, or special characters and must begin with a letter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field Validation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error occured while creating this field.  Please try again.  (ucNipPanel.SaveFieldCustomization-mnip.CreateField Failed. mcG=%1, mcF=%2%3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System error: Unable to save this field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you certain you wish to delete this field?  All data in the field will be permenantly lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Confirmation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System error: Unable to delete this field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is the name of the group you would like to create</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New group name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A group needs a name.  No group was created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the group is too long.  It can have %1 characters.  No group was created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System error: Unable to create this Nip group%1
+
+The group [%2] was not created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deleting a Nip Group will also delete all fields in the group.
+This is a destructive action that cannot be reversed.  Do you wish to continue?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Group Confirmation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System error: Unable to remove this nip group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unable to save this encounter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The date of this encounter is not a valid date. Please enter it as month/day/year.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please choose the provider of this encounter. It cannot be saved without one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This clinic has no providers yet. An encounter cannot be saved without one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Nip could not be saved, because another desk took its number at the same moment. Everything you entered is still here; please try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Nip could not be saved, because its encounter is no longer there. It may have been deleted at another desk. Everything you entered is still here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection was lost at the last moment, so it is not known whether this Nip was saved. Everything you entered is still here; please save it again. It is not stored twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Nip could not be saved. Everything you entered is still here; please try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Nip could not be saved, because another desk has customized the form, and the new form could not be read. Everything you entered is still here; please try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Nip is not saved yet, because another desk has customized the form. It is shown as it is now, with everything you entered; please look through it and save it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The form is shown as it is now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No patient is chosen. A Nip cannot be created without one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to create a new nip and discard the one you were creating?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to create a new nip and discard the changes you are making?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to load a nip and discard the one you were creating?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to load a nip and discard the changes you are making?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another desk has customized the form. It is shown as it is now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Nip could not be found. It may have been deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Nip belongs to another patient and cannot be shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Nip could not be read from the database. Please try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the creation of this Nip?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the changes made to this Nip?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Nip is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved Nip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Nip with changes that are not saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved Nip with changes that are not saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These entries have no field any more (they are kept in the error log):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another desk has customized this form since it was shown here.  It is shown as it is now; what you entered is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The form could not be read from the database again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The group of the new field is no longer there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The field [%1] is no longer there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you wrote is kept as a new field of the group %1: save it to create the field there, or cancel it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no group left for what you wrote; it is kept in the error log.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Korvane::voice</name>
     <message>
         <source>The sound file %1 is no WAV file with 16-bit samples.</source>
@@ -928,49 +1725,6 @@ It is recommended that you restart the %2</source>
     </message>
     <message>
         <source>Voice is not there: this build has no speech engine.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>std</name>
-    <message>
-        <source>Nip panel: a data-entry form that the clinic shapes itself</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shows, enters and customizes the Nip of one patient. The program gives it its database with Initialize, and a patient with CreateNip or LoadNipInfo.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Date control: one date in three boxes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Takes a date as month, day and year, by keys or by voice. What cannot be right is told by Exception, a change by OnChange.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Function buttons: one to five in a frame</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tells with btnClick which of its buttons was clicked, counted from 0.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Record-move buttons: first, previous, next, last</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tells with btnClick where to move: 0 first, 1 previous, 2 next, 3 last.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Field administration: the definition of one field of a database</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Edits the names, the kind of entry and the values of one field. It tells with RecordMove and UpdateClick what the user wants; the program does it.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

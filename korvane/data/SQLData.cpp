@@ -279,8 +279,9 @@ void SQLData::ReportError(RuntimeError error) {
     const std::string line = Clock::now().text() + "-SQLData Class->" + failure + "\n\t" + mStatement + "\n";
     try {
         Interaction::current().MsgBox(
-            filled(translate("Korvane::data", "%1\r\n\r\nIt is recommended that you restart the %2"),
-                   {failure, App::FileDescription()}),
+            failure + "\r\n\r\n" +
+                filled(translate("Korvane::data", "It is recommended that you restart the %1"),
+                       {App::FileDescription()}),
             MsgBoxStyle::Critical, "");
     } catch (...) {
         // That the box failed is no failure of the query.
