@@ -28,7 +28,14 @@ TEST(ButtonPanel, TabEntersAtTheButtonLastUsedAndLeaves) {
     EXPECT_EQ(form.focus(), 2);
     form.panel->Focus(3);
     EXPECT_EQ(form.press(Qt::Key_Tab), 9);
+    form.panel->Focus(2);
+    for (const bool on : {false, true})
+        form.panel->Enabled(on); // while the form is at work
+    form.panel->setFocus();
+    EXPECT_EQ(form.focus(), 2);
+    form.panel->Focus(3);
     QWidget::setTabOrder(form.after, form.panel);
+    form.after->setFocus();
     EXPECT_EQ(form.press(Qt::Key_Tab), 3) << "in the order that the host gave";
     EXPECT_THROW(form.panel->Focus(4), RuntimeError);
 }

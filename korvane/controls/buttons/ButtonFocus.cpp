@@ -3,6 +3,7 @@
 #include <korvane/controls/buttons/PanelButton.h>
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <iterator>
@@ -60,22 +61,26 @@ void ButtonFocus::focus(int index) const {
 
 void ButtonFocus::entered(const PanelButton& button) {
     setCurrent(indexOf(button));
+    if (!mPassingOn) mLastUsed = indexOf(button);
 }
 
 void ButtonFocus::usableChanged() {
-    const int usable = nearest(static_cast<int>(mCurrent));
+    if (current().hasFocus() && isUsable(current())) return;
+    const int usable = nearest(mLastUsed);
     if (usable != none) setCurrent(usable);
 }
 
 bool ButtonFocus::passOn(const PanelButton& button) {
     const int usable = nearest(indexOf(button));
+    const QScopedValueRollback passing(mPassingOn, true);
     focus(usable);
     return usable != none;
 }
 
 bool ButtonFocus::take(const PanelButton& button, const QKeyEvent& key) {
+    const int index = mLastUsed = indexOf(button);
     if (!isPlain(key)) return false;
-    const int index = indexOf(button), last = static_cast<int>(std::ssize(mButtons)) - 1;
+    const int last = static_cast<int>(std::ssize(mButtons)) - 1;
     const int right = mPanel.layoutDirection() == Qt::RightToLeft ? -1 : 1;
     switch (key.key()) {
     case Qt::Key_Up:

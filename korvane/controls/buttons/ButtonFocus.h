@@ -11,7 +11,8 @@ class PanelButton;
 
 /// The focus in a row (or column) of buttons. Tab enters the row at the button that was last in use and
 /// leaves it; the arrow keys, Home and End move within it and stop at its ends. A button that is disabled or
-/// hidden while it has the focus passes it to the nearest one of the row that can be used.
+/// hidden while it has the focus passes it to the nearest one of the row that can be used. While the one last
+/// in use cannot be used, the nearest one stands in for it.
 class ButtonFocus {
   public:
     /// `panel` is what the host sees: giving it the focus gives it to the row.
@@ -28,7 +29,7 @@ class ButtonFocus {
     void usableChanged();
     /// True when the focus has gone to another button of the row.
     bool passOn(const PanelButton& button);
-    /// Moves by a key; false when it is none of the row's.
+    /// A key was pressed on a button. Moves by it; false when it is none of the row's.
     bool take(const PanelButton& button, const QKeyEvent& key);
 
   private:
@@ -41,6 +42,8 @@ class ButtonFocus {
     QWidget& mPanel;
     std::vector<PanelButton*> mButtons;
     std::size_t mCurrent = 0;
+    int mLastUsed = 0; ///< by the user, or for the host
+    bool mPassingOn = false;
 };
 
 } // namespace Korvane

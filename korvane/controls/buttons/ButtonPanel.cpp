@@ -21,6 +21,8 @@ QString nameOf(int index) {
 ButtonPanel::ButtonPanel(int count, const QString& arrayName, QWidget* parent)
     : UserControl(parent), frame1(new PanelFrame(this)), mRow(*this) {
     frame1->setObjectName(QStringLiteral("frame1"));
+    // Without a policy of its own it would have no place in a tab order. Later on it would be its proxy's.
+    setFocusPolicy(Qt::TabFocus);
     for (int i = 0; i < count; ++i) {
         auto* made = new PanelButton(mRow, frame1);
         made->setObjectName(QStringLiteral("%1(%2)").arg(arrayName).arg(i));
@@ -29,8 +31,6 @@ ButtonPanel::ButtonPanel(int count, const QString& arrayName, QWidget* parent)
             if (!designMode()) emit btnClick(static_cast<qint16>(i));
         });
     }
-    // Without a policy of its own it would have no place in a tab order. Its frame takes no clicks.
-    setFocusPolicy(Qt::TabFocus);
 }
 
 /// The buttons still speak to the row while they are destroyed.
