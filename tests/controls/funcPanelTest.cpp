@@ -4,6 +4,7 @@
 #include <korvane/controls/buttons/funcPanel.h>
 
 #include <QHelpEvent>
+#include <QTextDocumentFragment>
 #include <QToolTip>
 
 namespace Korvane {
@@ -113,12 +114,20 @@ TEST(funcPanel, TakesItsFontsByCodeAndGrowsWithALargeForm) {
 }
 
 TEST(funcPanel, ShortensACaptionThatHasNoRoomAndTellsAllOfIt) {
-    funcPanel panel;
-    panel.btnText1("Salt && &Pepper" + QString(5000, 'W'));
-    EXPECT_LT(panel.minimumSizeHint().width(), 2 * Twips(panel).px(widestCaption));
-    QHelpEvent asked(QEvent::ToolTip, {}, {});
-    QCoreApplication::sendEvent(&ButtonForm<funcPanel>::buttonOf(panel, 0), &asked);
-    EXPECT_EQ(QToolTip::text(), "Salt & Pepper" + QString(5000, 'W'));
+    SizedPanel<funcPanel> made(3010, 3650);
+    const auto tipOf = [](QWidget& part) {
+        QToolTip::hideText();
+        QHelpEvent asked(QEvent::ToolTip, {1, 1}, part.mapToGlobal(QPoint(1, 1)));
+        QCoreApplication::sendEvent(&part, &asked);
+        return asked.isAccepted() ? QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText() : "none";
+    };
+    made.panel.FrameCaption("&Orders" + QString(5000, 'W'));
+    made.panel.btnText1("Salt && &Pepper <b>" + QString(5000, 'W'));
+    EXPECT_LT(made.panel.minimumSizeHint().width(), 2 * made.twips().px(widestCaption));
+    EXPECT_EQ(tipOf(made.button(0)), "Salt & Pepper <b>" + QString(5000, 'W'));
+    EXPECT_EQ(tipOf(made.frame()), "Orders" + QString(5000, 'W'));
+    EXPECT_EQ(tipOf(made.button(1)), "none") << "but what the form has for all of the panel";
+    QToolTip::hideText();
 }
 
 TEST(funcPanel, WritesItsCaptionSoThatItCanBeReadOnTheBackColour) {

@@ -1,25 +1,15 @@
 #include <korvane/controls/buttons/CommandButton.h>
 
+#include <korvane/controls/buttons/WholeCaption.h>
+
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QShortcutEvent>
 #include <QStyleOptionButton>
-#include <QToolTip>
 
 namespace Korvane {
-
-namespace {
-
-/// As it is shown: without the mark of its accelerator, and one ampersand for two.
-QString withoutMark(QString caption) {
-    for (qsizetype at = 0; (at = caption.indexOf(u'&', at)) >= 0; ++at)
-        caption.remove(at, 1);
-    return caption;
-}
-
-} // namespace
 
 CommandButton::CommandButton(QWidget* parent) : QPushButton(parent) {
     setAutoDefault(false);
@@ -30,8 +20,8 @@ bool CommandButton::event(QEvent* event) {
     case QEvent::Shortcut:
         return takeAccelerator(static_cast<QShortcutEvent&>(*event)) || QPushButton::event(event);
     case QEvent::ToolTip:
-        if (!toolTip().isEmpty()) break;
-        showWholeCaption(static_cast<QHelpEvent*>(event)->globalPos());
+        if (!toolTip().isEmpty() || !isShortened()) break;
+        showWholeCaption(static_cast<QHelpEvent&>(*event), text(), *this);
         return true;
     default:
         break;
@@ -56,10 +46,10 @@ void CommandButton::keyPressEvent(QKeyEvent* event) {
     if (!enter || !event->isAutoRepeat()) QPushButton::keyPressEvent(event);
 }
 
-void CommandButton::showWholeCaption(const QPoint& at) {
+bool CommandButton::isShortened() const {
     QStyleOptionButton option;
     initStyleOption(&option);
-    if (option.text != text()) QToolTip::showText(at, withoutMark(text()), this);
+    return option.text != text();
 }
 
 /// A dialog that has no default button of its own takes the first one that may become it by itself: this one

@@ -32,7 +32,7 @@ class CommandButton : public QPushButton {
 
   private:
     bool takeAccelerator(const QShortcutEvent& accelerator);
-    void showWholeCaption(const QPoint& at);
+    bool isShortened() const;
 };
 
 } // namespace Korvane

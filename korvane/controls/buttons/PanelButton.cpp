@@ -112,6 +112,7 @@ void PanelButton::paintOutline(QPainter& painter, const QStyleOptionButton& opti
     painter.setPen(line);
     painter.setBrush(down ? face.darker(125) : over ? face.lighter(108) : face);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    if (standsOut) painter.drawRect(rect().adjusted(1, 1, -2, -2));
     if (!(option.state & QStyle::State_HasFocus)) return;
     QStyleOptionFocusRect focus;
     focus.QStyleOption::operator=(option);

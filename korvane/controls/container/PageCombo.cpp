@@ -1,5 +1,7 @@
 #include <korvane/controls/container/PageCombo.h>
 
+#include <korvane/controls/container/Text.h>
+
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QHelpEvent>
@@ -40,8 +42,8 @@ void PageCombo::takeAnyText() {
 
 bool PageCombo::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), isCut() ? currentText() : QString(),
-                       this);
+    if (!isCut()) return QComboBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipOf(currentText()), this);
     return true;
 }
 

@@ -1,6 +1,12 @@
 #include <korvane/controls/container/Text.h>
 
+#include <QTextDocument>
+
 namespace Korvane {
+
+QString toolTipOf(const QString& text) {
+    return text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
 
 QDateTime qt(Date date) {
     const Date::Parts p = date.parts();

@@ -24,6 +24,9 @@ inline QString withoutShortcut(QString text) {
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+/// For a tool tip, which would take what looks like HTML for it, and goes on beyond the screen on one line.
+QString toolTipOf(const QString& text);
+
 /// To the second, local time as it stands (no time zone arithmetic). A time in the hour that the local zone
 /// skips in spring does not exist as a `QDateTime`: it becomes the one an hour later.
 QDateTime qt(Date date);
