@@ -54,6 +54,42 @@ TEST(dbxadmin, EachChangeOfTheUsersIsNotedAndNoneOfTheForms) {
     EXPECT_EQ(desk.admin->FieldRequired(), dbxadmin::Required);
 }
 
+TEST(dbxadmin, AFormMayAnswerEachChangeWithTheSameOrWithWhatItMakesOfIt) {
+    AdminDesk desk;
+    bool upper = false;
+    QObject::connect(desk.admin, &dbxadmin::PropertyChanged, desk.admin, [&](const QString& name) {
+        const QSignalBlocker quiet(desk.admin);
+        for (const char* each : {"fldName", "ListBoxText", "ListData"}) {
+            const QString text = desk.admin->property(each).toString();
+            if (name == each) desk.admin->setProperty(each, upper ? text.toUpper() : text);
+        }
+    });
+    for (const char* name : {"txtFldName", "txtAddtoList"}) {
+        upper = false;
+        auto& box = desk.part<QLineEdit>(name);
+        box.setFocus();
+        desk.type("bd");
+        upper = true;
+        desk.press(Qt::Key_Left);
+        desk.type("co");
+        EXPECT_EQ(box.text(), "BCOD");
+        EXPECT_EQ(box.cursorPosition(), 3);
+        EXPECT_TRUE(box.hasFocus());
+    }
+    desk.click(desk.button("cmdUpdate"));
+    EXPECT_TRUE(desk.admin->DataChanged()) << "what is in capitals now is not in the list";
+    upper = false;
+    desk.clickItem(1);
+    desk.press(Qt::Key_Delete);
+    EXPECT_EQ(desk.list().currentRow(), 1) << "the next one, not the first";
+    desk.click(desk.button());
+    desk.click(desk.button());
+    EXPECT_EQ(desk.items(), "[a]");
+    desk.admin->setFocus();
+    desk.admin->ListData("a");
+    EXPECT_TRUE(desk.list().item(0)->isSelected()) << "of another field";
+}
+
 TEST(dbxadmin, KeepsACodeThatItDoesNotKnowUntilAnotherIsChosen) {
     AdminDesk desk;
     auto& types = desk.part<QComboBox>("cboInputDisplay");
@@ -64,6 +100,7 @@ TEST(dbxadmin, KeepsACodeThatItDoesNotKnowUntilAnotherIsChosen) {
         EXPECT_EQ(desk.admin->FieldRequired(), code);
         EXPECT_EQ(types.currentIndex(), -1);
         EXPECT_EQ(types.placeholderText(), code == -1 ? QString(" ") : QString::number(code));
+        EXPECT_EQ(types.accessibleDescription(), types.placeholderText().trimmed());
     }
     for (const char* name : {"displayType", "FieldRequired"})
         desk.admin->setProperty(name, 65536 + 1);
@@ -71,6 +108,7 @@ TEST(dbxadmin, KeepsACodeThatItDoesNotKnowUntilAnotherIsChosen) {
     types.setFocus();
     desk.press(Qt::Key_End);
     EXPECT_EQ(desk.admin->displayType(), dbxadmin::Email);
+    EXPECT_EQ(types.accessibleDescription(), "");
 }
 
 TEST(dbxadmin, TellsOfMovesAndUpdatesAndWhatIsChangedSince) {
@@ -114,6 +152,13 @@ TEST(dbxadmin, WithoutUpdatesOneCanOnlyMove) {
     desk.entry().setFocus();
     desk.admin->displayType(1);
     EXPECT_EQ(desk.focus(), "cmdMove(0)") << "past the list";
+    desk.admin->UpdateEnabled(false);
+    desk.ok->setFocus();
+    desk.admin->setFocus();
+    EXPECT_EQ(desk.focus(), "cmdMove(0)");
+    desk.admin->UpdateEnabled(true);
+    desk.click(desk.part("txtFldName"));
+    EXPECT_EQ(desk.focus(), "txtFldName") << "a click leads there still";
     QObject::connect(desk.admin, &dbxadmin::UpdateClick, [&] { desk.admin->UpdateEnabled(false); });
     desk.button("cmdUpdate").setFocus();
     desk.press(Qt::Key_Return);

@@ -14,6 +14,7 @@ constexpr int least = 800;
 
 CodeBox::CodeBox(const QStringList& texts, QWidget* parent) : PageCombo(parent) {
     addItems(texts);
+    connect(this, &QComboBox::currentIndexChanged, this, [this] { setAccessibleDescription({}); });
 }
 
 qint16 CodeBox::code() const {
@@ -26,7 +27,9 @@ void CodeBox::setCode(qint16 code) {
     const bool hasText = code >= 0 && code < count();
     setCurrentIndex(hasText ? code : -1);
     // Without a placeholder, Qt would choose the first one in the place of none.
-    setPlaceholderText(hasText || code == -1 ? QStringLiteral(" ") : QString::number(code));
+    const QString number = hasText || code == -1 ? QString() : QString::number(code);
+    setPlaceholderText(number.isEmpty() ? QStringLiteral(" ") : number);
+    setAccessibleDescription(number);
 }
 
 QSize CodeBox::minimumSizeHint() const {

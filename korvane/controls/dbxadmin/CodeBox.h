@@ -5,7 +5,7 @@
 namespace Korvane {
 
 /// A choice among texts, the code of each being its place in the list. A code that has no text is kept and
-/// its number shown, until the user chooses another one; -1 shows nothing.
+/// its number shown and read out, until the user chooses another one; -1 shows nothing.
 class CodeBox : public PageCombo {
     Q_OBJECT
 

@@ -3,8 +3,10 @@
 #include <korvane/controls/buttons/CommandButton.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/container/UserControl.h>
+#include <korvane/controls/dbxadmin/GivenText.h>
 #include <korvane/controls/dbxadmin/ListText.h>
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -12,12 +14,16 @@
 
 namespace Korvane {
 
+/// A form that gives the list back as it is told of a change does not move the user to another value, which a
+/// second click or key would remove.
 void ValueList::setData(const QString& text) {
     mData = text;
     if (text.isEmpty()) return;
+    const auto items = listItems(utf8(text));
+    if (isAncestorOf(QApplication::focusWidget()) && items == shownItems()) return;
     const QSignalBlocker quiet(lstAddtoList);
     lstAddtoList->clear();
-    for (const std::string& item : listItems(utf8(text)))
+    for (const std::string& item : items)
         lstAddtoList->addItem(qt(item));
     lstAddtoList->setCurrentRow(0);
     setRemoves(mRemoves);
@@ -42,10 +48,10 @@ QString ValueList::entryText() const {
     return txtAddtoList->text();
 }
 
+/// What the form makes of a text while it is being typed is the user's still.
 void ValueList::setEntryText(const QString& text) {
-    const QSignalBlocker quiet(txtAddtoList);
-    txtAddtoList->setText(text);
-    mTyped = false;
+    if (!showGivenText(*txtAddtoList, text)) return;
+    mTyped = mTyped && txtAddtoList->hasFocus() && !text.isEmpty();
     setRemoves(mRemoves);
 }
 
@@ -114,11 +120,15 @@ void ValueList::remove(bool selectsNext) {
     changed();
 }
 
-void ValueList::changed() {
+std::vector<std::string> ValueList::shownItems() const {
     std::vector<std::string> items;
     for (int i = 0; i < lstAddtoList->count(); ++i)
         items.push_back(utf8(lstAddtoList->item(i)->text()));
-    mData = qt(listText(items));
+    return items;
+}
+
+void ValueList::changed() {
+    mData = qt(listText(shownItems()));
     emit listChanged();
 }
 

@@ -2,6 +2,9 @@
 
 #include <QWidget>
 
+#include <string>
+#include <vector>
+
 class QBoxLayout;
 class QKeyEvent;
 class QLineEdit;
@@ -28,7 +31,8 @@ class ValueList : public QWidget {
     /// The list as one text: what was set, as it was set, until the user changes the list; then each value
     /// followed by "/".
     QString data() const { return mData; }
-    /// Raises no signal, and leaves the list as it is when the text is empty.
+    /// Raises no signal, and leaves the list as it is when the text is empty. Selects the first value, unless
+    /// the user is here and these are the values that are shown.
     void setData(const QString& text);
     /// No values, and an empty text.
     void clear();
@@ -70,6 +74,7 @@ class ValueList : public QWidget {
     void add();
     void remove(bool selectsNext);
     void changed();
+    std::vector<std::string> shownItems() const;
     int selectedRow() const;
     bool hasWork() const;
     void showButton();

@@ -20,13 +20,12 @@ dbxadmin::dbxadmin(QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins({});
     all->addWidget(frame1);
+    // Without a policy of its own it would have no place in a tab order. Later on it would be its proxy's.
+    setFocusPolicy(Qt::TabFocus);
     ReadProperties(PropertyBag());
     mForm->inputDisplay().setCode(Unspecified);
     enableList();
     hearUser();
-    // Without a policy of its own it would have no place in a tab order.
-    setFocusPolicy(Qt::TabFocus);
-    setFocusProxy(&mForm->name());
     resize(sizeHint());
 }
 
@@ -73,6 +72,7 @@ void dbxadmin::enableEntries() {
     for (QWidget* part : std::initializer_list<QWidget*>{&mForm->required(), &mForm->inputDisplay(),
                                                          &mForm->fieldCaption(), &mForm->name()})
         part->setEnabled(mUpdateEnabled);
+    setFocusProxy(mUpdateEnabled ? static_cast<QWidget*>(&mForm->name()) : &mForm->moves());
 }
 
 void dbxadmin::enableList() {

@@ -104,8 +104,9 @@ class dbxadmin : public UserControl {
     /// The values of the list as one text. To set: joined by "/", with or without one after the last. To get:
     /// what was set; once the user has changed the list, each value followed by "/".
     ///
-    /// Setting selects the first value. An empty text is kept, but leaves the list that is shown as it is:
-    /// a form that goes on to a field without values calls `ClearList`.
+    /// Setting selects the first value, unless the user is in the list and sees these values already. An
+    /// empty text is kept, but leaves the list that is shown as it is: a form that goes on to a field without
+    /// values calls `ClearList`.
     QString ListData() const;
     void ListData(const QString& text);
     /// No values, neither shown nor in `ListData`.

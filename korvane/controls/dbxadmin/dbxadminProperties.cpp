@@ -2,11 +2,12 @@
 
 #include <korvane/controls/dbxadmin/AdminForm.h>
 #include <korvane/controls/dbxadmin/CodeBox.h>
+#include <korvane/controls/dbxadmin/GivenText.h>
 #include <korvane/controls/dbxadmin/MoveRow.h>
 #include <korvane/controls/dbxadmin/ValueList.h>
 
 #include <QGroupBox>
-#include <QSignalBlocker>
+#include <QLineEdit>
 
 namespace Korvane {
 
@@ -19,13 +20,6 @@ const QStringList& captions() {
 
 QString captionName(int index) {
     return QStringLiteral("fldCaption%1").arg(index + 1);
-}
-
-/// From its beginning, where it is longer than the box.
-void showText(QLineEdit& box, const QString& text) {
-    const QSignalBlocker quiet(box);
-    box.setText(text);
-    box.setCursorPosition(0);
 }
 
 } // namespace
@@ -83,7 +77,7 @@ QString dbxadmin::fldName() const {
 }
 
 void dbxadmin::fldName(const QString& text) {
-    showText(mForm->name(), text);
+    showGivenText(mForm->name(), text);
     emit PropertyChanged(QStringLiteral("fldName"));
 }
 
@@ -92,7 +86,7 @@ QString dbxadmin::fieldCaption() const {
 }
 
 void dbxadmin::fieldCaption(const QString& text) {
-    showText(mForm->fieldCaption(), text);
+    showGivenText(mForm->fieldCaption(), text);
     emit PropertyChanged(QStringLiteral("FieldCaption"));
 }
 
@@ -161,8 +155,8 @@ void dbxadmin::ReadProperties(const PropertyBag& bag) {
     mForm->inputDisplay().setCode(readCode(bag, "DisplayType", TextBox));
     mForm->required().setCode(readCode(bag, "FieldRequired", NotRequired));
     frame1->setTitle(bag.ReadProperty("FrameName", "").toString());
-    showText(mForm->name(), bag.ReadProperty("fldName", "").toString());
-    showText(mForm->fieldCaption(), bag.ReadProperty("FieldCaption", "").toString());
+    showGivenText(mForm->name(), bag.ReadProperty("fldName", "").toString());
+    showGivenText(mForm->fieldCaption(), bag.ReadProperty("FieldCaption", "").toString());
     mForm->values().clear();
     mForm->values().setData(bag.ReadProperty("ListData", "").toString());
     mForm->values().setRemoves(readCode(bag, "ListMode", AddToList) != AddToList);
