@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <array>
+#include <functional>
 
 namespace Korvane::ado::Testing {
 
@@ -23,17 +23,13 @@ TEST_P(Connections, CloseTheirRecordsetsWithThem) {
     EXPECT_EQ(mDb->State(), 0);
     EXPECT_EQ(live->State(), 0);
     EXPECT_EQ(counted->State(), 0);
-    const std::array<std::function<void()>, 9> uses{[&] { mDb->Close(); },
-                                                    [&] { mDb->Execute("Select 1"); },
-                                                    [&] { mDb->BeginTrans(TransactionFor::Writing); },
-                                                    [&] { mDb->CommitTrans(); },
-                                                    [&] { live->MoveNext(); },
-                                                    [&] { static_cast<void>(live->Eof()); },
-                                                    [&] { field.Value(); },
-                                                    [&] { counted->Value(0); },
-                                                    [&] { Recordset::create()->Open("Select 1", mDb); }};
-    for (std::size_t i = 0; i < uses.size(); ++i)
-        EXPECT_EQ(errorOf(uses[i]), RuntimeError::ObjectClosed) << i;
+    const std::function<void()> uses[] = {
+        [&] { mDb->Close(); },      [&] { mDb->Execute("Select 1"); },
+        [&] { mDb->BeginTrans(); }, [&] { Recordset::create()->Open("Select 1", mDb); },
+        [&] { live->MoveNext(); },  [&] { static_cast<void>(live->Eof()); },
+        [&] { field.Value(); },     [&] { counted->Value(0); }};
+    for (const auto& use : uses)
+        EXPECT_EQ(errorOf(use), RuntimeError::ObjectClosed);
 }
 
 TEST_P(Connections, OutliveNothingThatUsesThem) {

@@ -45,29 +45,6 @@ TEST_F(PostgresValues, LandUnalteredOrNotAtAllWhenAColumnHasGotAnotherType) {
     }
 }
 
-TEST_F(PostgresValues, AreReadAsTheTypeThatTheirColumnHasNow) {
-    const std::tuple<std::string, const char*, DataType> cases[] = {
-        {"varchar(9)", "0042", DataType::VarWChar}, {"numeric(9,2)", "2.5", DataType::Numeric},
-        {"boolean", "True", DataType::Boolean},     {"timestamp", "5/6/2026", DataType::Date},
-        {"integer", "7", DataType::Integer},
-    };
-    mOther->run("create table T (ID integer, V integer); insert into T values (1, 5)");
-    for (const auto& [type, value, now] : cases) {
-        for (const std::string from : {"V", "Max(V)"}) {
-            SCOPED_TRACE(from + " as " + type);
-            const auto db = connect();
-            EXPECT_EQ(one(db, "Select " + from + " From T Where ID=1"), "5");
-            mOther->run("alter table T alter V type " + type + " using '" + value + "'::" + type);
-            const auto rs = opened(db, "Select " + from + " From T Where ID=1");
-            EXPECT_EQ(rs->Value(0).text(), value);
-            if (from == "V") {
-                EXPECT_EQ(rs->FieldType(0), now);
-            }
-            mOther->run("alter table T alter V type integer using 5");
-        }
-    }
-}
-
 TEST_F(PostgresValues, KeepEveryDigitOfADecimal) {
     mDb->Execute("Create Table T (Wide Numeric, Price Currency)");
     const std::tuple<std::string, std::string, VarType> cases[] = {

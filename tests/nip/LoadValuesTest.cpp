@@ -70,6 +70,8 @@ TEST_F(LoadValues, ReadsEveryGroupsRowOfAnEncounter) {
     EXPECT_THAT(values(), ElementsAre("38.3", "three", "  ", "0"));
     EXPECT_EQ(nip.ChoiceListCount(1, 3), 0);
     EXPECT_THAT(nip.ChoiceList(1, 3).array().elements, ElementsAre(Variant()));
+    save();
+    EXPECT_EQ(nips.rows("Select Chosen From NIP_Custom1 Where EncounterID=3"), "  ") << "blanks stay, too";
 
     nips.db->quietly("Update NIP_Custom1 Set Rank=Null, Description=Null Where EncounterID=3");
     load(3);
@@ -117,11 +119,24 @@ TEST_F(LoadValues, FillsANewEncounterFromDefaultsAndThePatientsLatestOne) {
     EXPECT_TRUE(nips.user->boxes.empty());
 }
 
-TEST_F(LoadValues, TellsTheColumnsOfAHostsEncounterFromItsOwn) {
-    nips.db->quietly("Alter Table Encounter Add Column [Temp-1] TEXT");
+TEST_F(LoadValues, TellsTheColumnsOfAnEncounterFromThoseOfAGroup) {
+    nips.db->quietly("Alter Table Encounter Add Column [Temp-1] TEXT"); // a host's own
+    nips.group(4, "Clashing", "My Nip");
+    nips.define(4, " ");
+    for (const char* name : {"PatientID", "EncounterDate", "Order"})
+        nips.field(4, "My Nip", name, {.rule = 1});
+    nips.insert("[My Nip]",
+                {{"EncounterID", 1}, {"PatientID", "9"}, {"EncounterDate", "z"}, {"Order", "old"}});
+    nips.insert("[My Nip]",
+                {{"EncounterID", 2}, {"PatientID", "8"}, {"EncounterDate", "a"}, {"Order", "new"}});
     loadStructure();
     load(-1, true);
     EXPECT_EQ(nip.value(1, 1), Variant("37.2"));
+    std::string latest;
+    for (std::int16_t field = 1; field <= 4; ++field)
+        latest += nip.value(3, field).text() + "|";
+    EXPECT_EQ(latest, "|8|a|new|");
+    EXPECT_THAT(nips.errorLog(), HasSubstr("cNip.GetFieldList-Trying to add a blank field to a select list"));
 }
 
 TEST_F(LoadValues, HoldsNothingOfAnEncounterAfterAFailure) {

@@ -1,16 +1,17 @@
 #include <korvane/nip/cNIP.h>
 
 #include "support/CaseTable.h"
-#include "support/KilledSteps.h"
 #include "support/NipDatabase.h"
 
 #include <korvane/ado/Transaction.h>
-#include <korvane/ado/sqlite/SqliteConnection.h>
 
 #include <gmock/gmock.h>
-#include <sqlite3.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 
 namespace Korvane {
 
@@ -214,32 +215,6 @@ TEST_F(SaveValues, WaitsForTheLockOfAnotherProgramThenFails) {
     EXPECT_EQ(nips.rows("Select [Temp-1] From NIP_Custom1"), "new");
 }
 
-TEST_F(SaveValues, JoinsTheTransactionOfAHostThatLentItsHandle) {
-    if (ScratchDatabase::onServer()) GTEST_SKIP() << "lends a handle of the other engine";
-    makeGroups(2);
-    nips.field(2, "NIP_Custom1", "Count", {.columnType = "INTEGER"});
-    sqlite3* handle = nullptr;
-    ASSERT_EQ(sqlite3_open(nips.dir.file("clinic.db").c_str(), &handle), SQLITE_OK);
-    sqlite3_exec(handle, "begin; insert into NIP_Custom1(EncounterID, Count) values (1, 50)", nullptr,
-                 nullptr, nullptr);
-    {
-        cNIP lent;
-        ASSERT_TRUE(lent.LoadStructure(ado::sqlite::adopt(handle)) && lent.Load(1, "P1", false));
-        EXPECT_EQ(lent.value(1, 4), Variant("50"));
-        setAll(lent, "mine");
-        lent.value(1, 4, "many");
-        EXPECT_FALSE(lent.Save());
-        lent.value(1, 4, "51");
-        EXPECT_TRUE(lent.Save());
-        EXPECT_EQ(sqlite3_get_autocommit(handle), 0) << "the host's transaction is the host's to end";
-        EXPECT_EQ(nips.rows("Select Count(*) From NIP_Custom2"), "0");
-        sqlite3_exec(handle, "commit", nullptr, nullptr, nullptr);
-    }
-    EXPECT_EQ(sqlite3_close(handle), SQLITE_OK);
-    EXPECT_EQ(nips.rows("Select [Temp-1], Count From NIP_Custom1"), "mine|51");
-    EXPECT_EQ(nips.rows("Select [Temp-1] From NIP_Custom2"), "mine");
-}
-
 TEST_F(SaveValues, WritesNothingAtAllWhenAStatementFails) {
     open(3);
     setAll(nip, "old");
@@ -288,9 +263,23 @@ TEST_F(SaveValues, LeavesTheOldRowsOrTheNewOnesWhenTheProcessIsKilled) {
             all += own.value(group, 1).text() + own.value(group, 2).text();
         return all;
     };
-    killAtEachStep(
-        nips.address(), [&](const auto& db, const auto& begin) { return saved(db, "new", begin); },
-        [&] { return stored() == "oldoldoldoldoldold"; });
+    int steps = 0;
+    for (int status = -1; status != 0; ++steps) { // each gets a step further than the one before
+        ASSERT_LT(steps, 100);
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            const auto db = std::make_shared<RecordingConnection>(ado::open(nips.address()));
+            db->insteadOfFailing = [] { kill(getpid(), SIGKILL); };
+            _exit(saved(db, "new", [&] { return (db->failAfter = steps) >= 0; }) ? 0 : 1);
+        }
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(status == 0 || WIFSIGNALED(status)) << "it failed by itself";
+        if (status != 0) {
+            ASSERT_EQ(stored(), "oldoldoldoldoldold") << "killed at step " << steps;
+        }
+    }
+    EXPECT_GT(steps, 4);
     EXPECT_EQ(stored(), "newnewnewnewnewnew");
 }
 
