@@ -13,7 +13,7 @@ QWidget* ControlPlugin::createWidget(QWidget* parent) {
     Korvane::UserControl* control = mKind.make(parent);
     if (mDesigner) {
         control->setDesignMode(true);
-        groupPassingProperties(*mDesigner, *control);
+        groupProperties(*mDesigner, *control);
     }
     return control;
 }

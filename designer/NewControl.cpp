@@ -5,7 +5,10 @@
 #include <QCoreApplication>
 #include <QXmlStreamWriter>
 
+#include <algorithm>
+#include <array>
 #include <initializer_list>
+#include <string_view>
 #include <utility>
 
 namespace Designer {
@@ -53,10 +56,20 @@ void writeSize(Writer& xml, QSize size) {
     });
 }
 
+/// What the user enters or edits. It has no translation: a form that is put into another language meanwhile
+/// would bring back what it came with.
+bool isContent(const QMetaProperty& property) {
+    using namespace std::string_view_literals;
+    constexpr std::array contents{"axDate"sv, "ListBoxText"sv, "ListData"sv, "fldName"sv, "fieldCaption"sv};
+    return std::ranges::find(contents, property.name()) != contents.end();
+}
+
 /// All that `InitProperties` sets are texts and flags.
-void writeValue(Writer& xml, const QVariant& value) {
+void writeValue(Writer& xml, const QMetaProperty& property, const QVariant& value) {
     if (value.typeId() == QMetaType::Bool)
         xml.text("bool", value.toBool() ? QStringLiteral("true") : QStringLiteral("false"));
+    else if (isContent(property))
+        xml.element("string", {{"notr", QStringLiteral("true")}}, [&] { xml.characters(value.toString()); });
     else
         xml.text("string", value.toString());
 }
@@ -68,7 +81,7 @@ void writeProperties(Writer& xml, const UserControl& plain, const UserControl& f
         const QVariant value = property.read(&fresh);
         if (!property.isStored() || value == property.read(&plain)) continue;
         xml.element("property", {{"name", QString::fromLatin1(property.name())}},
-                    [&] { writeValue(xml, value); });
+                    [&] { writeValue(xml, property, value); });
     }
 }
 
@@ -80,6 +93,17 @@ void writeToolTips(Writer& xml, const UserControl& control) {
         xml.element("tooltip", {{"name", name}},
                     [&] { xml.characters((property.isWritable() ? notKept : readOnly).arg(name)); });
     }
+}
+
+void writeContents(Writer& xml, const UserControl& control) {
+    const QMetaObject& type = *control.metaObject();
+    for (int i = UserControl::staticMetaObject.propertyCount(); i < type.propertyCount(); ++i)
+        if (isContent(type.property(i)))
+            xml.element("stringpropertyspecification",
+                        {{"name", QString::fromLatin1(type.property(i).name())},
+                         {"type", QStringLiteral("singleline")},
+                         {"notr", QStringLiteral("true")}},
+                        [] {});
 }
 
 } // namespace
@@ -98,7 +122,10 @@ QString newControl(const ControlKind& kind) {
             xml.element("customwidget", {}, [&] {
                 xml.text("class", kind.className());
                 xml.text("extends", QStringLiteral("QWidget"));
-                xml.element("propertyspecifications", {}, [&] { writeToolTips(xml, *fresh); });
+                xml.element("propertyspecifications", {}, [&] {
+                    writeToolTips(xml, *fresh);
+                    writeContents(xml, *fresh);
+                });
             });
         });
     });

@@ -3,6 +3,7 @@
 #include <korvane/controls/buttons/funcPanel.h>
 #include <korvane/runtime/RuntimeError.h>
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -73,6 +74,33 @@ TEST(PropertyBag, WrittenByHandLoadsWithDefaultsAndSaysWhatIsWrong) {
     EXPECT_EQ(other.problems().join('\n').toStdString(),
               "BackColor holds 4294967551: that has more than 32 bits, the button face is used\n"
               "FrameFontSize holds -3: that is no size, 1 is used");
+}
+
+TEST(PropertyBag, TellsOfWhatItsFormatWouldPassOver) {
+    PropertyBag twice;
+    twice.Contents(
+        R"({"btnText1": "\"a\": {", "buttonCount": 3, "Other": {"btnText1": [":"]}, "button\u0043ount": 4})");
+    funcPanel panel;
+    panel.ReadProperties(twice);
+    EXPECT_EQ(panel.buttonCount(), 4);
+    EXPECT_EQ(twice.problems().join('\n').toStdString(),
+              "Other is not the name of a property that is kept\n"
+              "buttonCount stands there more than once: the last is used");
+    const QTemporaryDir dir;
+    QFile file(dir.filePath("host.ini"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[panel]\nbuttonCount=3\nbtnText1 Print\nbtn\\Text2=Sign\nFrameCaption=@Variant(\\0)\n");
+    file.close();
+    QSettings settings(file.fileName(), QSettings::IniFormat);
+    const auto bag = PropertyBag::load(settings, "panel");
+    panel.ReadProperties(bag);
+    EXPECT_EQ(panel.buttonCount(), 3);
+    EXPECT_EQ(panel.btnText1() + panel.btnText2() + panel.FrameCaption(), "12Function Btn");
+    EXPECT_EQ(
+        bag.problems().join('\n').toStdString(),
+        "The settings hold lines that cannot be read: what they were meant for is taken at its default\n"
+        "FrameCaption holds nothing: that is no text, \"Function Btn\" is used\n"
+        "btn is a group, and no property that is kept");
 }
 
 TEST(PropertyBag, TakesOnlyABooleanForABooleanAndAnyKindOfNumber) {

@@ -45,14 +45,20 @@ TEST(axDateProperties, ErrorsAreShownWithTheRoutineTheyHappenedIn) {
     form.date->year("+5");
     form.press("\t");
     PropertyBag bag;
-    bag.WriteProperty("axDate", "3/4/2025", "");
-    bag.WriteProperty("Enlivened", "perhaps", "True");
+    const QString date(40000, '3');
+    bag.WriteProperty("axDate", date, "");
+    bag.WriteProperty("requireFourDigitYear", "perhaps", "True");
+    bag.WriteProperty("Enlivened", "False", "True");
     form.date->ReadProperties(bag);
     EXPECT_THAT(form.user->boxes, ElementsAre(ShownBox{" Error in axDate.txtDate.EnterFocus: Type mismatch",
                                                        MsgBoxStyle::OkOnly, ""},
                                               ShownBox{" Error in UserControl.ReadProperties: Type mismatch",
                                                        MsgBoxStyle::OkOnly, ""}));
-    EXPECT_EQ(form.wholeDate(), "3/4/2025");
+    EXPECT_EQ(form.date->wholeDate(), date) << "whatever its length";
+    EXPECT_FALSE(form.date->Enlivened()) << "what is wrong with one property stops no other";
+    EXPECT_TRUE(form.date->FourDigitYearError()) << "its default, and not what it was";
+    EXPECT_EQ(bag.problems(), QStringList("requireFourDigitYear holds \"perhaps\": that is no \"True\" or "
+                                          "\"False\", True is used"));
 }
 
 } // namespace Korvane

@@ -91,6 +91,7 @@ TEST(Designer, MarksThePropertiesThatNoFormKeeps) {
                           {"born", "axDate", "Korvane::axDate"},
                           {"orders", "Enabled", "funcPanel, not kept"},
                           {"visits", "Enabled", "Korvane::movebtn"},
+                          {"visits", "btnText1", "Korvane::movebtn"},
                           {"field", "RecNumber", "dbxadmin, not kept"},
                           {"nip", "PatientID", "ucNIPPanel, not kept"}}) {
         const auto& sheet = designer.sheet(c.control);

@@ -14,10 +14,30 @@
 
 namespace Korvane::Testing {
 
+using testing::ContainsRegex;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 namespace {
+
+/// Warnings while it lives.
+class Told {
+  public:
+    Told()
+        : mBefore(qInstallMessageHandler(
+              [](QtMsgType, const QMessageLogContext&, const QString& text) { texts() << text; })) {
+        texts().clear();
+    }
+    ~Told() { qInstallMessageHandler(mBefore); }
+    static QStringList& texts() {
+        static QStringList all;
+        return all;
+    }
+
+  private:
+    QtMessageHandler mBefore;
+};
 
 std::unique_ptr<QWidget> loaded(QIODevice&& form) {
     QUiLoader loader;
@@ -44,6 +64,20 @@ TEST(Form, GivesControlsTheirKeptPropertiesWhenItIsLoadedAndWhenItIsCompiled) {
     QWidget compiled;
     Ui::Visit().setupUi(&compiled);
     expectVisit(compiled);
+}
+
+TEST(Form, LeavesACodeAsItIsWhenNoneHasTheNameItIsGiven) {
+    QFile visit(KORVANE_TESTS_DIR "/designer/visit.ui");
+    ASSERT_TRUE(visit.open(QIODevice::ReadOnly));
+    QByteArray xml = visit.readAll();
+    xml.replace("dbxadmin::ListBox", "dbxadmin::Slider").replace("funcPanel::Flat", "funcPanel::Round");
+    QBuffer changed(&xml);
+    const Told told;
+    const auto form = loaded(std::move(changed));
+    EXPECT_EQ(control(*form, "field").property("displayType").toInt(), 0);
+    EXPECT_EQ(control(*form, "orders").property("buttonStyle").toInt(), 1);
+    EXPECT_EQ(told.texts(), (QStringList{"buttonStyle is left as it is: there is no value of that name",
+                                         "displayType is left as it is: there is no value of that name"}));
 }
 
 TEST(Form, HasLiveControlsOutsideDesigner) {
@@ -87,6 +121,17 @@ TEST(Palette, DropsAControlAsANewOneOnTheForm) {
         EXPECT_EQ(keptOf(static_cast<UserControl&>(*dropped)), keptOf(*fresh));
         EXPECT_EQ(dropped->size().expandedTo(dropped->sizeHint()), dropped->size()) << "everything has room";
     }
+}
+
+TEST(Palette, HasNoTranslationForWhatAUserEnters) {
+    std::string all;
+    for (const auto* each : palette())
+        all += each->domXml().toStdString();
+    EXPECT_THAT(all, HasSubstr(R"(<string notr="true">Item 1/Item 2/Item 3/Etc.</string>)"));
+    for (const char* name : {"axDate", "fldName", "fieldCaption", "ListBoxText", "ListData"})
+        EXPECT_THAT(all, ContainsRegex("<stringpropertyspecification name=\"" + std::string(name) +
+                                       "\"[^>]*notr=\"true\""));
+    EXPECT_THAT(all, Not(HasSubstr(R"(<stringpropertyspecification name="FrameName")")));
 }
 
 } // namespace Korvane::Testing

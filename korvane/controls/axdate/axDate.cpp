@@ -14,6 +14,7 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <limits>
 
 namespace Korvane {
 
@@ -31,6 +32,7 @@ axDate::axDate(QWidget* parent, bool dragonSpeechEnabled)
     mFocus = std::make_unique<FocusSteps>(*this, steps);
     txtWholeDate->setObjectName(QStringLiteral("txtWholeDate"));
     txtWholeDate->setReadOnly(true);
+    txtWholeDate->setMaxLength(std::numeric_limits<int>::max());
     txtWholeDate->setAcceptDrops(true);
     txtWholeDate->setPlaceholderText(tr("MM/DD/YYYY"));
     txtWholeDate->setAccessibleName(tr("Date"));

@@ -4,11 +4,13 @@
 #include <korvane/controls/axdate/DatePartBox.h>
 #include <korvane/controls/axdate/DateVoice.h>
 #include <korvane/controls/container/Text.h>
+#include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Variant.h>
 
 #include <QLineEdit>
 #include <QPointer>
 
+#include <exception>
 #include <utility>
 
 namespace Korvane {
@@ -30,8 +32,16 @@ const char* flagText(bool on) {
     return on ? "True" : "False";
 }
 
-bool readFlag(const PropertyBag& bag, const QString& name) {
-    return Variant(utf8(bag.ReadProperty(name, "True").toString())).toBoolean();
+/// A text that is no flag is one of the bag's problems, and the failure to be told once all else has been
+/// read.
+bool readFlag(const PropertyBag& bag, const QString& name, std::exception_ptr& failure) {
+    try {
+        return Variant(utf8(bag.ReadProperty(name, flagText(true)).toString())).toBoolean();
+    } catch (const RuntimeError&) {
+        failure = std::current_exception();
+        bag.addProblem(name, QStringLiteral("that is no \"True\" or \"False\", True is used"));
+        return true;
+    }
 }
 
 } // namespace
@@ -147,19 +157,20 @@ void axDate::InitProperties() {
     PreviousFieldCommand(previousField());
 }
 
-/// The date comes first: what else cannot be read does not hold it up.
 void axDate::ReadProperties(const PropertyBag& bag) {
     reported("UserControl.ReadProperties", [&] {
+        std::exception_ptr failure;
         setWholeDate(bag.ReadProperty("axDate", "").toString());
         mDragonSpeechEnabled = bag.ReadProperty("DragonSpeechEnabled", false).toBool();
         mNextFieldCommand = bag.ReadProperty("NextFieldCommand", nextField()).toString();
         mPreviousFieldCommand = bag.ReadProperty("PreviousFieldCommand", previousField()).toString();
-        mRequireFourDigitYear = readFlag(bag, "requireFourDigitYear");
-        mEnlivened = readFlag(bag, "Enlivened");
+        mRequireFourDigitYear = readFlag(bag, "requireFourDigitYear", failure);
+        mEnlivened = readFlag(bag, "Enlivened", failure);
         txtWholeDate->setEnabled(mEnlivened);
         mVoice->followFocus(mDragonSpeechEnabled);
         mVoice->activateDictation(mDragonSpeechEnabled && mFocus->isInside());
         setupVoiceMenu();
+        if (failure) std::rethrow_exception(failure);
     });
 }
 

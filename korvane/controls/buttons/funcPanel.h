@@ -132,15 +132,15 @@ class funcPanel : public ButtonPanel {
     void givenButtonCount(int count);
     ButtonStyle styleCode() const { return static_cast<ButtonStyle>(mStyle); }
     void styleCode(ButtonStyle style) {
-        if (const auto code = codeFrom(style, "buttonStyle")) buttonStyle(*code);
+        if (const auto code = codeFrom(*this, style, "buttonStyle")) buttonStyle(*code);
     }
     FontSize frameFontCode() const { return static_cast<FontSize>(mFrameFontSize); }
     void frameFontCode(FontSize size) {
-        if (const auto code = codeFrom(size, "FrameFontSize")) FrameFontSize(*code);
+        if (const auto code = codeFrom(*this, size, "FrameFontSize")) FrameFontSize(*code);
     }
     FontSize buttonFontCode() const { return static_cast<FontSize>(mButtonFontSize); }
     void buttonFontCode(FontSize size) {
-        if (const auto code = codeFrom(size, "ButtonFontSize")) ButtonFontSize(*code);
+        if (const auto code = codeFrom(*this, size, "ButtonFontSize")) ButtonFontSize(*code);
     }
 
     void setButtonEnabled(int index, bool on);

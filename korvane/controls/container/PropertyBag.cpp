@@ -6,8 +6,8 @@ namespace Korvane {
 
 QVariant PropertyBag::ReadProperty(const QString& name, const QVariant& defaultValue) const {
     mAskedFor.insert(name);
+    if (!mValues.contains(name)) return defaultValue;
     const QVariant value = mValues.value(name);
-    if (!value.isValid()) return defaultValue;
     if (!defaultValue.isValid()) return value;
     QVariant taken = propertyValue(value, defaultValue.metaType());
     if (taken.isValid()) return taken;

@@ -49,7 +49,8 @@ class PropertyBag {
     QJsonObject toJson() const;
     static PropertyBag fromJson(const QJsonObject& object);
 
-    /// The bag as bytes (JSON in UTF-8). Bytes that are none give an empty bag that has that for its problem.
+    /// The bag as bytes (JSON in UTF-8). Bytes that are none give an empty bag that has that for its problem;
+    /// of a name that stands there more than once the last value is taken, which is a problem too.
     QByteArray Contents() const;
     void Contents(const QByteArray& bytes);
 
@@ -57,6 +58,7 @@ class PropertyBag {
     /// `RuntimeError::InvalidProcedureCall`. Whether it could be written, `settings.status()` tells after a
     /// `sync()`.
     void save(QSettings& settings, const QString& group) const;
+    /// Lines of the settings that cannot be read, and groups inside the bag's, are problems of the bag.
     static PropertyBag load(QSettings& settings, const QString& group);
 
   private:

@@ -170,15 +170,15 @@ class dbxadmin : public UserControl {
   private:
     DisplayType displayTypeCode() const { return static_cast<DisplayType>(displayType()); }
     void displayTypeCode(DisplayType type) {
-        if (const auto code = codeFrom(type, "displayType")) displayType(*code);
+        if (const auto code = codeFrom(*this, type, "displayType")) displayType(*code);
     }
     Requirement requirementCode() const { return static_cast<Requirement>(FieldRequired()); }
     void requirementCode(Requirement required) {
-        if (const auto code = codeFrom(required, "FieldRequired")) FieldRequired(*code);
+        if (const auto code = codeFrom(*this, required, "FieldRequired")) FieldRequired(*code);
     }
     ListAction listActionCode() const { return static_cast<ListAction>(ListMode()); }
     void listActionCode(ListAction action) {
-        if (const auto code = codeFrom(action, "ListMode")) ListMode(*code);
+        if (const auto code = codeFrom(*this, action, "ListMode")) ListMode(*code);
     }
 
     QString caption(int index) const;
