@@ -1,5 +1,6 @@
 #include <korvane/controls/container/Twips.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLineEdit>
@@ -26,6 +27,14 @@ TEST(Twips, AOneLineControlHoldsItsTextAtAnyFontSize) {
         EXPECT_EQ(Twips(font).px(285), height);
         EXPECT_NEAR(Twips(font).px(1140), 4 * height, 2);
         EXPECT_NEAR(Twips(font).fromPx(height), 285, 10);
+    }
+}
+
+TEST(Twips, FollowsOneStyleSheetAfterTheOther) {
+    QLineEdit text;
+    for (const char* sheet : {"QLineEdit { padding: 6px }", "QLineEdit { padding: 16px }", ""}) {
+        qApp->setStyleSheet(sheet);
+        EXPECT_NEAR(Twips(text).px(285), text.sizeHint().height(), 4) << sheet;
     }
 }
 

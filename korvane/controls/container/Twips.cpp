@@ -34,8 +34,17 @@ int oneLineHeight(const QFont& font, QStyle& style) {
                      naturalHeight(editable, font, style), naturalHeight(date, font, style)});
 }
 
-double pixelsPerTwip(const QFont& font, QStyle& style, int dotsPerInch) {
+/// By style, resolution and font. A style sheet can make anything of a style without a change of its name.
+QHash<QString, double>& knownScales() {
     static QHash<QString, double> known;
+    static QString sheet;
+    if (sheet != qApp->styleSheet()) known.clear();
+    sheet = qApp->styleSheet();
+    return known;
+}
+
+double pixelsPerTwip(const QFont& font, QStyle& style, int dotsPerInch) {
+    QHash<QString, double>& known = knownScales();
     const QString key = style.name() + '/' + QString::number(dotsPerInch) + '/' + font.key();
     const auto found = known.constFind(key);
     if (found != known.constEnd()) return *found;
