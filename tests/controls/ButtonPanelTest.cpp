@@ -74,6 +74,30 @@ TEST(ButtonPanel, EachClickIsHeardOnceButNoneInDesignMode) {
     EXPECT_EQ(form.focus(), 4) << "the accelerator has moved it";
 }
 
+TEST(ButtonPanel, AnEnterThatIsHeldDownAnswersNoQuestionThatTheClickBringsUp) {
+    ButtonForm<funcPanel> form;
+    QDialog question;
+    QPushButton yes("Yes", &question);
+    int answers = 0;
+    QObject::connect(&yes, &QPushButton::clicked, [&answers] { ++answers; });
+    QObject::connect(form.panel, &funcPanel::btnClick, [&] {
+        bringToFront(question);
+        yes.setFocus();
+    });
+    const auto send = [](QWidget& to, QEvent::Type type, bool repeats) {
+        QKeyEvent key(type, Qt::Key_Return, Qt::NoModifier, {}, repeats);
+        QCoreApplication::sendEvent(&to, &key);
+    };
+    form.panel->Focus(0);
+    send(form.button(0), QEvent::KeyPress, false);
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress})
+        send(yes, type, true);
+    EXPECT_EQ(answers, 0);
+    send(yes, QEvent::KeyRelease, false);
+    send(yes, QEvent::KeyPress, false);
+    EXPECT_EQ(answers, 1);
+}
+
 TEST(ButtonPanel, WhatRefusesToLetTheFocusGoHoldsTheAcceleratorUp) {
     ButtonForm<movebtn> form;
     form.panel->btnText3("&Next");

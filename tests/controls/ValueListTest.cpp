@@ -49,7 +49,7 @@ TEST(ValueList, RemovesWhatIsSelectedByTheButtonAndByDelete) {
     desk.press(Qt::Key_Delete);
     EXPECT_EQ(desk.items(), "[a]");
     desk.button().setFocus();
-    desk.press(Qt::Key_Return);
+    QTest::keyPress(&desk.button(), Qt::Key_Return);
     EXPECT_EQ(desk.items() + utf8(desk.admin->ListData()), "");
     EXPECT_EQ(desk.focus() + desk.says(), "lstAddtoList-Remove from List");
     hold(Qt::Key_Return);

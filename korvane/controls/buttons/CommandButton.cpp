@@ -1,5 +1,6 @@
 #include <korvane/controls/buttons/CommandButton.h>
 
+#include <korvane/controls/buttons/HeldEnter.h>
 #include <korvane/controls/buttons/WholeCaption.h>
 
 #include <QFocusEvent>
@@ -43,7 +44,9 @@ bool CommandButton::takeAccelerator(const QShortcutEvent& accelerator) {
 /// Enter that is held down would go on clicking, and with "Remove from List" empty the list.
 void CommandButton::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || !event->isAutoRepeat()) QPushButton::keyPressEvent(event);
+    if (enter && event->isAutoRepeat()) return;
+    if (enter) new HeldEnter;
+    QPushButton::keyPressEvent(event);
 }
 
 bool CommandButton::isShortened() const {

@@ -142,12 +142,11 @@ bool ValueList::eventFilter(QObject* watched, QEvent* event) {
 }
 
 /// Enter does not reach the default button of a dialog, not even from an empty box: it may be one too many.
-/// A Delete that is held down removes one value, not all of them; nor does an Enter that emptied the list by
-/// the button, and is still held down, reach the dialog from it.
+/// A Delete that is held down removes one value, not all of them.
 bool ValueList::take(const QObject* part, const QKeyEvent& key) {
     const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (enter && (part == txtAddtoList || key.isAutoRepeat())) {
+    if (enter && part == txtAddtoList) {
         if (!key.isAutoRepeat()) add();
         return true;
     }

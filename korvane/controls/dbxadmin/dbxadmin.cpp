@@ -64,7 +64,7 @@ void dbxadmin::updateClicked() {
 }
 
 /// From the last part to the first, see `ValueList::setEditable`. The update button does not pass the focus
-/// on to what is behind the control: that may be the OK of a dialog, and Enter still be held down.
+/// on to what is behind the control: that may be the OK of a dialog, and another Enter follow.
 void dbxadmin::enableEntries() {
     if (!mUpdateEnabled && mForm->updateButton().hasFocus()) mForm->moves().setFocus();
     mForm->updateButton().setEnabled(mUpdateEnabled);

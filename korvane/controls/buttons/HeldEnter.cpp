@@ -1,0 +1,21 @@
+#include <korvane/controls/buttons/HeldEnter.h>
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+namespace Korvane {
+
+HeldEnter::HeldEnter() : QObject(qApp) {
+    qApp->installEventFilter(this);
+}
+
+/// It may be let go where nobody hears of it; then the next press of any key tells.
+bool HeldEnter::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
+    if (static_cast<QKeyEvent*>(event)->isAutoRepeat()) return true;
+    qApp->removeEventFilter(this);
+    deleteLater();
+    return false;
+}
+
+} // namespace Korvane
