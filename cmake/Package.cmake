@@ -4,7 +4,8 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME korvane)
 set(CPACK_PACKAGE_CONTACT "The Korvane authors <korvane@localhost>" CACHE STRING "Who answers for the packages")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own
-set(CPACK_STRIP_FILES ON)
+# What is stripped off goes into packages of its own (-dbgsym), for whoever looks into a crash.
+set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/debian/Finish.cmake)
@@ -13,8 +14,6 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SOURCE korvane)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 
 # korvane_package(<component> <section> <description: a line that sums up, and more>)
@@ -38,6 +37,18 @@ Forms that a clinic shapes itself, kept in the tables of its own database on
 SQLite or PostgreSQL: classes that load and save them, and Qt controls that
 show them. With a date control that listens, and panels of buttons.")
 set(CPACK_DEBIAN_LIBKORVANE_PACKAGE_RECOMMENDS "pocketsphinx-en-us, qt6-translations-l10n")
+# A package that was built on these libraries asks for a version that has them: the next minor one's have other names.
+set(abi ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+math(EXPR next "${PROJECT_VERSION_MINOR} + 1")
+set(shlibs "")
+foreach(component IN ITEMS Core Controls QtSql Voice)
+    if(TARGET Korvane${component})
+        get_target_property(name Korvane${component} OUTPUT_NAME)
+        string(APPEND shlibs "lib${name} ${abi} libkorvane (>= ${PROJECT_VERSION}), libkorvane (<< ${PROJECT_VERSION_MAJOR}.${next}~)\n")
+    endif()
+endforeach()
+file(WRITE ${PROJECT_BINARY_DIR}/shlibs "${shlibs}")
+set(CPACK_DEBIAN_LIBKORVANE_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/shlibs)
 
 set(needed libsqlite3-dev)
 if(KORVANE_POSTGRES)
