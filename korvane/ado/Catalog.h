@@ -16,11 +16,14 @@ namespace Korvane::ado {
 /// changed, and what was rolled back, is seen.
 class Tables {
   public:
+    /// As `Catalog::Tables` makes it.
     explicit Tables(std::shared_ptr<Connection> connection) : mConnection(std::move(connection)) {}
 
+    /// How many there are, without the views and the engine's own tables.
     std::int32_t Count() const;
     /// All of them, in the order of their names.
     std::vector<std::string> Names() const;
+    /// Whether there is a table of that name; a view does not count.
     bool Exists(std::string_view name) const;
     /// ItemNotFound when there is none.
     Table Item(std::string_view name) const;
@@ -51,8 +54,10 @@ class Catalog {
     /// InvalidConnection without a connection.
     explicit Catalog(std::shared_ptr<Connection> connection);
 
+    /// What it was made with; never null.
     const std::shared_ptr<Connection>& ActiveConnection() const { return mConnection; }
 
+    /// The tables as they are at each call to it.
     ado::Tables Tables() const { return ado::Tables(mConnection); }
 
   private:

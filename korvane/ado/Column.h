@@ -22,18 +22,26 @@ class Column {
     /// `definedSize` in characters; only a VarWChar has one, and 0 there means texts of any length.
     explicit Column(std::string_view name, DataType type = DataType::VarWChar, std::int32_t definedSize = 0)
         : mInfo{std::string(name), type, definedSize} {}
+    /// As a result or a table has told of it.
     explicit Column(ColumnInfo info) : mInfo(std::move(info)) {}
 
+    /// As it is written; to find one, case does not count.
     const std::string& Name() const { return mInfo.name; }
     void Name(std::string_view name) { mInfo.name = name; }
+
+    /// The type of its values. A size that is there stays, and counts only for a VarWChar.
     DataType Type() const { return mInfo.type; }
     void Type(DataType type) { mInfo.type = type; }
+
+    /// Characters; 0 for texts of any length, and for what is no text.
     std::int32_t DefinedSize() const { return mInfo.definedSize; }
     void DefinedSize(std::int32_t characters) { mInfo.definedSize = characters; }
+
     /// Whether it may hold Null; true at first.
     bool Nullable() const { return mInfo.nullable; }
     void Nullable(bool nullable) { mInfo.nullable = nullable; }
 
+    /// All of it at once.
     const ColumnInfo& info() const { return mInfo; }
 
   private:
@@ -45,8 +53,10 @@ class Column {
 /// transaction if one is open. Raises ItemNotFound for a column, or a table, that is not there (any more).
 class Columns {
   public:
+    /// As `Table::Columns` makes it.
     explicit Columns(std::shared_ptr<TableState> table) : mTable(std::move(table)) {}
 
+    /// At the time of the call, copies: changing one changes no table.
     std::int32_t Count() const { return static_cast<std::int32_t>(All().size()); }
     std::vector<Column> All() const;
     bool Exists(std::string_view name) const;

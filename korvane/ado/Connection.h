@@ -41,7 +41,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
     /// Begins a transaction, inside one that is open if there is one; returns its level, 1 for the outermost.
     virtual std::int32_t BeginTrans(TransactionFor use = TransactionFor::Writing) = 0;
-    /// End the innermost one. An error when none is open. After a failed `CommitTrans` the transaction is
+    /// Ends the innermost one. An error when none is open. After a failed `CommitTrans` the transaction is
     /// still open.
     virtual void CommitTrans() = 0;
     virtual void RollbackTrans() = 0;
@@ -77,6 +77,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
     /// For a `Catalog`: runs a statement in the engine's own words, as it stands, and opens its result to be
     /// read once; null when it returns no rows. The schema may change with it.
     virtual std::unique_ptr<Cursor> openNative(std::string_view statement) = 0;
+    /// For a `Catalog`: how its engine reads and changes a schema.
     virtual const CatalogDialect& catalogDialect() const = 0;
 
   protected:

@@ -14,18 +14,18 @@ namespace Korvane::ado {
 
 /// What a provider knows of a column of a result.
 struct ColumnInfo {
-    std::string name;
-    DataType type = DataType::VarWChar;
-    std::int32_t definedSize = 0; ///< characters; 0 when the type has no length
-    bool nullable = true;         ///< false when the database is known to refuse a Null in it
+    std::string name;                   ///< as the result has it
+    DataType type = DataType::VarWChar; ///< of its values that are not Null
+    std::int32_t definedSize = 0;       ///< characters; 0 when the type has no length
+    bool nullable = true;               ///< false when the database is known to refuse a Null in it
     /// The engine keeps something else (a time of day, a number of its own) that goes in and out as text.
     bool onlyShownAsText = false;
 };
 
 /// One field of the current row with the value it is to take.
 struct FieldChange {
-    int ordinal = 0;
-    Variant value;
+    int ordinal = 0; ///< from 0
+    Variant value;   ///< Null for none
 };
 
 /// A cell where it is, without a copy: a whole number (True is -1), a text, or nothing for any other value,
@@ -46,10 +46,12 @@ class Cursor {
     /// False once its connection was closed; nothing but this may be asked then.
     bool isOpen() const { return mIsOpen; }
 
+    /// In their order, also when there are no rows.
     virtual std::span<const ColumnInfo> columns() const = 0;
     /// The ordinal of the column of that name (case does not count); -1 when there is none.
     virtual int columnIndex(std::string_view name) const = 0;
 
+    /// Whether it stands behind the last row.
     bool atEnd() const { return mAtEnd; }
     /// To the next row. Only while not `atEnd`. Engine failures are raised.
     virtual void moveNext() = 0;
@@ -61,7 +63,7 @@ class Cursor {
 
     /// The number of rows; -1 when it is not known without walking them.
     virtual std::int32_t rowCount() const = 0;
-    /// The cursor type really given.
+    /// The types really given.
     virtual CursorType cursorType() const = 0;
     virtual LockType lockType() const = 0;
 
@@ -71,7 +73,7 @@ class Cursor {
     virtual void update(std::span<const FieldChange> changes) = 0;
 
   protected:
-    // Asked for with every cell.
+    /// What `isOpen` and `atEnd` say, for the provider to set: asked for with every cell.
     bool mIsOpen = true;
     bool mAtEnd = false;
 };

@@ -23,6 +23,7 @@ class FieldKey {
     /// field: the look-up raises ItemNotFound.
     FieldKey(const Variant& key);
 
+    /// Whether it is an ordinal, else a name. The one that it is not is -1, or empty.
     bool isOrdinal() const { return mOrdinal >= 0 || mName.data() == nullptr; }
     int ordinal() const { return mOrdinal; }
     std::string_view name() const { return mName; }

@@ -17,16 +17,20 @@ struct TableState;
 ///     key.PrimaryKey(true);
 class Index {
   public:
+    /// Over these columns, in this order.
     Index(std::string_view name, std::vector<std::string> columns)
         : mName(name), mColumns(std::move(columns)) {}
 
+    /// Unique within its table; for a primary key see `Indexes`.
     const std::string& Name() const { return mName; }
     /// The names of its columns, in its order.
     const std::vector<std::string>& Columns() const { return mColumns; }
 
+    /// Whether rows are known by it: `Recordset::Update` finds its row by it.
     bool PrimaryKey() const { return mPrimaryKey; }
     void PrimaryKey(bool primaryKey) { mPrimaryKey = primaryKey; }
-    /// Always true of a primary key.
+
+    /// Whether no two rows may have the same values in its columns. Always true of a primary key.
     bool Unique() const { return mUnique || mPrimaryKey; }
     void Unique(bool unique) { mUnique = unique; }
 
@@ -44,8 +48,10 @@ class Index {
 /// listed by that of its first column.
 class Indexes {
   public:
+    /// As `Table::Indexes` makes it.
     explicit Indexes(std::shared_ptr<TableState> table) : mTable(std::move(table)) {}
 
+    /// At the time of the call, copies: changing one changes no table.
     std::int32_t Count() const { return static_cast<std::int32_t>(All().size()); }
     std::vector<Index> All() const;
 

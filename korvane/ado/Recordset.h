@@ -19,7 +19,9 @@ class Recordset;
 /// reopened or released raises ObjectClosed.
 class Field {
   public:
+    /// The name of the column, as the result has it.
     std::string Name() const;
+    /// The type of the column; a value may be Null whatever it is.
     DataType Type() const;
     /// Characters; 0 when the type has no length.
     std::int32_t DefinedSize() const;
@@ -53,7 +55,9 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     /// Codes of `Supports`.
     enum Capability : std::int32_t { Updating = 16777216, Bookmark = 8192, ApproximatePosition = 16384 };
 
+    /// A closed one.
     static std::shared_ptr<Recordset> create();
+    /// Pending changes are dropped.
     ~Recordset();
 
     /// 1 while open, else 0.
@@ -80,14 +84,16 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     /// The number of rows; -1 for a forward-only one.
     std::int32_t RecordCount() const;
 
+    /// Whether it stands behind the last row: there is no current one. So it begins where there are no rows.
     bool Eof() const;
 
     /// To the next row; pending changes of the current one are written first. NoCurrentRecord when already at
     /// the end.
     void MoveNext();
 
+    /// How many columns each row has, also where there are no rows.
     std::int32_t FieldCount() const;
-    /// ItemNotFound for an unknown name or ordinal.
+    /// A column, for the current row. ItemNotFound for an unknown name or ordinal.
     Field Fields(const FieldKey& key) const;
     DataType FieldType(const FieldKey& key) const;
 
@@ -110,6 +116,7 @@ class Recordset : public std::enable_shared_from_this<Recordset> {
     /// Writes the pending changes of the current row into its table. On failure they stay pending. Nothing
     /// pending: nothing happens.
     void Update();
+    /// Drops the pending changes: the row reads as it did before.
     void CancelUpdate();
 
   private:

@@ -22,10 +22,12 @@ class Table {
   public:
     /// A new one, without columns.
     explicit Table(std::string_view name);
+    /// As `Tables::Item` makes it.
     explicit Table(std::shared_ptr<TableState> state) : mState(std::move(state)) {}
 
     /// As the database spells it.
     const std::string& Name() const;
+    /// What it is made of: changing them changes a table that is in the database.
     ado::Columns Columns() const { return ado::Columns(mState); }
     ado::Indexes Indexes() const { return ado::Indexes(mState); }
 

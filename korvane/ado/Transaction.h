@@ -11,9 +11,12 @@ namespace Korvane::ado {
 ///     work.commit();
 class Transaction {
   public:
+    /// Begins one, inside what is open. Raises when it cannot: a lock that another desk keeps too long, a
+    /// line that is down.
     explicit Transaction(Connection& connection, TransactionFor use = TransactionFor::Writing);
     /// Rolls back when not committed; never raises.
     ~Transaction();
+
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 

@@ -43,6 +43,7 @@ class SQLData {
     SQLData() = default;
     /// Closes an open result as `CloseRS` does, so that pending changes are written.
     ~SQLData();
+
     SQLData(const SQLData&) = delete;
     SQLData& operator=(const SQLData&) = delete;
 
@@ -78,6 +79,7 @@ class SQLData {
 
     /// 0 without a result or when it is closed, 1 when open.
     std::int32_t State() const;
+    /// Whether there is no current row any more. False, with a failure reported, without a result.
     bool Eof();
     /// Writes pending changes and goes to the next row. A failure to write is reported and the changes are
     /// dropped; a failure of the move itself is raised.
@@ -85,15 +87,18 @@ class SQLData {
     /// Writes pending changes and closes the result; every failure is ignored.
     void CloseRS();
 
+    /// Empties the list, for the next statement.
     void InsertListClear();
     void UpdateListClear();
-    /// "([a],[b])  values (1,'x')"
+    /// What stands behind "Insert Into <table>": "([a],[b])  values (1,'x')"
     std::string InsertListGet() const;
-    /// "[a]=1,[b]='x'"
+    /// What stands behind "Set" of an update: "[a]=1,[b]='x'"
     const std::string& UpdateListGet() const;
 
     /// Appends a column and its value. `quoting` Automatic is settled by the value's kind and written back:
-    /// Bare for Null, 16- and 32-bit integers, singles and booleans, Quoted for everything else.
+    /// Bare for Null, 16- and 32-bit integers, singles and booleans, Quoted for everything else. A value that
+    /// has no text (an array, a date out of range) is reported and leaves its place empty: no statement made
+    /// of the list can run.
     void InsertListAdd(std::string_view column, const Variant& value, std::int32_t& quoting);
     void UpdateListAdd(std::string_view column, const Variant& value, std::int32_t& quoting);
     void InsertListAdd(std::string_view column, const Variant& value,

@@ -11,10 +11,10 @@ namespace Korvane {
 ///     nip.CreateField(1, {.fieldName = "Mood", .caption = "Mood", .maxLength = 20, .displayType = "LIST",
 ///                         .values = {"Good", "Poor"}, .defaultValue = "Good"});
 struct FieldDefinition {
-    std::string fieldName = {}; ///< also the column in the group's table
-    std::string caption = {};
-    std::int16_t maxLength = 0; ///< characters, from 1
-    std::string displayType = "TEXT";
+    std::string fieldName = {};           ///< also the column in the group's table
+    std::string caption = {};             ///< what stands beside its entry
+    std::int16_t maxLength = 0;           ///< characters, from 1
+    std::string displayType = "TEXT";     ///< or "LIST", "COMBOBOX" ..., see `cNIP::displayType`
     std::int16_t initialValueRule = 0;    ///< 1: a new encounter begins with the value of the latest one
     std::vector<std::string> values = {}; ///< allowed, in order
     std::string defaultValue = {};        ///< one of `values`; empty: none of them

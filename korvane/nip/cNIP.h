@@ -26,9 +26,9 @@ struct StructureStep;
 
 /// What was entered into a field that is there no more.
 struct LostEntry {
-    std::string groupName;
-    std::string caption;
-    std::string text;
+    std::string groupName; ///< of its group, which may be gone too
+    std::string caption;   ///< of the field, as it was
+    std::string text;      ///< all of it; entries of a list joined with "|"
 };
 
 /// The model of a Nip: its groups, the fields of each group, each field's allowed values and its value for
@@ -51,22 +51,31 @@ class cNIP {
     cNIP(const cNIP&) = delete;
     cNIP& operator=(const cNIP&) = delete;
 
+    /// How many groups are loaded; 0 before `LoadStructure`.
     std::int16_t GroupCount() const;
     /// Fields of a group, and rows of its layout grid.
     std::int16_t FieldCount(std::int16_t group) const;
     std::int16_t RowCount(std::int16_t group) const;
     std::int16_t RowCountMax() const;
 
+    /// Of the field's group; empty, and 0, where there is no field.
     const std::string& TableName(std::int16_t group, std::int16_t field) const;
     const std::string& GroupName(std::int16_t group, std::int16_t field) const;
     std::int32_t GroupID(std::int16_t group, std::int16_t field) const;
     /// The name of a group, also of one without fields.
     const std::string& GroupName(std::int16_t group) const;
 
+    /// The column in the group's table, as it is in the database.
     const std::string& fieldName(std::int16_t group, std::int16_t field) const;
     /// A different name is kept beside the stored one and marks the field as changed; `fieldName` stays until
     /// it is saved.
     void fieldName(std::int16_t group, std::int16_t field, std::string_view name);
+
+    /// The definition of a field as it was loaded. Setting a part of it changes the model and marks nothing
+    /// as changed: what is to be stored goes through `EditField`. The length is in characters; the display
+    /// type is one of "TEXT", "COMBOBOX", "COMBOBOX-RESTRICTED", "LIST", "LIST-MULTIPLE" and
+    /// "LIST-EDITCONTENT", in any case; an initial value rule of 1 lets a new encounter begin with the value
+    /// of the latest one; fields stand in the order of their ordinals.
     const std::string& Caption(std::int16_t group, std::int16_t field) const;
     void Caption(std::int16_t group, std::int16_t field, std::string_view caption);
     std::int16_t maxLength(std::int16_t group, std::int16_t field) const;
@@ -74,20 +83,26 @@ class cNIP {
     const std::string& dataType(std::int16_t group, std::int16_t field) const;
     const std::string& displayType(std::int16_t group, std::int16_t field) const;
     void displayType(std::int16_t group, std::int16_t field, std::string_view type);
-    std::int16_t ControlIndex(std::int16_t group, std::int16_t field) const;
-    void ControlIndex(std::int16_t group, std::int16_t field, std::int16_t index);
-    std::int16_t ControlIndexLabel(std::int16_t group, std::int16_t field) const;
-    void ControlIndexLabel(std::int16_t group, std::int16_t field, std::int16_t index);
     std::int16_t InitialValueRule(std::int16_t group, std::int16_t field) const;
     void InitialValueRule(std::int16_t group, std::int16_t field, std::int16_t rule);
-    std::int16_t RowIndex(std::int16_t group, std::int16_t field) const;
-    void RowIndex(std::int16_t group, std::int16_t field, std::int16_t row);
-    std::int16_t ColIndex(std::int16_t group, std::int16_t field) const;
-    void ColIndex(std::int16_t group, std::int16_t field, std::int16_t column);
     float Ordinal(std::int16_t group, std::int16_t field) const;
     void Ordinal(std::int16_t group, std::int16_t field, float ordinal);
     const Variant& DefaultValue(std::int16_t group, std::int16_t field) const;
     void DefaultValue(std::int16_t group, std::int16_t field, const Variant& value);
+
+    /// Where a panel shows the field: the indexes of its entry and of its caption in their control arrays (an
+    /// entry that it cannot show has -1), its row from 1, and its column, 1 or 2 for a comment beside its
+    /// field.
+    std::int16_t ControlIndex(std::int16_t group, std::int16_t field) const;
+    void ControlIndex(std::int16_t group, std::int16_t field, std::int16_t index);
+    std::int16_t ControlIndexLabel(std::int16_t group, std::int16_t field) const;
+    void ControlIndexLabel(std::int16_t group, std::int16_t field, std::int16_t index);
+    std::int16_t RowIndex(std::int16_t group, std::int16_t field) const;
+    void RowIndex(std::int16_t group, std::int16_t field, std::int16_t row);
+    std::int16_t ColIndex(std::int16_t group, std::int16_t field) const;
+    void ColIndex(std::int16_t group, std::int16_t field, std::int16_t column);
+
+    /// What the encounter has in the field: text once loaded. `Save` stores it.
     const Variant& value(std::int16_t group, std::int16_t field) const;
     void value(std::int16_t group, std::int16_t field, const Variant& value);
 
@@ -147,9 +162,9 @@ class cNIP {
 
     /// Adds a group with a table of its own, as the last one. Its table is named after the greatest name
     /// there is, by the rule of `tableNameAfter`, which knows no more than two names; with `numbersGroups` it
-    /// takes the number after the greatest in use.
-    /// A blank name is refused.
+    /// takes the number after the greatest in use. A blank name is refused.
     bool CreateGroup(std::string_view name);
+    /// How `CreateGroup` names its table, see there. Default false.
     bool numbersGroups() const { return mNumbersGroups; }
     void numbersGroups(bool on) { mNumbersGroups = on; }
 

@@ -35,25 +35,18 @@ class Attachment {
     /// property is changed. When the row could not be read at all, `Save` refuses until a load succeeds.
     void AttachmentID(const Variant& id);
 
+    /// The columns of the row, in the host's own words: nothing is made of them here. What is set is stored
+    /// by `Save`. The category is a number as text, see `ListCategories`.
     const std::string& Archived() const { return mArchived; }
     void Archived(std::string_view value);
     const std::string& AttachmentType() const { return mAttachmentType; }
     void AttachmentType(std::string_view value);
-    /// The name of the category `CategoryID`, counted from 0. SubscriptOutOfRange outside 0 to 6.
-    const std::string& Category() const;
     const std::string& CategoryID() const { return mCategoryID; }
     void CategoryID(std::string_view value);
-    void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
-    bool Deleted() const { return mDeleted; }
-    /// Marks as deleted, whatever value is given: an attachment is never undeleted this way.
-    void Deleted(bool value);
     const std::string& Description() const { return mDescription; }
     void Description(std::string_view value);
     std::int32_t EncounterID() const { return mEncounterID; }
     void EncounterID(std::int32_t value);
-    /// Text that is no date is ignored; the same date in other words changes nothing.
-    const std::string& EntryDate() const { return mEntryDate; }
-    void EntryDate(std::string_view value);
     const std::string& FileName() const { return mFileName; }
     void FileName(std::string_view value);
     const std::string& InUseBy() const { return mInUseBy; }
@@ -64,9 +57,23 @@ class Attachment {
     void Orientation(std::string_view value);
     const std::string& Origin() const { return mOrigin; }
     void Origin(std::string_view value);
-    /// As `EntryDate`.
+
+    /// The name of the category `CategoryID`, counted from 0. SubscriptOutOfRange outside 0 to 6.
+    const std::string& Category() const;
+
+    /// Whether it counts as deleted, while its row is still there. Setting it marks it so, whatever value is
+    /// given: an attachment is never undeleted this way.
+    bool Deleted() const { return mDeleted; }
+    void Deleted(bool value);
+
+    /// Dates as texts. One that is no date is ignored; the same date in other words changes nothing.
+    const std::string& EntryDate() const { return mEntryDate; }
+    void EntryDate(std::string_view value);
     const std::string& OriginDate() const { return mOriginDate; }
     void OriginDate(std::string_view value);
+
+    /// What it loads from and saves to; the host's, and to be given before an identifier.
+    void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
 
     /// Name and number in turn ("Audio", "1", ... "Other", "7"), an array from 0 to 13. The numbers are one
     /// more than the matching `CategoryID`.

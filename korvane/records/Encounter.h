@@ -44,11 +44,13 @@ class Encounter {
     /// is stored until its property is changed. When the row could not be read at all, `Save` refuses until a
     /// load succeeds.
     void EncounterID(std::int32_t id);
-    /// Overflow above 32767.
+    /// Of the collection here: none until `LoadAttachments`. Overflow above 32767.
     std::int16_t AttachmentCount() const;
     /// Adds it under the text of its identifier. DuplicateKey when there is one with that identifier,
     /// InvalidArgument for nothing.
     void AttachmentLet(std::shared_ptr<Attachment> attachment);
+
+    /// The columns of the row. What is set is checked and stored by `Save`.
     const std::string& Description() const { return mDescription; }
     void Description(std::string_view value) { mDescription = value; }
     Date EncounterDate() const { return mEncounterDate; }
@@ -61,6 +63,7 @@ class Encounter {
     const std::string& PatientID() const { return mPatientID; }
     void PatientID(std::string_view value) { mPatientID = value; }
     void Transport(std::int32_t value) { mTransport = value; }
+    /// What it loads from and saves to; the host's, and to be given before an identifier.
     void Connection(std::shared_ptr<ado::Connection> connection) { mConnection = std::move(connection); }
 
     /// Whether the statement of the last `Save` touched exactly one row. False after an insert that failed,
@@ -84,6 +87,7 @@ class Encounter {
     /// column as it was, and if so updates it, so that nothing is stored twice. An insert that itself lost
     /// its connection needs no such word.
     void MayBeStored(const Encounter& attempt) { mRow.doubt(attempt.mRow); }
+
     /// Has that look now: `EncounterID` is the identifier if the row is there. False, with a line in the
     /// error log, when it cannot be read.
     bool Settle();

@@ -15,7 +15,9 @@ class Clock {
     /// What tells the time.
     using Source = std::function<Date()>;
 
+    /// The current local time, or what the source says that was set.
     static Date now();
+    /// For the whole process; null goes back to the system's clock.
     static void set(Source source);
 };
 

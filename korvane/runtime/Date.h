@@ -25,14 +25,16 @@ class Date {
   public:
     /// What a calendar and a clock show: the defaults are those of day 0.
     struct Parts {
+        /// Months and days from 1, hours from 0 to 23.
         int year = 1899, month = 12, day = 30, hour = 0, minute = 0, second = 0;
-        int weekday = 6; ///< 0 = Sunday
-        int dayOfYear = 364;
+        int weekday = 6;     ///< 0 = Sunday
+        int dayOfYear = 364; ///< from 1
         bool operator==(const Parts&) const = default;
     };
 
     /// Day 0: midnight of 30 December 1899, the "zero date".
     constexpr Date() = default;
+    /// Taken as it is: one out of range is refused only by what reads it.
     constexpr explicit Date(double dayNumber) : mDays(dayNumber) {}
 
     /// Parts out of range roll over (month 13 is January of the next year). Overflow outside the range of
@@ -44,6 +46,7 @@ class Date {
     static std::optional<Date> exactly(int year, int month, int day, int hour = 0, int minute = 0,
                                        int second = 0);
 
+    /// Days since day 0, the time of day as the fraction; for days before see above.
     constexpr double dayNumber() const { return mDays; }
 
     /// Overflow when the day number is outside the range of years.

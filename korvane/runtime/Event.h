@@ -12,7 +12,9 @@ namespace Korvane {
 class EventHandle {
   public:
     EventHandle() = default;
+    /// As `Event::connect` makes it.
     explicit EventHandle(std::shared_ptr<void> link) : mLink(std::move(link)) {}
+    /// At once, also while the listener is being called.
     void disconnect() { mLink.reset(); }
 
   private:
@@ -34,6 +36,7 @@ class Event {
     /// What is called when the event is raised.
     using Listener = std::function<void(Args...)>;
 
+    /// The listener is there as long as the handle: without one it is never called.
     [[nodiscard]] EventHandle connect(Listener listener) {
         auto link = std::make_shared<Listener>(std::move(listener));
         std::erase_if(mListeners, [](const auto& l) { return l.expired(); });
@@ -41,6 +44,7 @@ class Event {
         return EventHandle(std::move(link));
     }
 
+    /// Calls the listeners; with none it does nothing.
     void raise(Args... args) const {
         const auto listeners = mListeners;
         for (const auto& weak : listeners) {

@@ -40,6 +40,7 @@ class Interaction {
     /// The answer of somebody who agrees to nothing: No, else Cancel, else Ok where that is the only button.
     static Answer refusal(int style);
 
+    /// The one in force; there always is one.
     static Interaction& current();
 
     /// Installs another one and returns the one before; null goes back to the default.

@@ -41,9 +41,12 @@ class RuntimeError : public std::runtime_error {
 
     /// With the usual description of that number.
     explicit RuntimeError(int number);
+    /// With one that says more.
     RuntimeError(int number, std::string description, int nativeCode = 0);
 
+    /// One of `Code`, or another that the raiser chose.
     int Number() const noexcept { return mNumber; }
+    /// For a person to read; of a database failure in the engine's words.
     const std::string& Description() const noexcept { return mDescription; }
     /// The database engine's own code; 0 when no engine was involved.
     int NativeCode() const noexcept { return mNativeCode; }

@@ -15,24 +15,25 @@ class Variant;
 
 /// A fixed-point number with four decimals.
 struct Currency {
-    std::int64_t tenThousandths = 0;
+    std::int64_t tenThousandths = 0; ///< 25000 is 2.5
     friend bool operator==(const Currency&, const Currency&) = default;
 };
 
 /// A decimal number: (-1)^negative * mantissa / 10^scale, the mantissa up to 96 bits, the scale 0 to 28.
 struct Decimal {
-    std::uint32_t high = 0;
-    std::uint64_t low = 0;
-    std::uint8_t scale = 0;
-    bool negative = false;
+    std::uint32_t high = 0; ///< the mantissa's bits above the 64 of `low`
+    std::uint64_t low = 0;  ///< the mantissa's lower 64 bits
+    std::uint8_t scale = 0; ///< decimals
+    bool negative = false;  ///< below 0
     friend bool operator==(const Decimal&, const Decimal&) = default;
 };
 
 /// A one-dimensional array whose first element has the index `lowerBound`.
 struct VariantArray {
-    std::int32_t lowerBound = 0;
-    std::vector<Variant> elements;
+    std::int32_t lowerBound = 0;   ///< the index of the first element
+    std::vector<Variant> elements; ///< from `lowerBound` on
 
+    /// The index of the last element; one below `lowerBound` when there is none.
     std::int32_t upperBound() const;
     /// SubscriptOutOfRange outside lowerBound..upperBound.
     const Variant& at(std::int32_t index) const;
@@ -72,7 +73,10 @@ class Variant {
         friend bool operator==(NullValue, NullValue) = default;
     };
 
+    /// Empty.
     Variant() = default;
+
+    /// Of the kind that belongs to the C++ type. A 64-bit number has none.
     Variant(NullValue) : mValue(NullValue{}) {}
     Variant(bool v) : mValue(v) {}
     Variant(std::uint8_t v) : mValue(v) {}
@@ -88,8 +92,10 @@ class Variant {
     Variant(const char* v) : mValue(std::string(v ? v : "")) {} ///< a null pointer is an empty text
     Variant(VariantArray v);
 
+    /// Null.
     static Variant null() { return Variant(NullValue{}); }
 
+    /// The kind of value held now.
     VarType type() const;
     bool isEmpty() const { return std::holds_alternative<EmptyValue>(mValue); }
     bool isNull() const { return std::holds_alternative<NullValue>(mValue); }
@@ -142,6 +148,7 @@ class Variant {
     using Storage =
         std::variant<EmptyValue, NullValue, std::int16_t, std::int32_t, float, double, Currency, Date,
                      std::string, bool, Decimal, std::uint8_t, std::shared_ptr<VariantArray>>;
+    /// The value, for a `std::visit` of every kind.
     const Storage& storage() const { return mValue; }
 
   private:

@@ -13,6 +13,7 @@ namespace Korvane::voice {
 /// `StreamSource` and `Microphone` are sources; a host may bring its own.
 class AudioSource {
   public:
+    /// Samples a second.
     static constexpr int sampleRate = 16000;
 
     virtual ~AudioSource() = default;

@@ -23,6 +23,7 @@ class FileSource : public AudioSource {
         AtOnce, ///< as fast as it is read
     };
 
+    /// The file need not be there yet.
     explicit FileSource(std::filesystem::path file, Pace pace = Pace::Spoken);
 
     /// The file to read from the next `Start` on.
@@ -30,6 +31,7 @@ class FileSource : public AudioSource {
 
     /// Raises `RuntimeError` 53 for a file that cannot be read and 5 for one that holds no such sound.
     void Start() override;
+
     void Stop() noexcept override;
     std::optional<std::size_t> Read(std::span<std::int16_t> samples,
                                     std::chrono::milliseconds patience) override;

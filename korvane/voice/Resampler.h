@@ -18,6 +18,8 @@ class Resampler {
     /// Raises `RuntimeError` 5 for a rate outside 4000 to 384000 or no channel.
     Resampler(int rate, int channels);
 
+    /// The next stretch of sound, a sample of each channel in turn; what is left over goes before the one
+    /// after it.
     std::vector<std::int16_t> convert(std::span<const std::int16_t> interleaved);
 
   private:

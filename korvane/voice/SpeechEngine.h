@@ -23,6 +23,7 @@ class SpeechEngine {
   public:
     virtual ~SpeechEngine() = default;
 
+    /// The parts that a control or a form listens with. Each caller gets its own.
     virtual std::unique_ptr<VoiceCommandControl> MakeVoiceCommand() = 0;
     virtual std::unique_ptr<DictationControl> MakeDictation() = 0;
     virtual std::unique_ptr<MicrophoneSwitch> MakeMicrophone() = 0;

@@ -19,6 +19,7 @@ namespace Korvane::voice {
 /// nobody has read yet.
 class StreamSource : public AudioSource {
   public:
+    /// How much unread sound is kept.
     static constexpr std::chrono::seconds longest{30};
 
     /// Samples as `AudioSource` gives them; see `Resampler` for others.

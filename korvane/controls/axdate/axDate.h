@@ -125,7 +125,9 @@ class axDate : public UserControl, private FocusSteps::Handler {
     void showDate();
     /// Composes the whole date from the boxes, see above.
     void figureDate();
-    /// Whether a text will do for a part (0 month, 1 day, 2 year), see `isValidPart`.
+    /// Whether a text will do for a part. An empty one does; else it has to be a number: a month (0) from 1
+    /// to 12, a day (1) from 1 to 31 in any month, a year (2) of 4 characters that is not negative, or of 2
+    /// when four are not required. Any number will do for another index.
     bool isValid(const QString& value, qint16 fieldIndex) const;
     /// The number of a month by its full English name, as text; else "not found".
     QString GetMonthNumberString(const QVariant& monthName) const;

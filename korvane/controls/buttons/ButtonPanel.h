@@ -51,12 +51,15 @@ class ButtonPanel : public UserControl {
     /// `arrayName` is the name of the control array: its elements are `arrayName(0)` and so on.
     ButtonPanel(int count, const QString& arrayName, QWidget* parent);
 
+    /// Around all buttons.
     QGroupBox& frame() const { return *frame1; }
+    /// Of the buttons, those that are hidden too; indexes go from 0.
     int count() const { return static_cast<int>(mButtons.size()); }
     bool has(int index) const { return index >= 0 && index < count(); }
     /// Raises `RuntimeError::SubscriptOutOfRange`.
     PanelButton& button(int index) const;
 
+    /// The caption of a button as it was set, ampersand and all.
     QString caption(int index) const;
     void caption(int index, const QString& text);
     /// The same without marking the property changed.

@@ -51,6 +51,7 @@ class funcPanel : public ButtonPanel {
     enum FontSize : int { EightPoints = 0, TenPoints = 1, TwelvePoints = 2 };
     Q_ENUM(FontSize)
 
+    /// With five buttons, captioned "1" to "5".
     explicit funcPanel(QWidget* parent = nullptr);
 
     /// The frame's back colour as a 32-bit colour (see `BackColour.h`). Default the button face, which leaves
@@ -71,6 +72,7 @@ class funcPanel : public ButtonPanel {
     bool btnsFontBold() const { return mAllBold; }
     void btnsFontBold(bool bold);
 
+    /// The caption of the fifth button, as `btnText1`.
     QString btnText5() const { return caption(4); }
     void btnText5(const QString& text) { caption(4, text); }
 
@@ -90,6 +92,7 @@ class funcPanel : public ButtonPanel {
     qint16 buttonStyle() const { return mStyle; }
     void buttonStyle(qint16 style);
 
+    /// The frame's caption, see above for its two defaults.
     QString FrameCaption() const;
     void FrameCaption(const QString& text);
 

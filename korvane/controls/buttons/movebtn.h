@@ -26,6 +26,7 @@ class movebtn : public ButtonPanel {
     Q_PROPERTY(bool Enabled READ Enabled WRITE Enabled)
 
   public:
+    /// With the captions above, and as large as they need.
     explicit movebtn(QWidget* parent = nullptr);
 
     /// The frame's caption.

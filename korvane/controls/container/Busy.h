@@ -16,6 +16,7 @@ class Hourglass {
 /// Keeps a window from painting while it lives.
 class PaintLock {
   public:
+    /// The widget has to outlive it.
     explicit PaintLock(QWidget& widget);
     ~PaintLock();
     PaintLock(const PaintLock&) = delete;

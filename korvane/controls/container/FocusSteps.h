@@ -35,15 +35,20 @@ class FocusSteps : public QObject {
         /// The control has got the focus, by one of its parts. May pass it on to another one, which gets it
         /// in its place.
         virtual void enterFocus(Qt::FocusReason reason) = 0;
+        /// The focus has left the control.
         virtual void exitFocus() = 0;
+        /// A part has got it.
         virtual void gotFocus(QWidget& part) = 0;
+        /// Whether the focus may leave a part; false keeps it there.
         virtual bool accepts(const QWidget& part) = 0;
+        /// It was kept there: the place to say why.
         virtual void refused(QWidget& part) = 0;
         /// May give the focus back to the part (`setFocus`): what would have got it hears nothing of it, and
         /// `gotFocus(part)` is the next step.
         virtual void lostFocus(QWidget& part) = 0;
     };
 
+    /// Tells the handler the steps of the control. Both have to outlive it.
     FocusSteps(QWidget& control, Handler& handler);
 
     /// A part of the control, one that is inside it.

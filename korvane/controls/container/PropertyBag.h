@@ -36,8 +36,10 @@ class PropertyBag {
     /// something that is not of that type: a text that reads as a number is one, so is "True" or "False" a
     /// Boolean; a number with a fraction, or one that is too large, is no whole number.
     QVariant ReadProperty(const QString& name, const QVariant& defaultValue) const;
+    /// Keeps the value in place of what the bag has of that name; at its default it keeps none.
     void WriteProperty(const QString& name, const QVariant& value, const QVariant& defaultValue);
 
+    /// What the bag keeps, by name.
     const QMap<QString, QVariant>& values() const { return mValues; }
 
     /// What was wrong with the bag, a line each, by name, once a control has read it: values that were not
@@ -46,6 +48,7 @@ class PropertyBag {
     /// For a control that cannot use what it has read: `why` completes the line "<name> holds <value>: ".
     void addProblem(const QString& name, const QString& why) const;
 
+    /// The bag as an object with a member for each property.
     QJsonObject toJson() const;
     static PropertyBag fromJson(const QJsonObject& object);
 
@@ -54,9 +57,9 @@ class PropertyBag {
     QByteArray Contents() const;
     void Contents(const QByteArray& bytes);
 
-    /// The group is the bag's alone: what was in it goes. An empty name raises
-    /// `RuntimeError::InvalidProcedureCall`. Whether it could be written, `settings.status()` tells after a
-    /// `sync()`.
+    /// Keeps the bag in a group of settings, and reads it from there. The group is the bag's alone: what was
+    /// in it goes. An empty name raises `RuntimeError::InvalidProcedureCall`. Whether it could be written,
+    /// `settings.status()` tells after a `sync()`.
     void save(QSettings& settings, const QString& group) const;
     /// Lines of the settings that cannot be read, and groups inside the bag's, are problems of the bag.
     static PropertyBag load(QSettings& settings, const QString& group);

@@ -15,9 +15,11 @@ class Twips {
     /// The height of a one-line control.
     static constexpr int oneLine = 285;
 
+    /// For the font that the widget has now; after a change of it a new one is needed.
     explicit Twips(const QWidget& widget);
     explicit Twips(const QFont& font);
 
+    /// Pixels for twips, and twips for pixels, rounded.
     int px(int twips) const;
     int fromPx(int pixels) const;
 

@@ -12,10 +12,13 @@ class UserControl : public QWidget {
     Q_OBJECT
 
   public:
+    /// Not in design mode.
     explicit UserControl(QWidget* parent = nullptr);
 
     /// The defaults of a new instance.
     virtual void InitProperties() {}
+    /// Takes the kept properties from a bag, and writes them to one. What the bag lacks, or has in a way that
+    /// cannot be used, reads as its default, which may differ from that of a new instance.
     virtual void ReadProperties(const PropertyBag& bag) = 0;
     virtual void WriteProperties(PropertyBag& bag) const = 0;
 

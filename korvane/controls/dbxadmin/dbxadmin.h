@@ -73,6 +73,7 @@ class dbxadmin : public UserControl {
     enum ListAction : int { AddToList = 0, RemoveFromList = 1 };
     Q_ENUM(ListAction)
 
+    /// As read from an empty bag, but with the display type 0.
     explicit dbxadmin(QWidget* parent = nullptr);
 
     /// Whether the user has changed something, a text in the list's entry box included. False again once
@@ -120,6 +121,7 @@ class dbxadmin : public UserControl {
     void EnableAddToList() { setAddToList(true); }
     void disableAddToList() { setAddToList(false); }
 
+    /// The texts in the entry boxes. Default empty.
     QString fldName() const;
     void fldName(const QString& text);
     QString fieldCaption() const;
@@ -151,6 +153,7 @@ class dbxadmin : public UserControl {
 
     /// The captions, and the list "Item 1/Item 2/Item 3/Etc."
     void InitProperties() override;
+
     void ReadProperties(const PropertyBag& bag) override;
     void WriteProperties(PropertyBag& bag) const override;
 

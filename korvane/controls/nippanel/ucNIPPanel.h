@@ -32,6 +32,7 @@ class ucNIPPanel : public UserControl {
     Q_PROPERTY(bool NumbersGroups READ NumbersGroups WRITE NumbersGroups STORED false)
 
   public:
+    /// Shows no Nip; `Initialize` comes next.
     explicit ucNIPPanel(QWidget* parent = nullptr);
     ~ucNIPPanel() override;
 

@@ -23,6 +23,7 @@ class Microphone : public AudioSource {
     /// Raises `RuntimeError` 57 when there is no microphone, none of that name, or it cannot be opened;
     /// always in a build without Qt Multimedia.
     void Start() override;
+
     void Stop() noexcept override;
     std::optional<std::size_t> Read(std::span<std::int16_t> samples,
                                     std::chrono::milliseconds patience) override;
