@@ -33,7 +33,7 @@ function(korvane_library component)
     if(NOT BUILD_SHARED_LIBS)
         list(APPEND requires ${library_STATIC_REQUIRES})
     endif()
-    # A program that takes the address of a signal or of a class's meta object needs it where the library has it.
+    # Qt's libraries keep their own symbols: a program that had copies of them (of a class's meta object) would crash.
     set(cflags "")
     if(requires MATCHES "Qt6")
         set(cflags " -fPIC")

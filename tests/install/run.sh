@@ -23,6 +23,9 @@ PKG_CONFIG_PATH=$(dirname "$(find "$work/prefix" -name korvane-core.pc)")
 export PKG_CONFIG_PATH
 pkg-config --exists --print-errors korvane-controls korvane-qtsql
 "${CXX:-c++}" -std=c++20 $flags "$source/tests/install/batch.cpp" $(pkg-config --cflags --libs korvane-core) -o "$work/pkg"
-LD_LIBRARY_PATH=$(pkg-config --variable=libdir korvane-core) "$work/pkg"
+libraries=$(pkg-config --variable=libdir korvane-core)
+LD_LIBRARY_PATH=$libraries "$work/pkg"
+"${CXX:-c++}" -std=c++20 $flags "$source/tests/install/host.cpp" $(pkg-config --cflags --libs korvane-controls) -o "$work/pkghost"
+LD_LIBRARY_PATH=$libraries timeout 60 "$work/pkghost" --unattended | grep -x "Encounter 1, due 11/15/2026, pulse 72"
 
 "$work/prefix/bin/korvane-clinic" --version
