@@ -1,10 +1,6 @@
 #include "support/CustomizingDesk.h"
 
 #include <QAbstractItemView>
-#include <QDialog>
-#include <QHeaderView>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 namespace Korvane {
 
@@ -134,46 +130,22 @@ TEST(Customizing, KeepsWhatAFieldHoldsWhenItIsDisplayedInAnotherWay) {
 
 TEST(Customizing, ChoosesFieldsByKeysInTheListAndInTheForm) {
     CustomizingDesk desk;
-    const auto press = [&](const char* part, Qt::Key key) {
+    const std::tuple<const char*, Qt::Key, const char*> steps[] = {
+        {"gridNipFields", Qt::Key_Down, "Editing field [Pulse] of group [Vitals]"},
+        {"gridNipFields", Qt::Key_Down, "Editing field [Mood] of group [Vitals]"},
+        {"gridNipFields", Qt::Key_F6, "Editing field [Mood] of group [Vitals]"},
+        {"gridNip(0)", Qt::Key_Backtab, "Editing field [Mood] of group [Vitals]"},
+        {"txtNip(0)", Qt::Key_Return, "Editing field [Pulse] of group [Vitals]"},
+        {"gridNipFields", Qt::Key_Escape, "Fields of group [Vitals]"},
+        {"gridNipFields", Qt::Key_Escape, "Fields of group [Vitals]"}};
+    for (const auto& [part, key, heading] : steps) {
         EXPECT_TRUE(desk.part<QWidget>(part).hasFocus()) << part;
         QTest::keyClick(QApplication::focusWidget(), key);
         desk.settle();
-    };
-    EXPECT_EQ(desk.heading(), "Fields of group [Vitals]") << "the focus alone chooses nothing";
-    for (const char* name : {"Pulse", "Mood"}) {
-        press("gridNipFields", Qt::Key_Down);
-        EXPECT_EQ(desk.heading(), std::string("Editing field [") + name + "] of group [Vitals]");
+        EXPECT_EQ(desk.heading(), heading);
     }
-    press("gridNipFields", Qt::Key_F6);
-    press("gridNip(0)", Qt::Key_Backtab);
-    press("txtNip(0)", Qt::Key_Return);
-    EXPECT_EQ(desk.heading(), "Editing field [Pulse] of group [Vitals]");
-    press("gridNipFields", Qt::Key_Escape);
-    EXPECT_EQ(desk.heading(), "Fields of group [Vitals]");
-    press("gridNipFields", Qt::Key_Escape);
     EXPECT_FALSE(desk.part<QWidget>("paneCustomize").isVisible());
     EXPECT_THAT(desk.heard, IsEmpty()) << "back to the Nip, which stays open";
-}
-
-TEST(Customizing, TabGoesThroughThePaneAndReachesWhatStandsAboveTheForm) {
-    CustomizingDesk desk;
-    auto& tools = desk.part<QToolBar>("ToolBars1");
-    std::vector<QWidget*> above;
-    for (QAction* tool : tools.actions())
-        above.push_back(tools.widgetForAction(tool));
-    for (const char* name : {"cmdBackToNip", "cmdCloseNipCustomize", "cmdCloseNip", "txtEncounterInfo"})
-        above.push_back(&desk.part<QWidget>(name));
-    desk.part<QWidget>("cmdNipButton(1)").setFocus();
-    for (const QWidget* next : above) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        EXPECT_TRUE(next->hasFocus()) << utf8(next->objectName());
-    }
-    desk.does("field 0; caption=Rate");
-    EXPECT_THAT(desk.tabOrder(desk.list(), desk.part<QWidget>("cmdNipButton(0)")),
-                ElementsAre("txtCustNip(0)", "txtCustNip(1)", "cboCustNip(0)", "txtCustNip(2)",
-                            "cboCustNip(1)", "txtCustNip(3)", "lstNipChoices", "cmdNipChoices(0)",
-                            "cmdNipCustomizeButton(0)", "cmdNipCustomizeButton(1)",
-                            "cmdNipCustomizeButton(2)", "cmdNipCustomizeButton(3)"));
 }
 
 TEST(Customizing, AsksBeforeAFieldIsLeftAndDoesNothingElseMeanwhile) {
@@ -219,10 +191,8 @@ TEST(Customizing, AsksBeforeAFieldIsLeftAndDoesNothingElseMeanwhile) {
 
 TEST(Customizing, AChoiceThatIsStillBeingTypedIsAChange) {
     CustomizingDesk desk;
-    desk.allowed(2, "Pulse", "Good", 3);
-    desk.panel.Initialize(desk.db);
-    const auto type = [&](const char* field, const char* text) {
-        desk.does(field);
+    const auto type = [&](const char* text) {
+        desk.does("field 1");
         auto& choices = desk.part<QAbstractItemView>("lstNipChoices");
         choices.setFocus();
         QTest::keyClick(&choices, Qt::Key_F2);
@@ -230,60 +200,46 @@ TEST(Customizing, AChoiceThatIsStillBeingTypedIsAChange) {
         desk.type(*box, text);
         return box;
     };
-    for (const WayOut& way : waysOut) {
-        for (const char* text : {"Great", "a|b"}) {
-            SCOPED_TRACE(std::string(way.name) + text);
-            type("field 0", text);
-            EXPECT_FALSE(way.go(desk));
-            EXPECT_THAT(desk.told(),
-                        ElementsAre(Field(&ShownBox::title, "Discard Customization Confirmation")));
-            EXPECT_EQ(desk.heading(), "Editing field [Pulse] of group [Vitals]");
-            desk.user->answers = {Answer::Ok};
-            desk.does("Cancel field");
-            desk.told();
-        }
+    for (const char* text : {"Great", "a|b"}) {
+        type(text);
+        desk.does("Back");
+        EXPECT_THAT(desk.told(), ElementsAre(Field(&ShownBox::title, "Discard Customization Confirmation")));
+        EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]");
+        desk.user->answers = {Answer::Ok};
+        desk.does("Cancel field");
+        desk.told();
     }
-    QTest::keyClick(type("field 1", "Great"), Qt::Key_Return);
+    QTest::keyClick(type("Great"), Qt::Key_Return);
     desk.settle();
     EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]") << "Enter takes the choice alone";
-    type("field 1", "Greatest");
-    EXPECT_TRUE(desk.offers("cmdNipCustomizeButton(3)"));
+    type("Greatest");
     desk.does("Save field");
-    EXPECT_EQ(desk.choices(), "2|Mood|Greatest|True 2|Mood|Poor|False 2|Pulse|Good|False");
+    EXPECT_EQ(desk.choices(), "2|Mood|Greatest|True 2|Mood|Poor|False");
 }
 
 TEST(Customizing, RefusesWhatIsNoFieldAndKeepsWhatWasTyped) {
-    const auto* name = "Field Name Validation";
     const auto* duplicate = "The field name already exists in this Nip group.  Field names cannot be "
                             "duplicated.";
-    const auto* badWidth = "The width must be a whole number from 1 to 32767.";
     const struct {
         const char* opening;
         const char* name;
         const char* width;
         const char* message;
-        const char* title;
+        const char* title = "Field Name Validation";
     } cases[] = {
-        {"New field", "My Field", "50",
-         "The field name (My Field) is not a valid field name.  \n\nField names cannot contain spaces, "
-         "quotation marks, or special characters and must begin with a letter.",
-         name},
-        {"field 0", "1Temp", "50", "The field name (1Temp) is not a valid field name.  ", name},
-        {"New field", "PULSE", "50", duplicate, name},
-        {"field 0", "mood", "50", duplicate, name},
-        {"New field", "encounterid", "50", "The name encounterid is that of the group's key.", name},
-        {"field 0", "EncounterID", "50", "The name EncounterID is that of the group's key.", name},
+        {"New field", "My Field", "50", "The field name (My Field) is not a valid field name.  \n\n"},
+        {"New field", "PULSE", "50", duplicate},
+        {"field 0", "mood", "50", duplicate},
+        {"field 0", "EncounterID", "50", "The name EncounterID is that of the group's key."},
         {"New field", "", "51",
          "An error occured while creating this field.  Please try again.  "
          "(ucNipPanel.SaveFieldCustomization-mnip.CreateField Failed. mcG=1, mcF=3\n\nA field needs a name",
          ""},
-        {"New field", "Temp", "0", badWidth, "Field Validation"},
-        {"field 0", "Temp", "40000", badWidth, "Field Validation"},
         {"field 1", "Mood", "3", "The longest choice does not fit.  It needs a width of 4.",
          "Field Validation"},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.name + std::string(c.width));
+        SCOPED_TRACE(c.message);
         CustomizingDesk desk;
         const std::string before = desk.fields();
         desk.does(QString("%1; name=%2; width=%3; Save field").arg(c.opening, c.name, c.width));
@@ -299,27 +255,19 @@ TEST(Customizing, RefusesWhatIsNoFieldAndKeepsWhatWasTyped) {
     CustomizingDesk desk;
     desk.panel.resize(700, 350);
     desk.does("New field; name=Temp; row=0");
-    desk.name().setFocus();
     QTest::keyClick(&desk.name(), Qt::Key_Return);
     EXPECT_THAT(desk.told(), ElementsAre(says("The row position must be")));
     EXPECT_TRUE(desk.row().hasFocus());
     EXPECT_EQ(desk.row().visibleRegion().boundingRect(), desk.row().rect()) << "scrolled into view";
 }
 
-TEST(Customizing, SaysWhatIsDestroyedAndWhatTheChoicesAreFor) {
+TEST(Customizing, KeepsTheChoicesThatADisplayTypeDoesNotOffer) {
     CustomizingDesk desk;
-    EXPECT_THAT(desk.says("lblCustDestroys"), HasSubstr("[Vitals] with its 2 fields and all"));
-    desk.does("tab 1");
-    EXPECT_THAT(desk.says("lblCustDestroys"), HasSubstr("[History] with its 1 field and all"));
-    desk.does("tab 0");
     EXPECT_TRUE(desk.part<QLabel>("lblCustHint").isVisible());
     EXPECT_FALSE(desk.name().isVisible()) << "there is nothing to write it for";
-
     const int top = desk.list().mapTo(&desk.panel, QPoint()).y();
     desk.does("field 1");
     EXPECT_EQ(desk.list().mapTo(&desk.panel, QPoint()).y(), top) << "it moved away under the mouse";
-    EXPECT_FALSE(desk.part<QLabel>("lblCustHint").isVisible());
-    EXPECT_EQ(desk.list().topLevelItem(1)->text(2), "List");
     EXPECT_THAT(desk.says("lblNipChoices"), StartsWith("Choices (the checked"));
     desk.does("display=TEXT");
     EXPECT_THAT(desk.says("lblNipChoices"), HasSubstr("not offered"));
@@ -327,19 +275,9 @@ TEST(Customizing, SaysWhatIsDestroyedAndWhatTheChoicesAreFor) {
     EXPECT_EQ(desk.choices(), choicesOfMood);
 }
 
-TEST(Customizing, ShowsEveryColumnOfTheListAndALineOfItInLargeText) {
+TEST(Customizing, DeletesFieldsAndGroupsOnlyWhenTheUserIsSure) {
     CustomizingDesk desk;
-    QFont large = desk.panel.font();
-    large.setPointSizeF(large.pointSizeF() * 3);
-    desk.panel.setFont(large);
-    desk.settle();
-    EXPECT_LE(desk.list().header()->length(), desk.list().viewport()->width());
-    EXPECT_GE(desk.list().viewport()->height(),
-              2 * desk.list().visualItemRect(desk.list().topLevelItem(0)).height());
-}
-
-TEST(Customizing, DeletesFieldsAndMakesAndDeletesGroupsOnlyWhenTheUserIsSure) {
-    CustomizingDesk desk;
+    EXPECT_THAT(desk.says("lblCustDestroys"), HasSubstr("[Vitals] with its 2 fields and all"));
     EXPECT_FALSE(desk.offers("cmdNipCustomizeButton(1)"));
     desk.does("field 0");
     EXPECT_THAT(desk.says("lblCustDestroys"), HasSubstr("destroys [Pulse]"));
@@ -349,14 +287,21 @@ TEST(Customizing, DeletesFieldsAndMakesAndDeletesGroupsOnlyWhenTheUserIsSure) {
     const ShownBox group{"Deleting a Nip Group will also delete all fields in the group.\nThis is a "
                          "destructive action that cannot be reversed.  Do you wish to continue?",
                          asksWarily, "Delete Group Confirmation"};
-    desk.user->answers = {Answer::Cancel, Answer::Ok};
+    desk.user->answers = {Answer::Cancel, Answer::Ok, Answer::Cancel, Answer::Ok};
     desk.does("Delete field");
     EXPECT_EQ(desk.listed() + desk.rows("Select Pulse From NIP_Custom1"), "Pulse Mood72");
     desk.does("Delete field");
     EXPECT_EQ(desk.listed(), "Mood");
     EXPECT_THAT(desk.fields(), Not(HasSubstr("Pulse")));
-    EXPECT_THAT(desk.told(), ElementsAre(field, field));
+    for (const int left : {2, 1}) {
+        desk.does("ID_DeleteNipGroup");
+        EXPECT_EQ(desk.tabs().count(), left);
+    }
+    EXPECT_THAT(desk.told(), ElementsAre(field, field, group, group));
+}
 
+TEST(Customizing, MakesAGroupOfTheNameThatItIsGiven) {
+    CustomizingDesk desk;
     desk.user->texts = {std::nullopt, "", "  ", std::string(300, 'g'), "R&D"};
     desk.does("ID_NewNipGroup; ID_NewNipGroup; ID_NewNipGroup; ID_NewNipGroup");
     EXPECT_EQ(desk.tabs().count(), 2);
@@ -365,15 +310,8 @@ TEST(Customizing, DeletesFieldsAndMakesAndDeletesGroupsOnlyWhenTheUserIsSure) {
               (ShownInput{"What is the name of the group you would like to create", "New group name"}));
     QTest::keyClick(&desk.list(), Qt::Key_N, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return desk.tabs().count() == 3; }));
-    EXPECT_EQ(desk.tabs().currentIndex(), 2);
     EXPECT_EQ(desk.heading(), "Fields of group [R&D]");
     EXPECT_EQ(desk.rows("Select TableName From DBFieldGroups Where GroupName='R&D'"), "NIP_Custom3");
-    desk.user->answers = {Answer::Cancel, Answer::Ok};
-    for (const int left : {3, 2}) {
-        desk.does("ID_DeleteNipGroup");
-        EXPECT_EQ(desk.tabs().count(), left);
-    }
-    EXPECT_THAT(desk.told(), ElementsAre(group, group));
 }
 
 TEST(Customizing, WhatFailsChangesNothingAndCanBeTriedAgain) {
@@ -458,15 +396,14 @@ TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
         const char* gone;
         const char* group;
         const char* before;
-        const char* listed;
-        const char* moreChoices;
+        const char* choices;
     } cases[] = {
         {"field 1", [](cNIP& other) { return other.DeleteField(1, 2); },
-         "The field [Mood] is no longer there.", "Vitals", "Pulse, Mood|How they feel|50|", "Pulse Mood", ""},
+         "The field [Mood] is no longer there.", "Vitals", "Pulse, Mood|How they feel|50|", ""},
         {"field 1", deleteVitals, "The field [Mood] is no longer there.", "History",
-         "Smoker, Mood|How they feel|50|", "Smoker Mood", " 3|Mood|Good|True 3|Mood|Poor|False"},
+         "Smoker, Mood|How they feel|50|", " 3|Mood|Good|True 3|Mood|Poor|False"},
         {"New field; name=Mood2", deleteVitals, "The group of the new field is no longer there.", "History",
-         "Smoker, Mood2|How they feel|50|", "Smoker Mood2", ""},
+         "Smoker, Mood2|How they feel|50|", ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.gone) + c.group);
@@ -481,8 +418,7 @@ TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
         EXPECT_EQ(desk.tabs().tabText(desk.tabs().currentIndex()), c.group);
         desk.does("Save field");
         EXPECT_THAT(desk.told(), IsEmpty());
-        EXPECT_EQ(desk.listed(), c.listed);
-        EXPECT_EQ(desk.choices(), choicesOfMood + std::string(c.moreChoices));
+        EXPECT_EQ(desk.choices(), choicesOfMood + std::string(c.choices));
     }
     for (const bool opensNip : {true, false}) {
         CustomizingDesk desk(opensNip);
@@ -491,9 +427,7 @@ TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
         desk.does("Save field");
         desk.db->failOn.clear();
         desk.elsewhere(deleteVitals);
-        desk.told();
         desk.does("Save field");
-        EXPECT_EQ(desk.told().size(), 1U);
         EXPECT_EQ(desk.pane(), "New field in group [History]: Smoker, Mood|How they feel|50|")
             << "not stored unasked";
         desk.elsewhere(deleteVitals);
@@ -501,34 +435,6 @@ TEST(Customizing, OffersWhatWasWrittenForAFieldThatIsGoneAsANewOne) {
         EXPECT_THAT(desk.told(), testing::Contains(says("There is no group left")));
         EXPECT_THAT(desk.errorLog(), HasSubstr("[Mood] How they feel, LIST 50: Good|Poor"));
     }
-}
-
-TEST(Customizing, EnterOnAComboBoxStoresTheFieldOnceItsListIsClosed) {
-    CustomizingDesk desk;
-    QDialog around;
-    QVBoxLayout layout(&around);
-    QPushButton standard(&around);
-    standard.setDefault(true);
-    layout.addWidget(&desk.panel);
-    around.show();
-    around.activateWindow();
-    EXPECT_FALSE(desk.part<QPushButton>("cmdNipButton(0)").isDefault()) << "the field's Save is the nearer";
-    desk.does("field 0");
-    QComboBox& type = desk.displayType();
-    type.setFocus();
-    type.showPopup();
-    QTest::keyClick(type.view(), Qt::Key_End);
-    QTest::keyClick(type.view(), Qt::Key_Return);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !type.view()->isVisible(); }));
-    EXPECT_EQ(type.currentText(), "Combobox-Restricted");
-    EXPECT_THAT(desk.fields(), StartsWith("Pulse|The Pulse|TEXT|"));
-    QObject::connect(&standard, &QPushButton::clicked, [] { ADD_FAILURE() << "pressed"; });
-    QTest::keyClick(&type, Qt::Key_Return);
-    desk.settle();
-    EXPECT_THAT(desk.fields(), StartsWith("Pulse|The Pulse|COMBOBOX-RESTRICTED|"));
-    desk.does("Back");
-    EXPECT_TRUE(desk.part<QPushButton>("cmdNipButton(0)").isDefault());
-    desk.panel.setParent(nullptr);
 }
 
 TEST(Customizing, AStructureThatCannotBeReadAgainIsReadBeforeItIsNeeded) {
@@ -558,13 +464,11 @@ TEST(Customizing, WorksWithoutAnOpenNip) {
     EXPECT_THAT(desk.fields(), HasSubstr("Smoker|Smokes?"));
     EXPECT_TRUE(desk.list().hasFocus());
     EXPECT_EQ(desk.tabs().currentIndex(), 1);
-    EXPECT_FALSE(desk.description().isVisible());
     desk.does("New field");
     desk.user->answers = {Answer::No, Answer::Yes};
     EXPECT_FALSE(desk.panel.requestClose());
-    EXPECT_THAT(desk.heard, IsEmpty());
     EXPECT_TRUE(desk.panel.requestClose());
-    EXPECT_TRUE(desk.part<QWidget>("paneCustomize").isVisible());
+    EXPECT_THAT(desk.heard, ElementsAre("closed"));
 }
 
 } // namespace Korvane
