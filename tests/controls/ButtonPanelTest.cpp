@@ -1,10 +1,8 @@
 #include "support/ButtonForm.h"
 
-#include <korvane/controls/axdate/axDate.h>
 #include <korvane/controls/buttons/funcPanel.h>
 #include <korvane/controls/buttons/movebtn.h>
 
-#include <QAccessible>
 #include <QDialog>
 #include <QPushButton>
 
@@ -98,21 +96,6 @@ TEST(ButtonPanel, AnEnterThatIsHeldDownAnswersNoQuestionThatTheClickBringsUp) {
     EXPECT_EQ(answers, 1);
 }
 
-TEST(ButtonPanel, WhatRefusesToLetTheFocusGoHoldsTheAcceleratorUp) {
-    ButtonForm<movebtn> form;
-    form.panel->btnText3("&Next");
-    axDate date;
-    form.form.layout()->addWidget(&date);
-    QCoreApplication::processEvents(); // it is shown
-    date.SetElementFocus(0);
-    QTest::keyClicks(QApplication::focusWidget(), "13");
-    form.press(Qt::Key_N, Qt::AltModifier);
-    EXPECT_THAT(form.heard(), IsEmpty());
-    date.month("12");
-    form.press(Qt::Key_N, Qt::AltModifier);
-    EXPECT_THAT(form.heard(), ElementsAre(2));
-}
-
 TEST(ButtonPanel, KeepsTheFocusWhileAnyOfItsButtonsCanHaveIt) {
     ButtonForm<funcPanel> form;
     form.panel->Focus(4);
@@ -141,17 +124,6 @@ TEST(ButtonPanel, IsTheDefaultOfADialogOnlyWhileItHasTheFocus) {
     EXPECT_THAT(form.heard(), ElementsAre(1));
     form.after->setFocus();
     EXPECT_TRUE(ok->isDefault());
-}
-
-TEST(ButtonPanel, TellsAScreenReaderWhatItsPartsAre) {
-    ButtonForm<movebtn> form;
-    form.panel->btnText2("&Back");
-    const auto name = [](QWidget& part) {
-        return QAccessible::queryAccessibleInterface(&part)->text(QAccessible::Name).toStdString();
-    };
-    EXPECT_EQ(name(*form.panel->findChild<QGroupBox*>("frame1")), "Move Buttons");
-    EXPECT_EQ(name(form.button(0)) + name(form.button(1)), "First recordBack");
-    EXPECT_EQ(form.button(0).toolTip() + form.button(1).toolTip(), "First record");
 }
 
 } // namespace Korvane

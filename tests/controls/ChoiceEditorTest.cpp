@@ -9,7 +9,6 @@
 #include <QListView>
 #include <QMimeData>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QtTest>
 
 #include <gtest/gtest.h>
@@ -87,10 +86,6 @@ class Drag {
         QDropEvent drop(point, both, &mData, {}, keys);
         send(drop);
     }
-    void leave() {
-        QDragLeaveEvent leave;
-        send(leave);
-    }
 
   private:
     static constexpr Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
@@ -104,22 +99,19 @@ class Drag {
 } // namespace
 
 TEST(ChoiceEditor, AddsWhatAListCanHold) {
-    const struct {
-        const char* answer;
-        const char* shown;
-        bool refused = false;
-    } cases[] = {{"E", "A [B] C D E"},        {"", "A [B] C D"},          {" \t ", "A [B] C D"},
-                 {"  E F ", "A [B] C D E F"}, {"E|F", "A [B] C D", true}, {" b ", "A [B] C D", true},
-                 {"E\r\nF", "A [B] C D E F"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.answer);
+    for (const auto& [answer, expected, refused] : {std::tuple{"  E F ", "A [B] C D E F", 0U},
+                                                    {" \t ", "A [B] C D", 0U},
+                                                    {"E|F", "A [B] C D", 1U},
+                                                    {" b ", "A [B] C D", 1U},
+                                                    {"E\r\nF", "A [B] C D E F", 0U}}) {
+        SCOPED_TRACE(answer);
         Editing e;
-        e.user->texts = {c.answer};
+        e.user->texts = {answer};
         e.press(0);
         EXPECT_EQ(e.user->inputs, std::vector{(ShownInput{"What is the new item?", ""})});
-        EXPECT_EQ(shown(e.editor), c.shown);
-        EXPECT_EQ(e.user->boxes.size(), c.refused ? 1u : 0u);
-        EXPECT_EQ(e.edits, shown(e.editor) == "A [B] C D" ? 0 : 1);
+        EXPECT_EQ(shown(e.editor), expected);
+        EXPECT_EQ(e.user->boxes.size(), refused);
+        EXPECT_EQ(e.edits, e.editor.choices().size() - 4);
     }
 }
 
@@ -149,26 +141,14 @@ TEST(ChoiceEditor, PutsADraggedChoiceBeforeTheMark) {
     }
 }
 
-TEST(ChoiceEditor, LeavesTheListAsItWasAfterADragThatIsGivenUp) {
+TEST(ChoiceEditor, DropsNothingThatIsNoLongerShown) {
     Editing e;
     {
         Drag drag(e, 0);
-        drag.over(e.at(2));
-        drag.leave();
-        EXPECT_EQ(drag.over({5, -20}), Qt::IgnoreAction);
-    }
-    EXPECT_EQ(shown(e.editor), "A [B] C D");
-    {
-        Drag ours(e, 0);
-        QMimeData text;
-        text.setText("A");
-        QDropEvent drop(e.at(2), Qt::CopyAction, &text, {}, {});
-        QCoreApplication::sendEvent(e.list().viewport(), &drop);
-        EXPECT_FALSE(drop.isAccepted()) << "a text from elsewhere";
         e.editor.show({"X", "Y"}, -1);
-        ours.drop(e.at(1));
+        drag.drop(e.at(1));
     }
-    EXPECT_EQ(shown(e.editor), "X Y") << "a drag of what is no longer shown";
+    EXPECT_EQ(shown(e.editor), "X Y");
     EXPECT_EQ(e.edits, 0);
 }
 
@@ -192,22 +172,6 @@ TEST(ChoiceEditor, LetsACopyWaitForATextOfItsOwn) {
         EXPECT_EQ(e.edits, differs ? 1 : 0);
         EXPECT_EQ(e.rows(), differs ? 5 : 4);
     }
-}
-
-TEST(ChoiceEditor, ScrollsWhileAChoiceIsHeldAtAnEdge) {
-    Editing e;
-    e.editor.show(QString("Choice ").repeated(40).split(' '), -1);
-    Drag drag(e, 0);
-    const QScrollBar& bar = *e.list().verticalScrollBar();
-    const int height = e.list().viewport()->height();
-    drag.over({20, height - 2});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() == bar.maximum(); }, 10000));
-    drag.over({20, 2});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() < bar.maximum(); }));
-    drag.leave();
-    const int left = bar.value();
-    QTest::qWait(200);
-    EXPECT_EQ(bar.value(), left);
 }
 
 TEST(ChoiceEditor, IsWorkedByKeysAndButtons) {

@@ -22,15 +22,13 @@ FieldDraft listField(const char* type, const char* width) {
 
 TEST(FieldDraft, SaysWhatIsWrongAndWhere) {
     const StructureLimits limits{.groupName = 10, .fieldName = 64, .caption = 20, .choice = 5};
-    QStringList many;
-    for (int i = 0; i < 1000; ++i)
-        many << QString::number(i);
     using Input = FieldDraft::Input;
     const auto put = [](FieldDraft& draft, Input input, const QString& text) {
-        (input == Input::Width     ? draft.width
-         : input == Input::Row     ? draft.row
-         : input == Input::Caption ? draft.caption
-                                   : draft.name) = text;
+        if (input == Input::Choices) draft.choices = text.split('/');
+        if (input == Input::Width) draft.width = text;
+        if (input == Input::Row) draft.row = text;
+        if (input == Input::Caption) draft.caption = text;
+        if (input == Input::Name) draft.name = text;
     };
     const struct {
         Input input;
@@ -45,7 +43,6 @@ TEST(FieldDraft, SaysWhatIsWrongAndWhere) {
         {Input::Name, {QString(64, u'a'), QString(32, u'ö')}, "63 letters"},
         {Input::Caption, {QString(20, u'ö')}, ""},
         {Input::Caption, {QString(21, u'c')}, "20 characters"},
-        {Input::Choices, {many.join('/')}, ""},
         {Input::Choices, {"a/b|c"}, "\"|\""},
         {Input::Choices, {"a/"}, "empty"},
         {Input::Choices, {"a/b/a"}, "the same"},
@@ -56,10 +53,7 @@ TEST(FieldDraft, SaysWhatIsWrongAndWhere) {
             SCOPED_TRACE(utf8(text));
             FieldDraft draft;
             draft.name = "Pulse";
-            if (c.input == Input::Choices)
-                draft.choices = text.split('/');
-            else
-                put(draft, c.input, text);
+            put(draft, c.input, text);
             const auto checked = definitionOf(draft, {}, limits);
             const auto* fault = std::get_if<DraftFault>(&checked);
             EXPECT_EQ(fault != nullptr, *c.message != 0);

@@ -63,16 +63,16 @@ TEST(QtInteraction, ShowsTextAsItStandsWithIconTitleAndAnOrdinaryPointer) {
 }
 
 TEST(QtInteraction, AsksForALineOfText) {
-    QtInteraction user;
-    onceOpen<QInputDialog>([](QInputDialog& box) {
-        EXPECT_EQ(box.labelText(), "Please enter <Dose>:");
-        EXPECT_EQ(box.findChild<QLabel*>()->textFormat(), Qt::PlainText);
-        QTest::keyClicks(box.findChild<QLineEdit*>(), "5 mg");
-        QTest::keyClick(&box, Qt::Key_Return);
-    });
-    EXPECT_EQ(user.InputBox("Please enter <Dose>:", ""), "5 mg");
-    onceOpen<QInputDialog>([](QInputDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    EXPECT_EQ(user.InputBox("Name", ""), std::nullopt);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        onceOpen<QInputDialog>([key](QInputDialog& box) {
+            EXPECT_EQ(box.findChild<QLabel*>()->text(), "Please enter <Dose>:");
+            EXPECT_EQ(box.findChild<QLabel*>()->textFormat(), Qt::PlainText);
+            QTest::keyClicks(box.findChild<QLineEdit*>(), "5 mg");
+            QTest::keyClick(&box, key);
+        });
+        const auto answer = QtInteraction().InputBox("Please enter <Dose>:", "");
+        EXPECT_EQ(answer, key == Qt::Key_Return ? std::optional<std::string>("5 mg") : std::nullopt);
+    }
 }
 
 TEST(QtInteraction, IsInstalledOnceAndNeverInPlaceOfTheHostsOwn) {

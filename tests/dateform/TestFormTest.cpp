@@ -87,17 +87,6 @@ TEST(TestForm, ListsEventsAndShowsWhatWasRefusedUntilItIsMended) {
     EXPECT_THAT(form.events(), IsEmpty());
 }
 
-TEST(TestForm, SwitchesTheDateControl) {
-    OpenForm form;
-    auto& date = form.part<Korvane::axDate>("axDate");
-    form.press("\t1226\t");
-    EXPECT_EQ(date.wholeDate(), "");
-    form.part<QCheckBox>("chkFourDigits").click();
-    form.press("\t1226\t");
-    form.part<QCheckBox>("chkEnlivened").click();
-    EXPECT_FALSE(date.Enlivened());
-}
-
 TEST(TestForm, PlacesWhatIsDictatedAndShowsHowTheMicrophoneStands) {
     FakeSpeech speech;
     OpenForm form;

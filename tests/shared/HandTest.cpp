@@ -59,13 +59,6 @@ TEST_F(Hands, CannotClickThroughWhatLiesAbove) {
     EXPECT_EQ(answer, 0);
 }
 
-TEST_F(Hands, AnswerTheBoxThatComesUp) {
-    hand.answering(
-        [&] { hand.click(button); },
-        [&](QWidget& question) { hand.click(*static_cast<QMessageBox&>(question).button(QMessageBox::No)); });
-    EXPECT_EQ(answer, QMessageBox::No);
-}
-
 TEST_F(Hands, FailWhereABoxIsMissingUnexpectedOrNotAsItShouldBe) {
     const std::vector<std::pair<std::function<void()>, const char*>> failures{
         {[&] { hand.answering([] {}, [](QWidget&) {}); }, "should have come up"},
