@@ -9,8 +9,6 @@
 namespace Korvane {
 
 using namespace Testing;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST(ButtonPanel, TabEntersAtTheButtonLastUsedAndLeaves) {
     ButtonForm<movebtn> form;
@@ -110,20 +108,6 @@ TEST(ButtonPanel, KeepsTheFocusWhileAnyOfItsButtonsCanHaveIt) {
     form.panel->Enabled(false);
     EXPECT_EQ(form.focus(), 9);
     EXPECT_EQ(form.press(Qt::Key_Backtab, Qt::ShiftModifier), -1);
-}
-
-TEST(ButtonPanel, IsTheDefaultOfADialogOnlyWhileItHasTheFocus) {
-    ButtonForm<movebtn, QDialog> form;
-    auto* ok = new QPushButton("OK", &form.form);
-    ok->setDefault(true);
-    form.press(Qt::Key_Return);
-    EXPECT_THAT(form.heard(), IsEmpty()) << "in the text box before";
-    form.panel->Focus(1);
-    EXPECT_FALSE(ok->isDefault());
-    form.press(Qt::Key_Return);
-    EXPECT_THAT(form.heard(), ElementsAre(1));
-    form.after->setFocus();
-    EXPECT_TRUE(ok->isDefault());
 }
 
 } // namespace Korvane

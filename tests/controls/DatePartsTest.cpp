@@ -68,14 +68,10 @@ TEST(DateParts, ReadAsADateWhatTheTableSays) {
     }
 }
 
-TEST(DateParts, WidenYearsAndKnowTheMonths) {
+TEST(DateParts, WidenYears) {
     for (const auto& [two, four] : Texts{{"00", "2000"}, {"29", "2029"}, {"30", "1930"}, {"99", "1999"}})
         EXPECT_EQ(widenedYear(two), four);
     EXPECT_THROW(widenedYear("-5"), RuntimeError);
-    for (const auto& [name, number] : Texts{{"MAY", "5"}, {"january", "1"}, {"December", "12"}})
-        EXPECT_EQ(monthNumber(name), number);
-    for (const char* none : {"Sept", " may", "5", ""})
-        EXPECT_EQ(monthNumber(none), "not found") << none;
 }
 
 TEST(DateBounds, CountWholeDaysAndTheMinimumWins) {

@@ -10,12 +10,10 @@ namespace Korvane {
 
 using namespace Testing;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
 const char* const invalid = "Invalid date format. Please re-enter.";
-const char* const needsFour = "Year requires four digits. Please re-enter.";
 const char* const exitText = "exitfocus";
 
 struct Typed {
@@ -160,20 +158,6 @@ TEST(axDate, AsksForNoValidationOnTheWayToAControlThatWantsNone) {
     EXPECT_EQ(form.boxes(), "13|2|2026") << "what was refused is still there";
 }
 
-TEST(axDate, TakesTheFocusBackForAYearThatIsRefused) {
-    for (const bool four : {true, false}) {
-        DateForm form("1/2/2026");
-        form.require4(four);
-        form.press("\t\t\t202");
-        form.take();
-        QTest::mouseClick(form.help, Qt::LeftButton);
-        EXPECT_EQ(form.focus(), "2");
-        EXPECT_THAT(form.take(), ElementsAre(four ? needsFour : invalid, "index 2"));
-        EXPECT_EQ(form.box(2).selectedText(), "202");
-        EXPECT_FALSE(form.whole().isVisible());
-    }
-}
-
 TEST(axDate, WidensAYearOfTwoDigitsWhereFourAreNotRequired) {
     DateForm form("1/2/2026");
     form.require4(false);
@@ -306,17 +290,6 @@ TEST(axDate, TheUserGetsInOnlyWhileItIsEnlivened) {
         form.date->Enlivened(true);
     }
     check(form, {"\t", "1|2|2026", "1/2/2026", "0", {"index 0"}});
-}
-
-TEST(axDate, AnotherWindowInFrontIsNoLeaving) {
-    DateForm form("1/2/2026");
-    form.press("\t13");
-    form.take();
-    QWidget other;
-    Testing::bringToFront(other);
-    Testing::bringToFront(form.form);
-    EXPECT_EQ(form.focus(), "0");
-    EXPECT_THAT(form.take(), IsEmpty());
 }
 
 TEST(axDate, ItsPartsStandInARowThatHoldsTheirTextsAtAnyFontSize) {

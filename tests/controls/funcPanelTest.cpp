@@ -130,17 +130,4 @@ TEST(funcPanel, ShortensACaptionThatHasNoRoomAndTellsAllOfIt) {
     QToolTip::hideText();
 }
 
-TEST(funcPanel, WritesItsCaptionSoThatItCanBeReadOnTheBackColour) {
-    funcPanel panel;
-    const auto& frame = *panel.findChild<QGroupBox*>("frame1");
-    panel.BackColor(0x800000);
-    EXPECT_EQ(frame.palette().color(QPalette::Window), QColor(0, 0, 128));
-    EXPECT_EQ(frame.palette().color(QPalette::WindowText), QColor(Qt::white));
-    panel.BackColor(static_cast<qint32>(0x8000000DU));
-    EXPECT_EQ(panel.property("BackColor"), panel.palette().color(QPalette::Highlight));
-    panel.setProperty("BackColor", QVariant()); // resets it
-    EXPECT_EQ(panel.BackColor(), static_cast<qint32>(0x8000000FU));
-    EXPECT_FALSE(frame.autoFillBackground());
-}
-
 } // namespace Korvane

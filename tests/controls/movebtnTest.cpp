@@ -41,18 +41,4 @@ TEST(movebtn, ComesBackDisabledFromTheBag) {
     }
 }
 
-TEST(movebtn, PointsToTheOtherSideWhereOneReadsFromTheRight) {
-    const auto picture = [](int index, Qt::LayoutDirection direction) {
-        movebtn panel;
-        panel.setLayoutDirection(direction);
-        QAbstractButton& shown = ButtonForm<movebtn>::buttonOf(panel, index);
-        shown.resize(40, 30);
-        return shown.grab().toImage();
-    };
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(picture(i, Qt::RightToLeft), picture(3 - i, Qt::LeftToRight));
-        EXPECT_NE(picture(i, Qt::RightToLeft), picture(i, Qt::LeftToRight));
-    }
-}
-
 } // namespace Korvane
