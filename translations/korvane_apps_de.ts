@@ -646,6 +646,10 @@
         <source>Properties</source>
         <translation>Eigenschaften</translation>
     </message>
+    <message>
+        <source>does not take &quot;%1&quot;</source>
+        <translation>nimmt „%1“ nicht an</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::Exhibits</name>

@@ -46,8 +46,13 @@ QWidget* ControlPage::makeStage(const Exhibit& exhibit) {
     purpose->setWordWrap(true);
     rows->addWidget(purpose);
     rows->addWidget(mControl, exhibit.fills ? 1 : 0, exhibit.fills ? Qt::Alignment() : Qt::AlignLeft);
-    if (!exhibit.fills) rows->addStretch(1);
+    if (exhibit.fills)
+        mControl->setMinimumHeight(fontMetrics().height() * 16);
+    else
+        rows->addStretch(1);
     rows->addWidget(makeMethods(exhibit.methods));
+    // A splitter does not ask how many lines a text has in its width: this one may have three.
+    stage->setMinimumHeight(stage->minimumSizeHint().height() + 2 * fontMetrics().height());
     return stage;
 }
 
@@ -79,6 +84,10 @@ void ControlPage::listen() {
                                  mEvents->hear(event, arguments);
                                  mProperties->refresh();
                              });
+    connect(mProperties, &PropertyModel::refused, this,
+            [this](const QString& property, const QString& value) {
+                mEvents->hear(property, tr("does not take \"%1\"").arg(value));
+            });
     connect(mBag, &BagBox::hasRead, mProperties, &PropertyModel::refresh);
 }
 

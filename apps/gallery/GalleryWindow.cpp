@@ -2,6 +2,8 @@
 
 #include "shared/PaneCycle.h"
 
+#include <korvane/controls/container/PaneScroll.h>
+
 #include <QScreen>
 #include <QShortcut>
 
@@ -11,7 +13,10 @@ GalleryWindow::GalleryWindow(QWidget* parent) : QTabWidget(parent) {
     setWindowTitle(tr("Korvane controls"));
     for (Exhibit& exhibit : makeExhibits()) {
         auto* page = new ControlPage(std::move(exhibit));
-        addTab(page, page->control().objectName());
+        auto* room = new Korvane::PaneScroll(this);
+        room->setWidget(page);
+        page->setAutoFillBackground(false);
+        addTab(room, page->control().objectName());
     }
     addShortcuts();
     const QSize wanted(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 50);
@@ -25,7 +30,7 @@ void GalleryWindow::addShortcuts() {
 }
 
 ControlPage& GalleryWindow::page() const {
-    return *qobject_cast<ControlPage*>(currentWidget());
+    return *qobject_cast<ControlPage*>(static_cast<QScrollArea*>(currentWidget())->widget());
 }
 
 } // namespace Gallery

@@ -7,7 +7,7 @@
 namespace Gallery {
 
 /// Every control of the library, each on a page of its own: Ctrl+Tab goes to the next page, F6 and Shift+F6
-/// round the parts of a page.
+/// round the parts of a page. A page scrolls where the window is too small for it.
 class GalleryWindow : public QTabWidget {
     Q_OBJECT
 

@@ -113,6 +113,7 @@ bool PropertyModel::setData(const QModelIndex& index, const QVariant& value, int
     else
         taken = property.write(&mControl, value);
     refresh();
+    if (!taken) emit refused(QString::fromLatin1(property.name()), value.toString());
     return taken;
 }
 

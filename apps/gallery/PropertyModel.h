@@ -32,6 +32,10 @@ class PropertyModel : public QAbstractTableModel {
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+  signals:
+    /// What was written is no value of the property, which is as it was.
+    void refused(const QString& property, const QString& value);
+
   private:
     const QMetaProperty& propertyAt(const QModelIndex& index) const;
     QVariant valueOf(const QMetaProperty& property, int role) const;

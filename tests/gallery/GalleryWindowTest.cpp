@@ -33,4 +33,21 @@ TEST(GalleryWindow, CanBeReachedByKeysInTheOrderInWhichItIsSeen) {
         << "each part gets the focus back where it was last";
 }
 
+TEST(GalleryWindow, ScrollsAPageThatIsLargerThanItselfToWhatGetsTheFocus) {
+    GalleryWindow window;
+    Korvane::Testing::bringToFront(window);
+    window.resize(300, 300);
+    for (int pages = window.count(); pages > 0; --pages) {
+        SCOPED_TRACE(window.page().control().objectName().toStdString());
+        const QSize least = window.page().minimumSizeHint();
+        EXPECT_EQ(window.page().size().expandedTo(least), window.page().size());
+        for (int parts = 0; parts < 4; ++parts) {
+            QTest::keyClick(&window, Qt::Key_F6);
+            const QWidget& focus = *QApplication::focusWidget();
+            EXPECT_FALSE(focus.visibleRegion().isEmpty()) << focus.objectName().toStdString();
+        }
+        QTest::keyClick(&window, Qt::Key_Tab, Qt::ControlModifier);
+    }
+}
+
 } // namespace Gallery

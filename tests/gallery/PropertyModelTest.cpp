@@ -60,12 +60,16 @@ TEST(PropertyModel, ChangesAPropertyInTheWayOfItsKind) {
         {"BackColor", "#102030", Qt::EditRole, true, "#102030"},
         {"BackColor", "no colour", Qt::EditRole, false, "#102030"},
         {"BackColor", "", Qt::EditRole, true, panel.palette().color(QPalette::Window).name()}};
+    QStringList refused;
+    QObject::connect(&model, &PropertyModel::refused,
+                     [&](const QString& property, const QString& value) { refused << property << value; });
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.property) + ' ' + c.value.toString().toStdString());
         const QModelIndex index = valueOf(model, c.property);
         EXPECT_EQ(model.setData(index, c.value, c.role), c.taken);
         EXPECT_EQ(index.data().toString(), c.shown);
     }
+    EXPECT_EQ(refused, (QStringList{"buttonStyle", "Round", "BackColor", "no colour"}));
     EXPECT_EQ(panel.buttonStyle(), 0);
     EXPECT_EQ(panel.BackColor(), Korvane::buttonFace);
 }
