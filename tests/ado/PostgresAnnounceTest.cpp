@@ -21,8 +21,9 @@ class Announced : public Korvane::Testing::ServerTest {
   protected:
     void prepare() override {
         mHandle.emplace(mSchema->address());
-        for (int group = 1; group <= groups; ++group)
-            mHandle->run("create table " + table(group) + " (ID Integer Primary Key, Value SmallInt)");
+        for (const std::string& statement :
+             each("create table NIP_Custom# (ID Integer Primary Key, Value SmallInt)"))
+            mHandle->run(statement);
         mDb = postgres::adopt(mHandle->get());
         mTrace = std::tmpfile();
         PQtrace(mHandle->get(), mTrace);
@@ -45,43 +46,37 @@ class Announced : public Korvane::Testing::ServerTest {
         return syncs - before;
     }
 
-    static std::string table(int group) { return "NIP_Custom" + std::to_string(group); }
-    static std::string update(int group, int id, const std::string& value) {
-        return "Update " + table(group) + " Set [Value]='" + value + "' Where ID=" + std::to_string(id);
-    }
-    static std::string insert(int group, int id, const std::string& value) {
-        return "Insert Into " + table(group) + "([Value],[ID])  values ('" + value + "'," +
-               std::to_string(id) + ")";
-    }
-    static std::string select(int group, int id) {
-        return "Select [Value] From " + table(group) + " Where ID=" + std::to_string(id);
-    }
-    std::vector<std::string> each(const std::function<std::string(int)>& statement) {
-        std::vector<std::string> all;
-        for (int group = 1; group <= groups; ++group)
-            all.push_back(statement(group));
+    /// A statement for each group, whose number stands for #.
+    static std::vector<std::string> each(const std::string& statement) {
+        std::vector<std::string> all(groups, statement);
+        for (std::size_t i = 0; i < all.size(); ++i)
+            all[i].replace(statement.find('#'), 1, std::to_string(i + 1));
         return all;
     }
+    static std::vector<std::string> selects() { return each("Select [Value] From NIP_Custom# Where ID=1"); }
+    static std::vector<std::string> updates(const std::string& value) {
+        return each("Update NIP_Custom# Set [Value]='" + value + "' Where ID=1");
+    }
     /// As the model saves: an Update a group, and an Insert where it touched nothing.
-    void save(int id, const std::string& value) {
+    void save(const std::string& value) {
+        const auto updating = updates(value);
+        const auto inserting = each("Insert Into NIP_Custom#([Value],[ID])  values ('" + value + "',1)");
         Transaction work(*mDb);
-        mDb->Announce(each([&](int group) { return update(group, id, value); }));
+        mDb->Announce(updating);
         bool announced = false;
-        for (int group = 1; group <= groups; ++group) {
-            if (mDb->Execute(update(group, id, value)) > 0) continue;
-            const auto inserts = each([&](int g) { return insert(g, id, value); });
-            if (!std::exchange(announced, true))
-                mDb->Announce(std::span(inserts).subspan(static_cast<std::size_t>(group - 1)));
-            EXPECT_EQ(mDb->Execute(insert(group, id, value)), 1);
+        for (std::size_t i = 0; i < updating.size(); ++i) {
+            if (mDb->Execute(updating[i]) > 0) continue;
+            if (!std::exchange(announced, true)) mDb->Announce(std::span(inserting).subspan(i));
+            EXPECT_EQ(mDb->Execute(inserting[i]), 1);
         }
         work.commit();
     }
-    std::string load(int id) {
+    std::string load() {
         Transaction snapshot(*mDb, TransactionFor::Reading);
-        mDb->Announce(each([&](int group) { return select(group, id); }));
+        mDb->Announce(selects());
         std::string values;
-        for (int group = 1; group <= groups; ++group)
-            values += one(mDb, select(group, id)) + " ";
+        for (const std::string& statement : selects())
+            values += one(mDb, statement) + " ";
         snapshot.commit();
         return values;
     }
@@ -101,26 +96,26 @@ class Announced : public Korvane::Testing::ServerTest {
 
 TEST_F(Announced, GoTogetherHoweverManyThereAre) {
     trips();
-    EXPECT_EQ(load(1), times("(none) "));
+    EXPECT_EQ(load(), times("(none) "));
     EXPECT_LE(trips(), 3); // with the look into the catalog
-    save(1, "7");
+    save("7");
     EXPECT_LE(trips(), 3);
-    save(1, "8");
+    save("8");
     EXPECT_LE(trips(), 2);
-    EXPECT_EQ(load(1), times("8 "));
+    EXPECT_EQ(load(), times("8 "));
     EXPECT_LE(trips(), 2);
     mHandle->run("delete from NIP_Custom3");
     mHandle->run("delete from NIP_Custom17");
     trips();
-    save(1, "9"); // some rows are there, some are not
+    save("9"); // some rows are there, some are not
     EXPECT_LE(trips(), 3);
-    EXPECT_EQ(load(1), times("9 "));
+    EXPECT_EQ(load(), times("9 "));
 }
 
 TEST_F(Announced, GiveTheFirstAnswerWhileTheServerIsAtWorkOnTheNext) {
-    save(1, "7");
+    save("7");
     mDb = connect(); // a lent one takes all answers first
-    const std::vector<std::string> statements{select(1, 1), "Select 8 From pg_sleep(2)", select(3, 1)};
+    const std::vector<std::string> statements{selects()[0], "Select 8 From pg_sleep(2)", selects()[2]};
     mDb->BeginTrans(TransactionFor::Reading);
     mDb->Announce(statements);
     const auto begun = std::chrono::steady_clock::now();
@@ -134,27 +129,27 @@ TEST_F(Announced, GiveTheFirstAnswerWhileTheServerIsAtWorkOnTheNext) {
 TEST_F(Announced, MayBeMoreThanAreKeptPrepared) {
     postgres::setShapeLimit(*mDb, 3);
     for (const char* value : {"7", "8"}) {
-        save(1, value);
-        EXPECT_EQ(load(1), times(std::string(value) + " "));
+        save(value);
+        EXPECT_EQ(load(), times(std::string(value) + " "));
     }
-    mDb->Execute(update(1, 1, "9")); // takes the last ones along
+    mDb->Execute(updates("9")[0]); // takes the last ones along
     EXPECT_LE(std::stoi(mHandle->value("select count(*) from pg_prepared_statements")), 3);
     mHandle->run("discard all");
     mHandle->run(("set search_path to " + mSchema->name()).c_str());
-    EXPECT_EQ(mDb->Execute(update(1, 1, "10")), 1);
-    EXPECT_EQ(one(mDb, select(1, 1)), "10");
+    EXPECT_EQ(mDb->Execute(updates("10")[0]), 1);
+    EXPECT_EQ(one(mDb, selects()[0]), "10");
     mDb->Close();
     EXPECT_EQ(mHandle->value("select count(*) from pg_prepared_statements"), "0");
 }
 
 TEST_F(Announced, AreSentAnewWhereTheTableHasChanged) {
-    save(1, "7");
-    EXPECT_EQ(load(1), times("7 "));
+    save("7");
+    EXPECT_EQ(load(), times("7 "));
     const NativeHandle other(mSchema->address());
     other.run("alter table NIP_Custom4 alter column Value type varchar(20) using 'text ' || Value");
-    EXPECT_EQ(load(1), times("7 ").substr(0, 6) + "text 7 " + times("7 ").substr(8));
-    save(1, "8");
-    EXPECT_EQ(load(1), times("8 "));
+    EXPECT_EQ(load(), times("7 ").substr(0, 6) + "text 7 " + times("7 ").substr(8));
+    save("8");
+    EXPECT_EQ(load(), times("8 "));
 }
 
 } // namespace Korvane::ado::Testing

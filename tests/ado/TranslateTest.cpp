@@ -75,23 +75,6 @@ TEST_P(Translate, GivesWhatTheGoldenFileHolds) {
     EXPECT_GT(entries, 50);
 }
 
-TEST_P(Translate, KnowsTheTypesOfComputedColumns) {
-    const KnownTables tables = GetParam().tables();
-    const auto types =
-        GetParam()
-            .translate("Select Top 5 Max(e.[EncounterDate]) As M, Description, Count(*), Sum(ProviderID), 7 "
-                       "As Seven, "
-                       "Min(Pulse), Upper(Description) From NIP_Custom1 Inner Join Encounter As e On 1=1",
-                       tables, {})
-            .resultTypes;
-    const std::vector<std::optional<DataType>> expected{
-        DataType::Date,    std::nullopt,       DataType::Integer, DataType::Integer,
-        DataType::Integer, DataType::VarWChar, std::nullopt};
-    EXPECT_EQ(types, expected);
-    EXPECT_TRUE(
-        GetParam().translate("Select *, Max(EncounterID) From Encounter", tables, {}).resultTypes.empty());
-}
-
 INSTANTIATE_TEST_SUITE_P(Engines, Translate, testing::ValuesIn(translations()),
                          [](const auto& engine) { return engine.param.name; });
 

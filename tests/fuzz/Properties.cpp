@@ -6,10 +6,8 @@ namespace Korvane::Fuzz {
 
 std::span<const Property> properties() {
     static constexpr std::array all{
-        Property{"lexing", lexing},           Property{"lifting", lifting},
-        Property{"translating", translating}, Property{"settling", settling},
-        Property{"growing", growing},         Property{"keeping", keeping},
-        Property{"converting", converting},
+        Property{"lexing", lexing},   Property{"lifting", lifting}, Property{"translating", translating},
+        Property{"growing", growing}, Property{"keeping", keeping}, Property{"converting", converting},
     };
     return all;
 }

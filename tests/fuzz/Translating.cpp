@@ -7,6 +7,7 @@
 #include "support/Translating.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,12 +19,6 @@ namespace {
 using namespace ado::sql;
 using Testing::KnownTables;
 using Testing::Translating;
-
-KnownTables textTables(const Translating& engine) {
-    KnownTables tables = engine.tables();
-    tables.becomeTexts();
-    return tables;
-}
 
 /// Text, or one that has no end.
 bool isText(const Token& token) {
@@ -92,37 +87,41 @@ std::optional<Translation> translationOf(std::string_view text, const Translatin
     }
 }
 
+/// With text columns, whose values stay as they are.
+void keepsText(std::string_view text, const std::vector<Token>& all, const Translating& engine,
+               const KnownTables& tables) {
+    const auto made = translationOf(text, engine, tables, false);
+    if (!made) return;
+    require(made->text.size() <= 40 * text.size() + 100, "The translation is far longer", text);
+    require(made->parameters.size() ==
+                static_cast<std::size_t>(std::ranges::count(all, TokenKind::Parameter, &Token::kind)),
+            "A parameter was overlooked", text);
+    if (needsNothing(all, engine)) require(made->text == text, "Nothing was to be changed", text);
+    keepsTexts(text, made->text);
+}
+
+/// With columns of all types.
+void isDone(std::string_view text, const Translating& engine, const KnownTables& tables) {
+    const auto once = translationOf(text, engine, tables, true);
+    if (!once || engine.isServer || !topClauses(analyse(once->text)).empty()) return;
+    const auto twice = translationOf(once->text, engine, tables, true);
+    require(twice && twice->text == once->text, "What was translated is translated again", text);
+}
+
 } // namespace
 
 void translating(std::string_view text) {
-    static const std::vector<KnownTables> tables{textTables(Testing::translations().front()),
-                                                 textTables(Testing::translations().back())};
     const auto all = tokens(text);
-    for (const Translating& engine : Testing::translations()) {
-        const auto made = translationOf(text, engine, tables[engine.isServer ? 1 : 0], false);
-        if (!made) continue;
-        const Translation& translation = *made;
-        require(translation.text.size() <= 40 * text.size() + 100, "The translation is far longer", text);
-        require(translation.parameters.size() ==
-                    static_cast<std::size_t>(std::ranges::count(all, TokenKind::Parameter, &Token::kind)),
-                "A parameter was overlooked", text);
-        if (needsNothing(all, engine)) require(translation.text == text, "Nothing was to be changed", text);
-        keepsTexts(text, translation.text);
-    }
-}
-
-void settling(std::string_view text) {
-    static const std::vector<KnownTables> tables{Testing::translations().front().tables(),
-                                                 Testing::translations().back().tables()};
     Lifter lifter;
     lifter.lift(text);
     for (const Translating& engine : Testing::translations()) {
-        const KnownTables& known = tables[engine.isServer ? 1 : 0];
-        translationOf(lifter.shape(), engine, known, true);
-        const auto once = translationOf(text, engine, known, true);
-        if (!once || engine.isServer || !topClauses(analyse(once->text)).empty()) continue;
-        const auto twice = translationOf(once->text, engine, known, true);
-        require(twice && twice->text == once->text, "What was translated is translated again", text);
+        static std::map<std::string, std::pair<KnownTables, KnownTables>> known;
+        const auto [at, isNew] = known.try_emplace(engine.name, engine.tables(), engine.tables());
+        auto& [typed, asTexts] = at->second;
+        if (isNew) asTexts.becomeTexts();
+        keepsText(text, all, engine, asTexts);
+        translationOf(lifter.shape(), engine, typed, true);
+        isDone(text, engine, typed);
     }
     rowSource(text);
     effectOf(text);

@@ -46,25 +46,4 @@ TEST_F(cNIPTest, KeepsToTheBoundsOfItsTable) {
     EXPECT_EQ(nip.FieldCount(2), 1);
 }
 
-TEST_F(cNIPTest, KeepsItsPropertiesApart) {
-    nips.group(2, "One", "NIP_Custom1");
-    nips.define(2, "A");
-    loadStructure();
-    nip.maxLength(1, 1, 1);
-    nip.ControlIndex(1, 1, 2);
-    nip.ControlIndexLabel(1, 1, 3);
-    nip.InitialValueRule(1, 1, 4);
-    nip.RowIndex(1, 1, 5);
-    nip.ColIndex(1, 1, 6);
-    nip.ValueListCount(1, 1, 7);
-    nip.ChoiceListCount(1, 1, 8);
-    const std::int16_t numbers[] = {
-        nip.maxLength(1, 1), nip.ControlIndex(1, 1), nip.ControlIndexLabel(1, 1), nip.InitialValueRule(1, 1),
-        nip.RowIndex(1, 1),  nip.ColIndex(1, 1),     nip.ValueListCount(1, 1),    nip.ChoiceListCount(1, 1)};
-    for (std::int16_t i = 0; i < 8; ++i)
-        EXPECT_EQ(numbers[i], i + 1);
-    nip.fieldName(1, 1, "Renamed");
-    EXPECT_EQ(nip.fieldName(1, 1), "A") << "until it is saved";
-}
-
 } // namespace Korvane

@@ -18,11 +18,13 @@ using ::testing::SizeIs;
 
 class EncounterTest : public ::testing::Test, protected ScratchClinic {
   protected:
-    EncounterTest() {
-        encounter.Connection(db);
-        encounter.PatientID("P-0042");
-        encounter.ProviderID(3);
-        encounter.Description("it's");
+    Encounter made() const {
+        Encounter fresh;
+        fresh.Connection(db);
+        fresh.PatientID("P-0042");
+        fresh.ProviderID(3);
+        fresh.Description("it's");
+        return fresh;
     }
 
     /// The lines of the error log without their date and time.
@@ -34,7 +36,7 @@ class EncounterTest : public ::testing::Test, protected ScratchClinic {
         return lines;
     }
 
-    Encounter encounter;
+    Encounter encounter = made();
     int raised = 0;
     EventHandle listener = encounter.SavedNewEncounter.connect([this] { ++raised; });
 };
@@ -119,11 +121,7 @@ TEST_F(EncounterTest, NumbersFromOneWhateverTheTableHolds) {
     db->quietly("Create Table Encounter (EncounterID BIGINT PRIMARY KEY, EncounterMethodID INTEGER, "
                 "PatientID TEXT, ProviderID INTEGER, ForeignProviderID INTEGER, LocationID INTEGER, "
                 "EncounterDate TIMESTAMP, Outgoing BOOLEAN, Description TEXT, Transport INTEGER)");
-    Encounter first;
-    first.Connection(db);
-    first.PatientID("P");
-    first.ProviderID(1);
-    EXPECT_TRUE(first.Save());
+    EXPECT_TRUE(made().Save());
     EXPECT_EQ(rows("Select EncounterID From Encounter"), "1");
 }
 
@@ -171,10 +169,7 @@ TEST_F(EncounterTest, TellsApartWhatIsStoredAndWhatIsNot) {
 
 TEST_F(EncounterTest, IsStoredOnceAlsoWhenNobodyCouldSayWhetherItWas) {
     for (const bool carriedOut : {true, false}) {
-        Encounter lost;
-        lost.Connection(db);
-        lost.PatientID("P-0042");
-        lost.ProviderID(3);
+        Encounter lost = made();
         db->loseAnswerOf = "Insert";
         db->carriedOut = carriedOut;
         EXPECT_TRUE(lost.Save());
@@ -267,9 +262,7 @@ TEST_F(EncounterTest, DoesNotOverwriteARowThatItCouldNotRead) {
 
 TEST_F(EncounterTest, LeavesARowAloneWhoseNumberIsAnotherPatientsByNow) {
     ASSERT_TRUE(encounter.Save());
-    Encounter loaded, missing;
-    for (Encounter* each : {&loaded, &missing})
-        each->Connection(db);
+    Encounter loaded = made(), missing = made();
     loaded.EncounterID(1);
     missing.EncounterID(2);
     db->quietly("Delete From Encounter");
