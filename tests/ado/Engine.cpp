@@ -5,7 +5,6 @@
 #ifdef KORVANE_HAS_POSTGRES
 #include "support/NativeHandle.h"
 
-#include <korvane/ado/postgres/Error.h>
 #include <korvane/ado/postgres/PostgresConnection.h>
 #endif
 #include <korvane/ado/sqlite/SqliteConnection.h>
@@ -43,9 +42,6 @@ class SqliteEngine : public Engine {
         return value.value_or("");
     }
     std::shared_ptr<Connection> lend() override { return sqlite::adopt(handle()); }
-    std::string codeOf(const RuntimeError& error) const override {
-        return std::to_string(error.NativeCode());
-    }
 
   private:
     std::vector<std::pair<std::string, std::string>> words() const override {
@@ -67,13 +63,9 @@ class PostgresEngine : public Engine {
     std::shared_ptr<Connection> connect() override { return open(mSchema.address()); }
     std::string foreign(const std::string& statements) override { return mHandle.value(statements); }
     std::shared_ptr<Connection> lend() override { return postgres::adopt(mHandle.get()); }
-    std::string codeOf(const RuntimeError& error) const override {
-        return postgres::sqlState(error.NativeCode());
-    }
     // Texts are UTF-8 there, and nothing else.
     bool keepsAnyBytes() const override { return false; }
     std::size_t longestName() const override { return 63; }
-    bool bindsSizes() const override { return true; }
 
   private:
     std::vector<std::pair<std::string, std::string>> words() const override {

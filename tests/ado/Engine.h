@@ -30,8 +30,6 @@ class Engine {
     virtual std::string foreign(const std::string& statements) = 0;
     /// A connection to which that handle is lent.
     virtual std::shared_ptr<Connection> lend() = 0;
-    /// The engine's code of a failure as its manual has it.
-    virtual std::string codeOf(const RuntimeError& error) const = 0;
     /// A text with the engine's own words: {Date}, {Double} and {Currency} are types of columns, {schema} is
     /// where the tables are.
     std::string inItsWords(std::string text) const;
@@ -41,8 +39,6 @@ class Engine {
 
     /// How many bytes a name may have; 0 when there is no limit.
     virtual std::size_t longestName() const { return 0; }
-    /// Whether the size of a text column binds.
-    virtual bool bindsSizes() const { return false; }
 
   private:
     virtual std::vector<std::pair<std::string, std::string>> words() const = 0;

@@ -83,20 +83,18 @@ TEST_F(SqliteFile, ThatIsNoneOrDamagedIsReported) {
     std::ofstream(path()) << std::string(5000, 'z');
     EXPECT_THAT(raised([&] { connect(); }).Description(), HasSubstr("not a database"));
     std::filesystem::remove(path());
-    {
-        const auto db = connect();
-        db->Execute("Create Table T (A Integer Primary Key, B Text)");
-        for (int i = 0; i < 200; ++i)
-            db->Execute("Insert into T (A,B) values (" + std::to_string(i) + ",'" + std::string(200, 'b') +
-                        "')");
-        db->Close();
-    }
+    auto db = connect();
+    db->Execute("Create Table T (A Integer Primary Key, B Text)");
+    db->Execute("Insert into T (B) With Recursive n(i) As (Select 1 Union All Select i+1 From n Where i<200) "
+                "Select '" +
+                std::string(200, 'b') + "' From n");
+    db->Close();
     const auto size = std::filesystem::file_size(path());
     std::fstream file(path(), std::ios::in | std::ios::out | std::ios::binary);
     file.seekp(4096);
     file << std::string(size - 4096, '\xAA');
     file.close();
-    const auto db = connect();
+    db = connect();
     const RuntimeError damaged = raised([&] { one(db, "Select Count(*) From T Where B Like 'b%'"); });
     EXPECT_THAT(damaged.Description(), HasSubstr("restore it from a backup"));
     EXPECT_EQ(damaged.NativeCode() & 0xFF, SQLITE_CORRUPT);
