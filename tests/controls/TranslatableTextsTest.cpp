@@ -13,7 +13,7 @@ namespace Korvane {
 namespace {
 
 using namespace Testing;
-using Texts = std::set<std::string>;
+using TextSet = std::set<std::string>;
 
 void readBoxes(UntranslatedTexts& texts, const RecordedInteraction& user) {
     for (const ShownBox& box : user->boxes)
@@ -25,7 +25,7 @@ void readBoxes(UntranslatedTexts& texts, const RecordedInteraction& user) {
 }
 
 /// The panel after each of the steps that a user does.
-Texts untranslatedOf(CustomizingDesk& desk, const QStringList& steps) {
+TextSet untranslatedOf(CustomizingDesk& desk, const QStringList& steps) {
     UntranslatedTexts texts;
     for (const QString& step : steps) {
         desk.does(step);
@@ -45,7 +45,7 @@ TEST(TranslatableTexts, AreAllThatTheNipPanelShowsButWhatIsStored) {
     desk.panel.Initialize(desk.db);
     desk.load();
     desk.user->texts = {"", std::string(300, '1')}; // two names for a group
-    const Texts shown =
+    const TextSet shown =
         untranslatedOf(desk, {"Customize; field 0", "width=0; Save field",
                               "name=2 b; caption=1; display=LIST; Save field; Cancel field",
                               "cmdNipChoices(0); Cancel field", "field 1; cmdNipChoices(0); Delete field",
@@ -53,10 +53,10 @@ TEST(TranslatableTexts, AreAllThatTheNipPanelShowsButWhatIsStored) {
                               "ID_DeleteNipGroup", "ID_NewNipGroup; ID_NewNipGroup",
                               "tab 0; Back; pulse=80; Cancel; cmdNip(0)", "description=; Save"});
     EXPECT_THAT(desk.user->boxes, testing::SizeIs(testing::Gt(9)));
-    const Texts stored{
+    const TextSet stored{
         "Dr. Ann Hale MD", "Nurse Bo Lee", "Pulse",   "The Pulse", "Mood",       "The Mood", "Drugs",
         "The Drugs",       "Odd",          "The Odd", "ODD",       "The Smoker", "Good",     "Poor"};
-    const Texts ofQt{"Scroll Left", "Scroll Right"};
+    const TextSet ofQt{"Scroll Left", "Scroll Right"};
     EXPECT_THAT(shown, testing::Each(testing::AnyOf(testing::AnyOfArray(stored), testing::AnyOfArray(ofQt))));
 }
 
@@ -83,7 +83,7 @@ TEST(TranslatableTexts, AreAllThatTheOtherControlsShowButWhatTheHostSets) {
     texts.read(buttons);
     texts.read(movebtn());
     readBoxes(texts, desk.user);
-    const Texts ofTheHost{
+    const TextSet ofTheHost{
         "Func Btn", "Move Buttons", "Field Name", "Field Caption", "Input Display", "Required", "a", "b",
         "c"};
     EXPECT_THAT(texts.found(), testing::Each(testing::AnyOfArray(ofTheHost)));
