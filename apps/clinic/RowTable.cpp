@@ -1,5 +1,7 @@
 #include "clinic/RowTable.h"
 
+#include <korvane/controls/container/ColumnShares.h>
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
@@ -42,9 +44,7 @@ void RowTable::setModel(QAbstractItemModel* model) {
 }
 
 void RowTable::setStretchColumns(std::initializer_list<int> columns) {
-    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    for (const int column : columns)
-        horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    new Korvane::ColumnShares(*horizontalHeader(), columns);
 }
 
 void RowTable::setEmptyText(const QString& text) {

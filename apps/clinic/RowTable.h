@@ -16,7 +16,8 @@ class RowTable : public QTableView {
 
     void setModel(QAbstractItemModel* model) override;
 
-    /// Makes columns share the room that the others leave.
+    /// Makes columns share the room that the others leave, none narrower than its heading. Once, when there
+    /// is a model.
     void setStretchColumns(std::initializer_list<int> columns);
 
     /// What is shown in place of rows while there are none.

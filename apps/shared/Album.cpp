@@ -1,5 +1,6 @@
 #include "shared/Album.h"
 
+#include "shared/ClippedTexts.h"
 #include "shared/Failure.h"
 
 #include <QApplication>
@@ -47,6 +48,15 @@ void Album::add(const QString& title) {
                              .arg(title.toLower().replace(gaps, QStringLiteral("-")));
     require(pictureAtRest().save(mDirectory.filePath(name)),
             QStringLiteral("The picture %1 cannot be written.").arg(mDirectory.filePath(name)));
+    requireLegible();
+}
+
+void Album::requireLegible() const {
+    QStringList clipped;
+    for (const QWidget* shown : QApplication::topLevelWidgets()) {
+        if (shown->isVisible() && shown->windowType() != Qt::ToolTip) clipped += clippedTexts(*shown);
+    }
+    require(clipped.isEmpty(), QStringLiteral("These texts do not fit: ") + clipped.join(QStringLiteral("; ")));
 }
 
 // Until what fades in, such as the button in a search box, is there.

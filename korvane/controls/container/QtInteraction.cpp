@@ -1,7 +1,7 @@
 #include <korvane/controls/container/QtInteraction.h>
 
 #include <korvane/controls/container/Text.h>
-#include <korvane/runtime/Translation.h>
+#include <korvane/controls/container/Translations.h>
 
 #include <QApplication>
 #include <QInputDialog>
@@ -10,7 +10,6 @@
 #include <QPointer>
 
 #include <typeinfo>
-#include <utility>
 
 namespace Korvane {
 
@@ -67,14 +66,6 @@ QMessageBox::StandardButton defaultOf(int style, QMessageBox::StandardButtons bu
     return QMessageBox::Ok;
 }
 
-std::string askQt(const char* context, const char* text) {
-    return utf8(QCoreApplication::translate(context, text));
-}
-
-void translateWithQtOnce() {
-    if (auto before = installTranslator(askQt)) installTranslator(std::move(before));
-}
-
 Answer answerOf(int button, QMessageBox::StandardButtons buttons) {
     if (button == QMessageBox::Yes) return Answer::Yes;
     if (button == QMessageBox::Ok || buttons == QMessageBox::Ok) return Answer::Ok;
@@ -117,7 +108,7 @@ void QtInteraction::installOnce() {
     const Interaction& byDefault = Interaction::current();
     const bool wasDefault = typeid(installed) == typeid(byDefault);
     Interaction::install(wasDefault ? std::make_shared<QtInteraction>() : before);
-    translateWithQtOnce();
+    letQtTranslate();
 }
 
 } // namespace Korvane

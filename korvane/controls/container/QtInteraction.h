@@ -11,8 +11,7 @@ class QtInteraction : public Interaction {
     Answer MsgBox(std::string_view text, int style, std::string_view title) override;
     std::optional<std::string> InputBox(std::string_view prompt, std::string_view title) override;
 
-    /// Installs one where the default is still in force, and lets the texts of the library that know nothing
-    /// of Qt (`translate`) ask Qt's translators, unless the host has installed a translator for them.
+    /// Installs one where the default is still in force, and lets Qt translate (`letQtTranslate`).
     static void installOnce();
 };
 

@@ -1,5 +1,8 @@
 #include <korvane/controls/container/Translations.h>
 
+#include <korvane/controls/container/Text.h>
+#include <korvane/runtime/Translation.h>
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -29,9 +32,18 @@ std::unique_ptr<QTranslator> loaded(const QString& catalogue, const QStringList&
     return found ? std::move(translator) : nullptr;
 }
 
+std::string askQt(const char* context, const char* text) {
+    return utf8(QCoreApplication::translate(context, text));
+}
+
 } // namespace
 
+void letQtTranslate() {
+    if (auto before = installTranslator(askQt)) installTranslator(std::move(before));
+}
+
 bool installCatalogue(const QString& name, const QLocale& locale, const QStringList& folders) {
+    letQtTranslate();
     QCoreApplication& application = *QCoreApplication::instance();
     delete application.findChild<QTranslator*>(name, Qt::FindDirectChildrenOnly);
     for (const QString& language : locale.uiLanguages()) {

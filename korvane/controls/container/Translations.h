@@ -30,4 +30,8 @@ bool installTranslations(const QLocale& locale, const QStringList& folders = {})
 ///     Korvane::installCatalogue("clinic", QLocale(), {":/translations", "/usr/share/clinic/translations"});
 bool installCatalogue(const QString& name, const QLocale& locale, const QStringList& folders);
 
+/// Lets the texts of the library that know nothing of Qt (`translate`) ask Qt's translators, unless the host
+/// has installed a translator for them. The two above do so, and so does the first control.
+void letQtTranslate();
+
 } // namespace Korvane

@@ -1,5 +1,6 @@
 #include <korvane/controls/nippanel/FieldGrid.h>
 
+#include <korvane/controls/container/ColumnShares.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/Counted.h>
 #include <korvane/controls/nippanel/DisplayTypes.h>
@@ -7,6 +8,8 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
+
+#include <iterator>
 
 namespace Korvane {
 
@@ -40,11 +43,9 @@ FieldGrid::FieldGrid(QWidget* parent) : QTreeWidget(parent) {
     setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
-    header()->setStretchLastSection(false);
+    setHorizontalScrollMode(ScrollPerPixel);
     header()->setMinimumSectionSize(1);
-    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    for (const int column : elidedColumns)
-        header()->setSectionResizeMode(column, QHeaderView::Stretch);
+    new ColumnShares(*header(), {std::begin(elidedColumns), std::end(elidedColumns)});
     connect(this, &QTreeWidget::currentItemChanged, this, &FieldGrid::tell, Qt::QueuedConnection);
     connect(this, &QTreeWidget::itemClicked, this, &FieldGrid::tell, Qt::QueuedConnection);
     connect(this, &QTreeWidget::itemActivated, this, &FieldGrid::tell, Qt::QueuedConnection);

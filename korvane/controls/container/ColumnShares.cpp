@@ -1,0 +1,51 @@
+#include <korvane/controls/container/ColumnShares.h>
+
+#include <QEvent>
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+namespace Korvane {
+
+ColumnShares::ColumnShares(QHeaderView& header, std::vector<int> columns)
+    : QObject(&header), mHeader(header), mColumns(std::move(columns)) {
+    mHeader.setStretchLastSection(false);
+    mHeader.setSectionResizeMode(QHeaderView::ResizeToContents);
+    for (const int column : mColumns)
+        mHeader.setSectionResizeMode(column, QHeaderView::Fixed);
+    mHeader.viewport()->installEventFilter(this);
+    connect(&mHeader, &QHeaderView::sectionResized, this, &ColumnShares::shareSoon);
+    connect(&mHeader, &QHeaderView::geometriesChanged, this, &ColumnShares::shareSoon);
+    share();
+}
+
+bool ColumnShares::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) shareSoon();
+    return QObject::eventFilter(watched, event);
+}
+
+// A header that is in the middle of laying out its columns does not know its length.
+void ColumnShares::shareSoon() {
+    if (!std::exchange(mDue, true))
+        QMetaObject::invokeMethod(this, &ColumnShares::share, Qt::QueuedConnection);
+}
+
+void ColumnShares::share() {
+    mDue = true; // its own changes are none to follow
+    int left = mHeader.viewport()->width() - mHeader.length();
+    for (const int column : mColumns)
+        left += mHeader.sectionSize(column);
+    // The widest headings first: what they take beyond an equal part, the others do without.
+    std::ranges::stable_sort(mColumns, std::greater(),
+                             [this](int column) { return mHeader.sectionSizeHint(column); });
+    auto sharing = static_cast<int>(mColumns.size());
+    for (const int column : mColumns) {
+        const int width = std::max(left / sharing--, mHeader.sectionSizeHint(column));
+        mHeader.resizeSection(column, width);
+        left -= width;
+    }
+    mDue = false;
+}
+
+} // namespace Korvane

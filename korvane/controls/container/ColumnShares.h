@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QHeaderView>
+
+#include <vector>
+
+namespace Korvane {
+
+/// Lets some columns of a list share, in equal parts, the width that the others leave, with none narrower
+/// than its heading. Where the headings do not fit side by side, the list scrolls sideways.
+///
+///     new ColumnShares(*table->horizontalHeader(), {Description, Provider});      // Date fits its contents
+///
+/// It belongs to the header, whose columns have to be there already; the other columns become as wide as what
+/// they hold. It follows the width of the list, its contents and its font.
+class ColumnShares : public QObject {
+  public:
+    ColumnShares(QHeaderView& header, std::vector<int> columns);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void shareSoon();
+    void share();
+
+    QHeaderView& mHeader;
+    std::vector<int> mColumns;
+    bool mDue = false;
+};
+
+} // namespace Korvane
