@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation>&amp;Leeren</translation>
+        <translation>L&amp;eeren</translation>
     </message>
 </context>
 <context>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>&amp;About</source>
-        <translation>&amp;Über</translation>
+        <translation>Ü&amp;ber</translation>
     </message>
     <message>
         <source>What this program is</source>
@@ -543,7 +543,7 @@
     </message>
     <message>
         <source>Year requires &amp;four digits</source>
-        <translation>Jahr mit &amp;vier Ziffern</translation>
+        <translation>Jahr mit vier &amp;Ziffern</translation>
     </message>
     <message>
         <source>&amp;Enlivened</source>
@@ -609,7 +609,7 @@
     </message>
     <message>
         <source>W&amp;rite</source>
-        <translation>Sch&amp;reiben</translation>
+        <translation>S&amp;chreiben</translation>
     </message>
     <message>
         <source>Shows what the control writes</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Sa&amp;ve...</source>
-        <translation>Spei&amp;chern …</translation>
+        <translation>Spe&amp;ichern …</translation>
     </message>
     <message>
         <source>Writes what is shown here into a file</source>

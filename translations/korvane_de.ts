@@ -532,7 +532,7 @@
     </message>
     <message>
         <source>Display Type</source>
-        <translation>Anzeigeart</translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>Width</source>

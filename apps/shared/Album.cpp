@@ -1,6 +1,7 @@
 #include "shared/Album.h"
 
 #include "shared/ClippedTexts.h"
+#include "shared/DoubledShortcuts.h"
 #include "shared/Failure.h"
 
 #include <QApplication>
@@ -48,15 +49,17 @@ void Album::add(const QString& title) {
                              .arg(title.toLower().replace(gaps, QStringLiteral("-")));
     require(pictureAtRest().save(mDirectory.filePath(name)),
             QStringLiteral("The picture %1 cannot be written.").arg(mDirectory.filePath(name)));
-    requireLegible();
+    requireUsable();
 }
 
-void Album::requireLegible() const {
-    QStringList clipped;
+void Album::requireUsable() const {
     for (const QWidget* shown : QApplication::topLevelWidgets()) {
-        if (shown->isVisible() && shown->windowType() != Qt::ToolTip) clipped += clippedTexts(*shown);
+        if (!shown->isVisible() || shown->windowType() == Qt::ToolTip) continue;
+        const QStringList clipped = clippedTexts(*shown), doubled = doubledShortcuts(*shown);
+        const QString separator = QStringLiteral("; ");
+        require(clipped.isEmpty(), QStringLiteral("These texts do not fit: ") + clipped.join(separator));
+        require(doubled.isEmpty(), QStringLiteral("These shortcuts are doubled: ") + doubled.join(separator));
     }
-    require(clipped.isEmpty(), QStringLiteral("These texts do not fit: ") + clipped.join(QStringLiteral("; ")));
 }
 
 // Until what fades in, such as the button in a search box, is there.

@@ -12,14 +12,14 @@ class Album {
     /// Removes the pictures of an earlier tour from the directory.
     Album(QWidget& window, const QString& directory);
 
-    /// "Choose a patient" becomes "01-choose-a-patient.png". Fails when it cannot be written, and where a text
-    /// in it does not fit (`clippedTexts`).
+    /// "Choose a patient" becomes "01-choose-a-patient.png". Fails when it cannot be written, and where a
+    /// text in it does not fit (`clippedTexts`) or a shortcut has two uses (`doubledShortcuts`).
     void add(const QString& title);
 
     int count() const { return mCount; }
 
   private:
-    void requireLegible() const;
+    void requireUsable() const;
     QImage pictureAtRest() const;
     QImage picture() const;
 

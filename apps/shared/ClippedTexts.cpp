@@ -48,6 +48,13 @@ bool fits(const QAbstractButton& button) {
     return button.sizeHint().width() <= button.width();
 }
 
+/// Of a label or a button.
+QString textOf(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
+    return {};
+}
+
 /// What of a widget's parts is too wide; the whole widget's text where it has no parts.
 QStringList tooWide(const QWidget& widget) {
     QStringList found;
@@ -96,10 +103,8 @@ QStringList clippedTexts(const QWidget& window) {
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisibleTo(&window)) continue;
         QStringList texts = tooWide(*widget);
-        const auto* label = qobject_cast<const QLabel*>(widget);
-        const auto* button = qobject_cast<const QAbstractButton*>(widget);
-        if (!isInside(*widget) && label) texts << label->text();
-        if (!isInside(*widget) && button) texts << button->text();
+        const QString whole = textOf(*widget);
+        if (texts.isEmpty() && !whole.isEmpty() && !isInside(*widget)) texts << whole;
         for (const QString& text : texts)
             found << QStringLiteral("%1 %2: %3")
                          .arg(QString::fromLatin1(widget->metaObject()->className()), widget->objectName(),

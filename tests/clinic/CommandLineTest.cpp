@@ -53,10 +53,10 @@ TEST(CommandLine, SaysWhatItOffersAndRefusesWhatItCannotDo) {
     }
 }
 
-TEST(CommandLine, GoesOnAGuidedTourThatStoresTheSameInEveryLanguage) {
+TEST(CommandLine, GoesOnAGuidedTourThatStoresTheSameInEveryLanguageAndTextSize) {
     const ScratchDir dir, home;
     auto meanwhile = std::async(std::launch::async, [&] {
-        return tour(dir, "german", {"--language", "de"});
+        return tour(dir, "german", {"--language", "de", "--font-scale", "200"});
     });
     const GuidedTour english = tour(home, "english"), german = meanwhile.get();
     expectAllOf(english);

@@ -4,13 +4,18 @@
 #include <korvane/controls/container/QtInteraction.h>
 #include <korvane/runtime/RuntimeError.h>
 
+#include <QDirIterator>
 #include <QFile>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTranslator>
+#include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
+
+#include <map>
 
 namespace Korvane {
 namespace {
@@ -59,6 +64,35 @@ TEST_F(Translations, LabelTheButtonsOfMessageBoxesWithQtsOwn) {
     const QMessageBox box(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No);
     EXPECT_EQ(box.button(QMessageBox::Yes)->text().remove('&'), "Ja");
     EXPECT_EQ(box.button(QMessageBox::No)->text().remove('&'), "Nein");
+}
+
+/// Counted: "%1", "&" and line breaks.
+std::map<QString, qsizetype> marksOf(const QString& text) {
+    std::map<QString, qsizetype> marks;
+    static const QRegularExpression mark("%[1-9]|&(?=\\p{L})|\n");
+    for (auto found = mark.globalMatch(text); found.hasNext();)
+        ++marks[found.next().captured()];
+    return marks;
+}
+
+TEST(Catalogues, AreCompleteAndKeepThePlacesTheShortcutsAndTheLinesOfEveryText) {
+    QDirIterator catalogues(KORVANE_TESTS_DIR "/../translations", {"*.ts"});
+    int texts = 0;
+    while (catalogues.hasNext()) {
+        QFile file(catalogues.next());
+        ASSERT_TRUE(file.open(QFile::ReadOnly));
+        QString source;
+        for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+            if (xml.name() == u"source" && xml.isStartElement()) source = xml.readElementText();
+            if (xml.name() != u"translation" || !xml.isStartElement()) continue;
+            const bool finished = xml.attributes().isEmpty();
+            const QString translation = xml.readElementText();
+            EXPECT_TRUE(finished && !translation.isEmpty()) << source.toStdString();
+            EXPECT_EQ(marksOf(translation), marksOf(source)) << translation.toStdString();
+            ++texts;
+        }
+    }
+    EXPECT_GT(texts, 300);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "shared/ClippedTexts.h"
+#include "shared/DoubledShortcuts.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -32,9 +33,15 @@ std::vector<QWidget*> oneOfEach(QWidget& window) {
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     auto* wrapped = new QLabel(text + QStringLiteral(" for the night"), &window);
     wrapped->setWordWrap(true);
-    return {new QLabel(text, &window), new QPushButton(text, &window),
-            new QCheckBox(text, &window), new QGroupBox(text, &window),
-            line, tool, tabs, table, wrapped};
+    return {new QLabel(text, &window),
+            new QPushButton(text, &window),
+            new QCheckBox(text, &window),
+            new QGroupBox(text, &window),
+            line,
+            tool,
+            tabs,
+            table,
+            wrapped};
 }
 
 TEST(ClippedTexts, AreThoseOfWidgetsThatAreTooSmallForThem) {
@@ -73,6 +80,17 @@ TEST(ClippedTexts, AreThoseCutOffByWhatTheyStandInButNotWhatCanBeScrolledTo) {
     area.setWidget(page);
     window.show();
     EXPECT_EQ(clippedTexts(window), QStringList(QStringLiteral("QPushButton cmdSave: Save")));
+}
+
+TEST(DoubledShortcuts, AreTheLettersThatTwoOfWhatIsShownAnswerTo) {
+    QWidget window;
+    QPushButton save(QStringLiteral("&Save"), &window), search(QStringLiteral("&Search"), &window);
+    QLabel date(QStringLiteral("&Date"), &window), described(QStringLiteral("&Description"), &window);
+    date.setBuddy(&save);
+    window.show();
+    EXPECT_EQ(doubledShortcuts(window), QStringList(QStringLiteral("S: &Save, &Search")));
+    search.hide();
+    EXPECT_EQ(doubledShortcuts(window), QStringList());
 }
 
 } // namespace

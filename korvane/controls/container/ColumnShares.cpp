@@ -8,8 +8,9 @@
 
 namespace Korvane {
 
-ColumnShares::ColumnShares(QHeaderView& header, std::vector<int> columns)
-    : QObject(&header), mHeader(header), mColumns(std::move(columns)) {
+ColumnShares::ColumnShares(QHeaderView& header, std::vector<int> columns, Narrow narrow)
+    : QObject(&header), mHeader(header), mColumns(std::move(columns)), mNarrow(narrow) {
+    mHeader.setTextElideMode(Qt::ElideRight);
     mHeader.setStretchLastSection(false);
     mHeader.setSectionResizeMode(QHeaderView::ResizeToContents);
     for (const int column : mColumns)
@@ -34,14 +35,18 @@ void ColumnShares::shareSoon() {
 void ColumnShares::share() {
     mDue = true; // its own changes are none to follow
     int left = mHeader.viewport()->width() - mHeader.length();
-    for (const int column : mColumns)
+    int headings = 0;
+    for (const int column : mColumns) {
         left += mHeader.sectionSize(column);
+        headings += mHeader.sectionSizeHint(column);
+    }
+    const bool shortens = mNarrow == Narrow::Shortens && headings > left;
     // The widest headings first: what they take beyond an equal part, the others do without.
     std::ranges::stable_sort(mColumns, std::greater(),
                              [this](int column) { return mHeader.sectionSizeHint(column); });
     auto sharing = static_cast<int>(mColumns.size());
     for (const int column : mColumns) {
-        const int width = std::max(left / sharing--, mHeader.sectionSizeHint(column));
+        const int width = std::max(left / sharing--, shortens ? 0 : mHeader.sectionSizeHint(column));
         mHeader.resizeSection(column, width);
         left -= width;
     }

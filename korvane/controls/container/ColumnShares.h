@@ -7,7 +7,8 @@
 namespace Korvane {
 
 /// Lets some columns of a list share, in equal parts, the width that the others leave, with none narrower
-/// than its heading. Where the headings do not fit side by side, the list scrolls sideways.
+/// than its heading. Where the headings do not fit side by side, the list scrolls sideways; or all columns
+/// stay in sight, and headings are shortened.
 ///
 ///     new ColumnShares(*table->horizontalHeader(), {Description, Provider});      // Date fits its contents
 ///
@@ -15,7 +16,9 @@ namespace Korvane {
 /// they hold. It follows the width of the list, its contents and its font.
 class ColumnShares : public QObject {
   public:
-    ColumnShares(QHeaderView& header, std::vector<int> columns);
+    enum class Narrow { Scrolls, Shortens };
+
+    ColumnShares(QHeaderView& header, std::vector<int> columns, Narrow narrow = Narrow::Scrolls);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -26,6 +29,7 @@ class ColumnShares : public QObject {
 
     QHeaderView& mHeader;
     std::vector<int> mColumns;
+    Narrow mNarrow;
     bool mDue = false;
 };
 

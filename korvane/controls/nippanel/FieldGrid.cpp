@@ -43,9 +43,9 @@ FieldGrid::FieldGrid(QWidget* parent) : QTreeWidget(parent) {
     setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
-    setHorizontalScrollMode(ScrollPerPixel);
     header()->setMinimumSectionSize(1);
-    new ColumnShares(*header(), {std::begin(elidedColumns), std::end(elidedColumns)});
+    new ColumnShares(*header(), {std::begin(elidedColumns), std::end(elidedColumns)},
+                     ColumnShares::Narrow::Shortens);
     connect(this, &QTreeWidget::currentItemChanged, this, &FieldGrid::tell, Qt::QueuedConnection);
     connect(this, &QTreeWidget::itemClicked, this, &FieldGrid::tell, Qt::QueuedConnection);
     connect(this, &QTreeWidget::itemActivated, this, &FieldGrid::tell, Qt::QueuedConnection);
