@@ -1,6 +1,7 @@
 #include <korvane/controls/container/ColumnShares.h>
 
 #include <QEvent>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <functional>
@@ -16,7 +17,9 @@ ColumnShares::ColumnShares(QHeaderView& header, std::vector<int> columns, Narrow
     for (const int column : mColumns)
         mHeader.setSectionResizeMode(column, QHeaderView::Fixed);
     mHeader.viewport()->installEventFilter(this);
-    connect(&mHeader, &QHeaderView::sectionResized, this, &ColumnShares::shareSoon);
+    connect(&mHeader, &QHeaderView::sectionResized, this, [this] {
+        if (!mSharing) shareSoon();
+    });
     connect(&mHeader, &QHeaderView::geometriesChanged, this, &ColumnShares::shareSoon);
     share();
 }
@@ -33,7 +36,8 @@ void ColumnShares::shareSoon() {
 }
 
 void ColumnShares::share() {
-    mDue = true; // its own changes are none to follow
+    mDue = false;
+    const QScopedValueRollback sharing(mSharing, true);
     int left = mHeader.viewport()->width() - mHeader.length();
     int headings = 0;
     for (const int column : mColumns) {
@@ -44,13 +48,12 @@ void ColumnShares::share() {
     // The widest headings first: what they take beyond an equal part, the others do without.
     std::ranges::stable_sort(mColumns, std::greater(),
                              [this](int column) { return mHeader.sectionSizeHint(column); });
-    auto sharing = static_cast<int>(mColumns.size());
+    auto count = static_cast<int>(mColumns.size());
     for (const int column : mColumns) {
-        const int width = std::max(left / sharing--, shortens ? 0 : mHeader.sectionSizeHint(column));
+        const int width = std::max(left / count--, shortens ? 0 : mHeader.sectionSizeHint(column));
         mHeader.resizeSection(column, width);
         left -= width;
     }
-    mDue = false;
 }
 
 } // namespace Korvane

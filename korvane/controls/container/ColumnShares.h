@@ -31,6 +31,7 @@ class ColumnShares : public QObject {
     std::vector<int> mColumns;
     Narrow mNarrow;
     bool mDue = false;
+    bool mSharing = false;
 };
 
 } // namespace Korvane
