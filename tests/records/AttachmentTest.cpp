@@ -61,6 +61,19 @@ TEST_F(AttachmentTest, InsertsOnceAndUpdatesFromThenOn) {
               "NULL|NULL|NULL|NULL");
 }
 
+TEST_F(AttachmentTest, IsStoredOnceAlsoWhenTheAnswerWasLost) {
+    attachment.EntryDate("2 January, 1970");
+    attachment.Locked(true);
+    db->loseAnswerOf = "Insert";
+    EXPECT_TRUE(attachment.Save());
+    EXPECT_TRUE(attachment.AttachmentID().isEmpty());
+    EXPECT_FALSE(attachment.Stored());
+    db->Reset();
+    EXPECT_TRUE(attachment.Save());
+    EXPECT_TRUE(attachment.Stored());
+    EXPECT_EQ(rows("Select AttachmentID, EncounterID, Locked From Attachment"), "1|12|True");
+}
+
 TEST_F(AttachmentTest, LeavesARowAloneWhoseNumberIsAnotherEncountersByNow) {
     ASSERT_TRUE(attachment.Save());
     Attachment loaded;
