@@ -65,6 +65,7 @@ TEST_P(Catalogs, TakeAnyTextForAName) {
         mCatalog->Tables().Delete(name);
     }
     EXPECT_THAT(mCatalog->Tables().Names(), ElementsAre(testing::StrCaseEq("Visit")));
+    EXPECT_EQ(mCatalog->Tables().Count(), 1);
 }
 
 TEST_P(Catalogs, RefuseANameThatWouldNotBeKept) {

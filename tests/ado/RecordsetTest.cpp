@@ -137,6 +137,7 @@ TEST_P(Recordsets, LetTextsAndWholeNumbersBeSeenAsTheyAre) {
         if (const auto* whole = std::get_if<std::int64_t>(&cell)) seen += std::to_string(*whole) + ";";
     }
     EXPECT_EQ(seen, "2000000000;it's ;;-32768;");
+    EXPECT_EQ(rs->Value("Price"), Variant(Currency{10000}));
     EXPECT_EQ(rs->Peek("Rank").index(), 0u) << "no such field";
     rs->MoveNext();
     EXPECT_EQ(rs->Peek("ID").index(), 0u) << "at the end";

@@ -238,6 +238,15 @@ TEST_F(CustomizingStructure, DeletesFieldsAndGroupsWithTheirData) {
     EXPECT_EQ(nips.rows("Select * From nip_custom2"), "");
 }
 
+TEST_F(CustomizingStructure, ReportsAnUpdateOfAFieldThatHasNoRow) {
+    nips.db->quietly("Delete From DBFields Where FieldName='Weight'");
+    ASSERT_TRUE(nip.EditField(1, 2, {.fieldName = "Weight", .maxLength = 50}));
+    EXPECT_TRUE(nip.SaveStructure());
+    EXPECT_THAT(nips.errorLog(),
+                HasSubstr("Error in cNip.SaveStructure: updated 0 record(s) for field Weight in "
+                          "group Vitals"));
+}
+
 // Every operation fails once at each of its steps; nothing may have changed then, and the next try succeeds.
 TEST_F(CustomizingStructure, ChangesAllOrNothingWhereverItFails) {
     struct Change {

@@ -46,4 +46,36 @@ TEST_F(cNIPTest, KeepsToTheBoundsOfItsTable) {
     EXPECT_EQ(nip.FieldCount(2), 1);
 }
 
+TEST_F(cNIPTest, KeepsItsPropertiesApart) {
+    nips.group(2, "One", "NIP_Custom1");
+    nips.define(2, "A");
+    loadStructure();
+    const Variant list = VariantArray{0, {Variant("x"), Variant(2)}};
+    nip.Caption(1, 1, "caption");
+    nip.displayType(1, 1, "LIST");
+    nip.Ordinal(1, 1, 9.5F);
+    nip.ValueList(1, 1, list);
+    EXPECT_EQ(nip.Caption(1, 1) + nip.displayType(1, 1), "captionLIST");
+    EXPECT_EQ(nip.Ordinal(1, 1), 9.5F);
+    EXPECT_EQ(nip.ValueList(1, 1), list);
+
+    using Get = std::int16_t (cNIP::*)(std::int16_t, std::int16_t) const;
+    using Let = void (cNIP::*)(std::int16_t, std::int16_t, std::int16_t);
+    const struct {
+        Get get;
+        Let let;
+    } numbers[] = {{&cNIP::maxLength, &cNIP::maxLength},
+                   {&cNIP::ControlIndex, &cNIP::ControlIndex},
+                   {&cNIP::ControlIndexLabel, &cNIP::ControlIndexLabel},
+                   {&cNIP::InitialValueRule, &cNIP::InitialValueRule},
+                   {&cNIP::RowIndex, &cNIP::RowIndex},
+                   {&cNIP::ColIndex, &cNIP::ColIndex},
+                   {&cNIP::ValueListCount, &cNIP::ValueListCount},
+                   {&cNIP::ChoiceListCount, &cNIP::ChoiceListCount}};
+    for (std::int16_t i = 0; const auto& number : numbers)
+        (nip.*number.let)(1, 1, ++i);
+    for (std::int16_t i = 0; const auto& number : numbers)
+        EXPECT_EQ((nip.*number.get)(1, 1), ++i);
+}
+
 } // namespace Korvane
