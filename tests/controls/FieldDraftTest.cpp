@@ -76,6 +76,18 @@ TEST(FieldDraft, NeedsTheWidthOfWhatCanBeChosenAtOnce) {
     }
 }
 
+TEST(FieldDraft, KeepsWhatWasWrittenWhileAnotherDeskChangedTheRest) {
+    const FieldDraft begun = listField("LIST", "50");
+    FieldDraft written = begun, now = begun;
+    written.rule = begun.rule + 1;
+    written.selected = 2;
+    now.caption = "The mood";
+    FieldDraft expected = now;
+    expected.rule = written.rule;
+    expected.selected = 2;
+    EXPECT_TRUE(broughtUp(written, begun, now) == expected);
+}
+
 TEST(FieldDraft, LeavesWhatOtherProgramsMadeAsItIs) {
     FieldDraft memo = listField("SLIDER", "0");
     memo.choices << "Good"
