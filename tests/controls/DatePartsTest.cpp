@@ -18,7 +18,7 @@ using namespace Testing;
 
 namespace {
 
-using Texts = std::vector<std::pair<const char*, const char*>>;
+using Pairs = std::vector<std::pair<const char*, const char*>>;
 
 } // namespace
 
@@ -69,7 +69,7 @@ TEST(DateParts, ReadAsADateWhatTheTableSays) {
 }
 
 TEST(DateParts, WidenYears) {
-    for (const auto& [two, four] : Texts{{"00", "2000"}, {"29", "2029"}, {"30", "1930"}, {"99", "1999"}})
+    for (const auto& [two, four] : Pairs{{"00", "2000"}, {"29", "2029"}, {"30", "1930"}, {"99", "1999"}})
         EXPECT_EQ(widenedYear(two), four);
     EXPECT_THROW(widenedYear("-5"), RuntimeError);
 }
@@ -92,7 +92,7 @@ TEST(DateBounds, CountWholeDaysAndTheMinimumWins) {
 }
 
 TEST(GivenDate, NamesItsDayMonthAndYear) {
-    for (const auto& [text, expected] : Texts{{"11/15/2026", "11/15/2026"},
+    for (const auto& [text, expected] : Pairs{{"11/15/2026", "11/15/2026"},
                                               {"01/05/99", "1/5/1999"},
                                               {"2026-11-15", "11/15/2026"},
                                               {"11/15/2026 5:21:51 PM", "11/15/2026"},
