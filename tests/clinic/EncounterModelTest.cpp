@@ -1,7 +1,6 @@
 #include "clinic/EncounterModel.h"
 
 #include <QAbstractItemModelTester>
-#include <QFont>
 #include <QPersistentModelIndex>
 
 #include <gtest/gtest.h>
@@ -61,15 +60,6 @@ TEST_F(FourEncounters, MoveToWhereANewDateBelongsAndStayChosen) {
         EXPECT_EQ(cell(row, EncounterModel::Description), row < 0 ? QString() : QString("Renamed"));
     }
     EXPECT_EQ(model.rowCount(), 4);
-}
-
-TEST_F(FourEncounters, MarkTheOneThatIsOpen) {
-    model.setOpen(2);
-    for (int row = 0; row < model.rowCount(); ++row)
-        EXPECT_EQ(model.index(row, 0).data(Qt::FontRole).value<QFont>().bold(), row == 2);
-    EXPECT_EQ(cell(2, EncounterModel::Date, Qt::AccessibleTextRole), "3/2/2026 9:00 AM, open");
-    model.setOpen(-1);
-    EXPECT_FALSE(model.index(2, 0).data(Qt::FontRole).isValid());
 }
 
 } // namespace Clinic

@@ -24,7 +24,6 @@ TEST(EncounterPane, IsNotChangedByAWheelAndTakesADescriptionOfAnyLength) {
     Testing::bringToFront(desk.panel);
     desk.db->quietly("Update Encounter Set Description='" + std::string(40000, 'x') + "'");
     desk.load();
-    desk.date().setSelectedSection(QDateTimeEdit::DaySection);
     for (QWidget* control : {static_cast<QWidget*>(&desk.providers()), static_cast<QWidget*>(&desk.date())}) {
         control->setFocus();
         QWheelEvent wheel(QPointF(5, 5), control->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),

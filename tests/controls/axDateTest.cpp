@@ -169,6 +169,21 @@ TEST(axDate, WidensAYearOfTwoDigitsWhereFourAreNotRequired) {
           {"<30\t", "1|2|1930", "1/2/1930", "after", {"index 2", "changed", "changed", "changed", exitText}});
 }
 
+TEST(axDate, APressThatAskedForTheFocusInVainDoesNothingElse) {
+    DateForm form("1/2/2026");
+    int saved = 0;
+    form.help->setProperty("CausesValidation", true);
+    QObject::connect(form.help, &QPushButton::clicked, [&] { ++saved; });
+    form.press("\t13");
+    QTest::mouseClick(form.help, Qt::LeftButton);
+    EXPECT_EQ(saved, 0);
+    EXPECT_EQ(form.focus(), "0");
+    form.press("12");
+    QTest::mouseClick(form.help, Qt::LeftButton);
+    EXPECT_EQ(saved, 1);
+    EXPECT_EQ(form.wholeDate(), "12/2/2026");
+}
+
 TEST(axDate, NeverShowsTheDateOfTheRecordBefore) {
     DateForm form("1/2/2026");
     form.press("\t");

@@ -14,8 +14,6 @@
 namespace DateForm {
 
 using namespace Korvane::Testing;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
@@ -68,23 +66,6 @@ TEST(TestForm, SendsTheUserBackToADateOutsideItsBounds) {
         EXPECT_EQ(QApplication::focusWidget()->objectName(), c.focus);
         form.user->clear();
     }
-}
-
-TEST(TestForm, ListsEventsAndShowsWhatWasRefusedUntilItIsMended) {
-    OpenForm form;
-    auto& refusal = form.part<QLabel>("lblRefusal");
-    form.press("\t2\t");
-    form.part<QLineEdit>("txtDate(1)").setText("32");
-    form.press("\t");
-    EXPECT_EQ(refusal.text(), "Invalid date format. Please re-enter.");
-    form.press("8");
-    EXPECT_EQ(refusal.text(), "");
-    EXPECT_THAT(form.events(),
-                ElementsAre("OnIndexChange 0", "OnChange axDate = \"\"", "OnIndexChange 1",
-                            "OnChange axDate = \"\"", "Exception Invalid date format. Please re-enter.",
-                            "OnChange axDate = \"\""));
-    QTest::mouseClick(form.findChild<QWidget*>("cmdClear"), Qt::LeftButton);
-    EXPECT_THAT(form.events(), IsEmpty());
 }
 
 TEST(TestForm, PlacesWhatIsDictatedAndShowsHowTheMicrophoneStands) {
