@@ -3,10 +3,17 @@
 #include "designer/NewControl.h"
 #include "designer/PassingProperties.h"
 
+#include <korvane/controls/container/Translations.h>
+
 namespace Designer {
 
 QString ControlPlugin::domXml() const {
     return newControl(mKind);
+}
+
+void ControlPlugin::initialize(QDesignerFormEditorInterface* core) {
+    mDesigner = core;
+    Korvane::installTranslations(QLocale());
 }
 
 QWidget* ControlPlugin::createWidget(QWidget* parent) {

@@ -28,7 +28,8 @@ class ControlPlugin : public QObject, public QDesignerCustomWidgetInterface {
     QString domXml() const override;
 
     bool isInitialized() const override { return !mDesigner.isNull(); }
-    void initialize(QDesignerFormEditorInterface* core) override { mDesigner = core; }
+    /// In Designer, whose language the controls speak then. A form loader leaves that to its host.
+    void initialize(QDesignerFormEditorInterface* core) override;
     QWidget* createWidget(QWidget* parent) override;
 
   private:

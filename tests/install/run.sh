@@ -29,3 +29,5 @@ LD_LIBRARY_PATH=$libraries "$work/pkg"
 LD_LIBRARY_PATH=$libraries timeout 60 "$work/pkghost" --unattended | grep -x "Encounter 1, due 11/15/2026, pulse 72"
 
 "$work/prefix/bin/korvane-clinic" --version
+"$work/prefix/bin/korvane-clinic" --language de --help | grep Textgröße
+[ -f "$work/prefix/share/korvane/translations/korvane_de.ts" ]
