@@ -1,13 +1,7 @@
 #include "support/ScratchDatabase.h"
 
-#ifdef KORVANE_HAS_POSTGRES
-#include <korvane/ado/postgres/PostgresConnection.h>
-#endif
-#include <korvane/ado/sqlite/SqliteConnection.h>
-
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <string_view>
 
@@ -38,13 +32,6 @@ ScratchDatabase::ScratchDatabase(const std::string& file) : mFile(file) {
 
 std::string ScratchDatabase::address() const {
     return mSchema ? mSchema->address() : "sqlite:" + mFile;
-}
-
-void ScratchDatabase::waitBriefly(ado::Connection& connection) {
-#ifdef KORVANE_HAS_POSTGRES
-    if (onServer()) return ado::postgres::setLimits(connection, {.statement = std::chrono::milliseconds(50)});
-#endif
-    ado::sqlite::setBusyTimeout(connection, std::chrono::milliseconds(20));
 }
 
 } // namespace Korvane::Testing

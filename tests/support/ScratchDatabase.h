@@ -2,8 +2,6 @@
 
 #include "support/ScratchSchema.h"
 
-#include <korvane/ado/Connection.h>
-
 #include <optional>
 #include <string>
 
@@ -18,9 +16,6 @@ class ScratchDatabase {
 
     explicit ScratchDatabase(const std::string& file);
     std::string address() const;
-
-    /// Lets a statement wait for other programs no longer than a test likes to.
-    static void waitBriefly(ado::Connection& connection);
 
   private:
     std::string mFile;
