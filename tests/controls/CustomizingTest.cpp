@@ -43,6 +43,7 @@ const WayOut waysOut[] = {
     by("lblNip(1)", isMood),
     by("tab 1", [](auto& d) { return d.tabs().currentIndex() == 1; }),
     by("ID_CustomizeNipGroup", isEmpty),
+    by("ID_NewNipGroup", isEmpty),
     by("Back", [](auto& d) { return !d.template part<QWidget>("paneCustomize").isVisible(); }),
     by("Close pane", [](auto& d) { return !d.heard.empty(); }),
     {"customizing again", [](auto& d) { return d.panel.CustomizeNip(), isEmpty(d); }},
