@@ -1,4 +1,3 @@
-#include "clinic/sample/Csv.h"
 #include "clinic/sample/FhirQuestionnaire.h"
 #include "clinic/sample/FieldNames.h"
 #include "clinic/sample/LformsPanel.h"
@@ -21,14 +20,6 @@ std::vector<std::string> summaryOf(const FormDefinition& form) {
         summary.push_back(f.name + " " + f.displayType + " " + std::to_string(f.maxLength) +
                           (f.carriedForward ? " carried" : "") + " [" + f.defaultValue + "]");
     return summary;
-}
-
-TEST(Csv, ReadsQuotedFieldsAndEveryLineEnd) {
-    EXPECT_THAT(readCsv("a,\"b, \"\"c\"\"\",\r\n\n\"two\nlines\",,last"),
-                ElementsAre(CsvRow{"a", "b, \"c\"", ""}, CsvRow{"two\nlines", "", "last"}));
-    EXPECT_THAT(readCsv("a,"), ElementsAre(CsvRow{"a", ""}));
-    EXPECT_THROW(readCsv("a,\"b"), RuntimeError);
-    EXPECT_THROW(readCsv("a,\"b\"c"), RuntimeError);
 }
 
 TEST(FieldNames, ArePlainAndUniqueWithoutRegardToCase) {

@@ -1,6 +1,5 @@
 #include "gallery/PropertyModel.h"
 
-#include <korvane/controls/axdate/axDate.h>
 #include <korvane/controls/buttons/funcPanel.h>
 
 #include <QColor>
@@ -22,24 +21,6 @@ QModelIndex valueOf(const PropertyModel& model, const char* property) {
 }
 
 } // namespace
-
-TEST(PropertyModel, TellsWhichPropertiesAreKeptAndWhichCanBeChanged) {
-    Korvane::axDate date;
-    const PropertyModel model(date);
-    struct Case {
-        const char* property;
-        QString kept;
-        Qt::ItemFlags how;
-    };
-    for (const Case& c :
-         {Case{"FourDigitYearError", "read only", {}}, Case{"MaximumDate", "no", Qt::ItemIsEditable},
-          Case{"axDate", "yes", Qt::ItemIsEditable}, Case{"Enlivened", "yes", Qt::ItemIsUserCheckable}}) {
-        SCOPED_TRACE(c.property);
-        const QModelIndex value = valueOf(model, c.property);
-        EXPECT_EQ(value.siblingAtColumn(PropertyModel::Kept).data(), c.kept);
-        EXPECT_EQ(model.flags(value) & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable), c.how);
-    }
-}
 
 TEST(PropertyModel, ChangesAPropertyInTheWayOfItsKind) {
     Korvane::funcPanel panel;
