@@ -36,7 +36,8 @@ void lifting(std::string_view text);
 
 /// No translation changes a text or adds one that it did not make, none fails on text columns, and each
 /// leaves alone what needs no translation. The output is not much longer than the input. With columns of all
-/// types it raises nothing but a RuntimeError, and on SQLite a translated statement needs no more translation.
+/// types it raises nothing but a RuntimeError, and on SQLite a translated statement needs no more
+/// translation.
 void translating(std::string_view text);
 
 /// The time for a statement grows with its length, not with its square. The three lines of the text are how a
