@@ -28,6 +28,13 @@ std::string written(const Literal& literal) {
     return literal.integer < 0 ? "-\n" + digits.substr(1) : digits;
 }
 
+/// To an engine 0 and -0 are the same whole number, which a lifted value no longer tells apart.
+std::string withoutNegativeZeros(std::string lines) {
+    for (std::size_t at; (at = lines.find("\n-\n0\n")) != std::string::npos;)
+        lines.erase(at + 1, 2);
+    return lines;
+}
+
 } // namespace
 
 void lifting(std::string_view text) {
@@ -49,7 +56,8 @@ void lifting(std::string_view text) {
         }
     }
     require(literal == lifter.literals().end(), "A value has no mark", text);
-    require(before == after, "The shape with its values is another statement", text);
+    require(withoutNegativeZeros(before) == withoutNegativeZeros(after),
+            "The shape with its values is another statement", text);
 }
 
 } // namespace Korvane::Fuzz
