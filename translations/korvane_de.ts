@@ -56,7 +56,7 @@
     </message>
 </context>
 <context>
-    <name>Designer::PassingProperties</name>
+    <name>Designer::PropertyGroups</name>
     <message>
         <source>%1, not kept</source>
         <translation>%1, nicht gespeichert</translation>
@@ -588,6 +588,65 @@
     <message>
         <source>Groups of the Nip</source>
         <translation>Gruppen des Nips</translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::PropertyBag</name>
+    <message>
+        <source>%1, %2 is used</source>
+        <translation>%1, verwendet wird %2</translation>
+    </message>
+    <message>
+        <source>%1 holds %2: %3</source>
+        <translation>%1 enthält %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 is not the name of a property that is kept</source>
+        <translation>%1 ist nicht der Name einer Eigenschaft, die gespeichert wird</translation>
+    </message>
+    <message>
+        <source>%1 stands there more than once: the last is used</source>
+        <translation>%1 steht dort mehr als einmal: verwendet wird das letzte</translation>
+    </message>
+    <message>
+        <source>no names</source>
+        <translation>keine Namen</translation>
+    </message>
+    <message>
+        <source>These are no properties: %1 at character %2</source>
+        <translation>Das sind keine Eigenschaften: %1 bei Zeichen %2</translation>
+    </message>
+    <message>
+        <source>%1 is a group, and no property that is kept</source>
+        <translation>%1 ist eine Gruppe und keine Eigenschaft, die gespeichert wird</translation>
+    </message>
+    <message>
+        <source>The settings hold lines that cannot be read: what they were meant for is taken at its default</source>
+        <translation>Die Einstellungen enthalten Zeilen, die nicht gelesen werden können: wofür sie gedacht waren, gilt die Vorgabe</translation>
+    </message>
+    <message>
+        <source>that is no text</source>
+        <translation>das ist kein Text</translation>
+    </message>
+    <message>
+        <source>that is no &quot;True&quot; or &quot;False&quot;</source>
+        <translation>das ist weder „True“ noch „False“</translation>
+    </message>
+    <message>
+        <source>that is no whole number of 16 bits</source>
+        <translation>das ist keine ganze Zahl mit 16 Bit</translation>
+    </message>
+    <message>
+        <source>that is no whole number</source>
+        <translation>das ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>that is no %1</source>
+        <translation>das ist kein %1</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
     </message>
 </context>
 <context>
@@ -1180,6 +1239,10 @@
         <source> Error in %1: %2</source>
         <translation> Fehler in %1: %2</translation>
     </message>
+    <message>
+        <source>that is no &quot;True&quot; or &quot;False&quot;, True is used</source>
+        <translation>das ist weder „True“ noch „False“, verwendet wird True</translation>
+    </message>
 </context>
 <context>
     <name>Korvane::data</name>
@@ -1296,6 +1359,18 @@
     <message>
         <source>buttonCount must not be greater than 5.</source>
         <translation>buttonCount darf nicht größer als 5 sein.</translation>
+    </message>
+    <message>
+        <source>that is no size, %1 is used</source>
+        <translation>das ist keine Größe, verwendet wird %1</translation>
+    </message>
+    <message>
+        <source>that has more than 32 bits, the button face is used</source>
+        <translation>das hat mehr als 32 Bit, verwendet wird die Farbe der Tasten</translation>
+    </message>
+    <message>
+        <source>%1 5 is used</source>
+        <translation>%1 Verwendet wird 5</translation>
     </message>
 </context>
 <context>

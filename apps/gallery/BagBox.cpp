@@ -17,13 +17,9 @@ QString kindOfFile() {
     return BagBox::tr("Kept properties (*.json)");
 }
 
-QFont fixedFont(const QFont& form) {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    if (form.pointSizeF() > 0)
-        font.setPointSizeF(form.pointSizeF());
-    else
-        font.setPixelSize(form.pixelSize());
-    return font;
+QFont fixedFont(QFont form) {
+    form.setFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
+    return form;
 }
 
 } // namespace
@@ -102,6 +98,17 @@ void BagBox::open(const QString& file) {
 void BagBox::tell(const QString& text) {
     mProblems->setText(text);
     mProblems->setVisible(!text.isEmpty());
+    makeRoom();
+}
+
+/// A splitter does not ask how many lines a text has in its width.
+void BagBox::makeRoom() {
+    mProblems->setMinimumHeight(qMax(0, mProblems->heightForWidth(layout()->contentsRect().width())));
+}
+
+void BagBox::resizeEvent(QResizeEvent* event) {
+    QGroupBox::resizeEvent(event);
+    makeRoom();
 }
 
 } // namespace Gallery

@@ -30,9 +30,13 @@ class BagBox : public QGroupBox {
   signals:
     void hasRead();
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
-    void addButtons(class QLayout& row);
+    void addButtons(QLayout& row);
     void tell(const QString& text);
+    void makeRoom();
 
     Korvane::UserControl& mControl;
     QPlainTextEdit* mText;

@@ -39,7 +39,7 @@ bool readFlag(const PropertyBag& bag, const QString& name, std::exception_ptr& f
         return Variant(utf8(bag.ReadProperty(name, flagText(true)).toString())).toBoolean();
     } catch (const RuntimeError&) {
         failure = std::current_exception();
-        bag.addProblem(name, QStringLiteral("that is no \"True\" or \"False\", True is used"));
+        bag.addProblem(name, axDate::tr("that is no \"True\" or \"False\", True is used"));
         return true;
     }
 }

@@ -23,8 +23,7 @@ void takeSize(qint16& size, qint16 code) {
 
 void readSize(qint16& size, const PropertyBag& bag, const char* name) {
     const qint16 code = readCode(bag, name, funcPanel::TenPoints);
-    if (code < 0)
-        bag.addProblem(QLatin1String(name), QStringLiteral("that is no size, %1 is used").arg(size));
+    if (code < 0) bag.addProblem(QLatin1String(name), funcPanel::tr("that is no size, %1 is used").arg(size));
     takeSize(size, code);
 }
 
@@ -94,7 +93,7 @@ void funcPanel::readBackColor(const PropertyBag& bag) {
     const qlonglong code = bag.ReadProperty("BackColor", qlonglong{buttonFace}).toLongLong();
     const bool fits =
         code >= std::numeric_limits<qint32>::min() && code <= std::numeric_limits<quint32>::max();
-    if (!fits) bag.addProblem("BackColor", "that has more than 32 bits, the button face is used");
+    if (!fits) bag.addProblem("BackColor", tr("that has more than 32 bits, the button face is used"));
     mBackColor = fits ? static_cast<qint32>(code) : buttonFace;
 }
 
@@ -102,7 +101,7 @@ void funcPanel::readBackColor(const PropertyBag& bag) {
 void funcPanel::readCount(const PropertyBag& bag) {
     const qint16 count = readCode(bag, "buttonCount", most);
     const char* why = refusal(count);
-    if (why) bag.addProblem(QStringLiteral("buttonCount"), QLatin1String(why) + QStringLiteral(" 5 is used"));
+    if (why) bag.addProblem(QStringLiteral("buttonCount"), tr("%1 5 is used").arg(tr(why)));
     mCount = why ? qint16{most} : count;
 }
 

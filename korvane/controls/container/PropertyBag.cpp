@@ -11,8 +11,7 @@ QVariant PropertyBag::ReadProperty(const QString& name, const QVariant& defaultV
     if (!defaultValue.isValid()) return value;
     QVariant taken = propertyValue(value, defaultValue.metaType());
     if (taken.isValid()) return taken;
-    addProblem(name, QStringLiteral("that is no %1, %2 is used")
-                         .arg(kindOfValue(defaultValue.metaType()), shownValue(defaultValue)));
+    addProblem(name, tr("%1, %2 is used").arg(notOfType(defaultValue.metaType()), shownValue(defaultValue)));
     return defaultValue;
 }
 
@@ -25,14 +24,14 @@ void PropertyBag::WriteProperty(const QString& name, const QVariant& value, cons
 }
 
 void PropertyBag::addProblem(const QString& name, const QString& why) const {
-    mProblems[name] = QStringLiteral("%1 holds %2: %3").arg(name, shownValue(mValues.value(name)), why);
+    mProblems[name] = tr("%1 holds %2: %3").arg(name, shownValue(mValues.value(name)), why);
 }
 
 QStringList PropertyBag::problems() const {
     auto found = mProblems;
     for (auto each = mValues.keyBegin(); each != mValues.keyEnd(); ++each)
         if (!mAskedFor.contains(*each))
-            found[*each] = QStringLiteral("%1 is not the name of a property that is kept").arg(*each);
+            found[*each] = tr("%1 is not the name of a property that is kept").arg(*each);
     return found.values();
 }
 

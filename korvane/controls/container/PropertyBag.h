@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QMap>
 #include <QSet>
@@ -29,8 +30,10 @@ namespace Korvane {
 ///         qWarning() << problem;
 ///
 /// A bag may be written by hand: what is missing or cannot be used is taken at its default, and what was
-/// wrong with it is told by `problems`, in English like the names that it is about. Nothing is raised for it.
+/// wrong with it is told by `problems`, in the user's language. Nothing is raised for it.
 class PropertyBag {
+    Q_DECLARE_TR_FUNCTIONS(Korvane::PropertyBag)
+
   public:
     /// The value in the type of the default. The default itself when the bag has no such name, or holds
     /// something that is not of that type: a text that reads as a number is one, so is "True" or "False" a

@@ -74,12 +74,11 @@ void PropertyBag::Contents(const QByteArray& bytes) {
     *this = fromJson(document.object());
     if (document.isObject()) {
         for (const QString& name : repeatedNames(bytes))
-            mProblems[name] = QStringLiteral("%1 stands there more than once: the last is used").arg(name);
+            mProblems[name] = tr("%1 stands there more than once: the last is used").arg(name);
         return;
     }
-    const QString why = document.isNull() ? error.errorString() : QStringLiteral("no names");
-    mProblems[QString()] =
-        QStringLiteral("These are no properties: %1 at character %2").arg(why).arg(error.offset);
+    const QString why = document.isNull() ? error.errorString() : tr("no names");
+    mProblems[QString()] = tr("These are no properties: %1 at character %2").arg(why).arg(error.offset);
 }
 
 void PropertyBag::save(QSettings& settings, const QString& group) const {
@@ -95,10 +94,10 @@ PropertyBag PropertyBag::load(QSettings& settings, const QString& group) {
     for (const QString& name : settings.childKeys())
         bag.mValues.insert(name, settings.value(name));
     for (const QString& name : settings.childGroups())
-        bag.mProblems[name] = QStringLiteral("%1 is a group, and no property that is kept").arg(name);
+        bag.mProblems[name] = tr("%1 is a group, and no property that is kept").arg(name);
     if (settings.status() == QSettings::FormatError)
-        bag.mProblems[QString()] = QStringLiteral("The settings hold lines that cannot be read: what they "
-                                                  "were meant for is taken at its default");
+        bag.mProblems[QString()] = tr("The settings hold lines that cannot be read: what they "
+                                      "were meant for is taken at its default");
     return bag;
 }
 

@@ -1,8 +1,9 @@
 #include <korvane/controls/container/PropertyValue.h>
 
+#include <korvane/controls/container/PropertyBag.h>
+
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QJsonValue>
 
 #include <cmath>
@@ -85,12 +86,12 @@ QVariant propertyValue(const QVariant& value, QMetaType type) {
     return converted.convert(type) ? converted : QVariant();
 }
 
-QString kindOfValue(QMetaType type) {
-    if (type.id() == QMetaType::QString) return QStringLiteral("text");
-    if (type.id() == QMetaType::Bool) return QStringLiteral("\"True\" or \"False\"");
-    if (type.id() == QMetaType::Short) return QStringLiteral("whole number of 16 bits");
-    if (isWholeType(type)) return QStringLiteral("whole number");
-    return QString::fromLatin1(type.name());
+QString notOfType(QMetaType type) {
+    if (type.id() == QMetaType::QString) return PropertyBag::tr("that is no text");
+    if (type.id() == QMetaType::Bool) return PropertyBag::tr("that is no \"True\" or \"False\"");
+    if (type.id() == QMetaType::Short) return PropertyBag::tr("that is no whole number of 16 bits");
+    if (isWholeType(type)) return PropertyBag::tr("that is no whole number");
+    return PropertyBag::tr("that is no %1").arg(QLatin1String(type.name()));
 }
 
 QString shownValue(const QVariant& value) {
@@ -98,10 +99,9 @@ QString shownValue(const QVariant& value) {
     const QVariant simple = textOf(value);
     if (simple.isValid()) return simple.toString();
     const auto json = QJsonValue::fromVariant(value);
-    const QJsonDocument several =
-        json.isArray() ? QJsonDocument(json.toArray()) : QJsonDocument(json.toObject());
-    return json.isNull() ? QStringLiteral("nothing")
-                         : QString::fromUtf8(several.toJson(QJsonDocument::Compact));
+    if (json.isNull()) return PropertyBag::tr("nothing");
+    const QByteArray listed = QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(listed.mid(1, listed.size() - 2));
 }
 
 } // namespace Korvane

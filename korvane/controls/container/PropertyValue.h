@@ -10,8 +10,8 @@ namespace Korvane {
 /// is lost or made up: a fraction is not rounded, any text is not "true".
 QVariant propertyValue(const QVariant& value, QMetaType type);
 
-/// A type for a message: "whole number".
-QString kindOfValue(QMetaType type);
+/// Why a value is not taken for one of that type, in the user's language: "that is no whole number".
+QString notOfType(QMetaType type);
 /// A value for a message: as it reads, a text in quotes.
 QString shownValue(const QVariant& value);
 
