@@ -7,6 +7,5 @@ function(korvane_application name)
     target_link_libraries(${name}_app PUBLIC apps_shared PRIVATE korvane_warnings)
 
     add_executable(korvane-${name} main.cpp)
-    target_compile_definitions(korvane-${name} PRIVATE KORVANE_VERSION="${PROJECT_VERSION}")
     target_link_libraries(korvane-${name} PRIVATE ${name}_app korvane_warnings)
 endfunction()

@@ -4,9 +4,7 @@
 #include "clinic/MainWindow.h"
 #include "clinic/Options.h"
 #include "clinic/tour/Tour.h"
-#include "shared/CommandLine.h"
-#include "shared/Language.h"
-#include "shared/Screen.h"
+#include "shared/Start.h"
 
 #include <korvane/controls/container/Busy.h>
 #include <korvane/controls/container/QtInteraction.h>
@@ -50,7 +48,10 @@ std::shared_ptr<Korvane::ado::Connection> openAtLast(QString& address) {
     }
 }
 
-int openWindow(const Clinic::Options& options) {
+int run(const Clinic::Options& options) {
+    Korvane::QtInteraction::installOnce();
+    if (!options.tourDirectory.isEmpty())
+        return Clinic::runTour(options.tourDirectory, options.database, options.fontScale);
     QString address = options.database;
     const auto connection = openAtLast(address);
     if (!connection) return 1;
@@ -65,19 +66,8 @@ int main(int argc, char** argv) {
     // The database and the logs hold clinical text: what is created is for its owner alone.
     ::umask(077);
     QCoreApplication::setOrganizationName(QStringLiteral("Korvane"));
-    QCoreApplication::setApplicationName(QStringLiteral("korvane-clinic"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
-    if (Apps::needsNoScreen(argc, argv)) {
-        const QCoreApplication application(argc, argv);
-        Apps::chooseLanguage(QCoreApplication::arguments());
-        Clinic::readOptions(QCoreApplication::arguments());
-    }
-    if (!Apps::readyScreen("korvane-clinic", argc, argv)) return 1;
-    const QApplication application(argc, argv);
-    Apps::chooseLanguage(QCoreApplication::arguments());
-    const Clinic::Options options = Clinic::readOptions(QCoreApplication::arguments());
-    Korvane::QtInteraction::installOnce();
-    if (!options.tourDirectory.isEmpty())
-        return Clinic::runTour(options.tourDirectory, options.database, options.fontScale);
-    return openWindow(options);
+    Clinic::Options options;
+    return Apps::start(
+        "korvane-clinic", argc, argv, [&] { options = Clinic::readOptions(QCoreApplication::arguments()); },
+        [&] { return run(options); });
 }

@@ -4,9 +4,8 @@
 #include "dateform/Tour.h"
 #include "dateform/engine/Engine.h"
 #include "shared/CommandLine.h"
-#include "shared/Language.h"
 #include "shared/ScaledFont.h"
-#include "shared/Screen.h"
+#include "shared/Start.h"
 
 #include <QApplication>
 
@@ -34,7 +33,8 @@ Options readOptions() {
     return {Apps::tourDirectory(parser), parser.value(QStringLiteral("sound")), Apps::fontScale(parser, 100)};
 }
 
-int openForm(const Options& options) {
+int run(const Options& options) {
+    if (!options.tourDirectory.isEmpty()) return DateForm::runTour(options.tourDirectory, options.fontScale);
     QApplication::setFont(Apps::scaled(QApplication::font(), options.fontScale));
     const DateForm::InstalledEngine engine(DateForm::soundFrom(options.soundFile));
     DateForm::TestForm form;
@@ -45,17 +45,7 @@ int openForm(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication::setApplicationName(QStringLiteral("korvane-dateform"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
-    if (Apps::needsNoScreen(argc, argv)) {
-        const QCoreApplication application(argc, argv);
-        Apps::chooseLanguage(QCoreApplication::arguments());
-        readOptions();
-    }
-    if (!Apps::readyScreen("korvane-dateform", argc, argv)) return 1;
-    const QApplication application(argc, argv);
-    Apps::chooseLanguage(QCoreApplication::arguments());
-    const Options options = readOptions();
-    if (!options.tourDirectory.isEmpty()) return DateForm::runTour(options.tourDirectory, options.fontScale);
-    return openForm(options);
+    Options options;
+    return Apps::start(
+        "korvane-dateform", argc, argv, [&] { options = readOptions(); }, [&] { return run(options); });
 }

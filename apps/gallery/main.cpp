@@ -3,9 +3,8 @@
 #include "gallery/GalleryWindow.h"
 #include "gallery/Tour.h"
 #include "shared/CommandLine.h"
-#include "shared/Language.h"
 #include "shared/ScaledFont.h"
-#include "shared/Screen.h"
+#include "shared/Start.h"
 
 #include <QApplication>
 
@@ -30,7 +29,8 @@ Options readOptions() {
     return {Apps::tourDirectory(parser), Apps::fontScale(parser, 100)};
 }
 
-int openWindow(const Options& options) {
+int run(const Options& options) {
+    if (!options.tourDirectory.isEmpty()) return Gallery::runTour(options.tourDirectory, options.fontScale);
     QApplication::setFont(Apps::scaled(QApplication::font(), options.fontScale));
     Gallery::GalleryWindow window;
     window.show();
@@ -40,17 +40,7 @@ int openWindow(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication::setApplicationName(QStringLiteral("korvane-gallery"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
-    if (Apps::needsNoScreen(argc, argv)) {
-        const QCoreApplication application(argc, argv);
-        Apps::chooseLanguage(QCoreApplication::arguments());
-        readOptions();
-    }
-    if (!Apps::readyScreen("korvane-gallery", argc, argv)) return 1;
-    const QApplication application(argc, argv);
-    Apps::chooseLanguage(QCoreApplication::arguments());
-    const Options options = readOptions();
-    if (!options.tourDirectory.isEmpty()) return Gallery::runTour(options.tourDirectory, options.fontScale);
-    return openWindow(options);
+    Options options;
+    return Apps::start(
+        "korvane-gallery", argc, argv, [&] { options = readOptions(); }, [&] { return run(options); });
 }

@@ -4,11 +4,8 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <string_view>
 
 namespace Apps {
 
@@ -19,13 +16,6 @@ struct CommandLine {
 };
 
 } // namespace
-
-bool needsNoScreen(int argc, char** argv) {
-    constexpr std::array<std::string_view, 5> words{"--help", "-h", "--help-all", "--version", "-v"};
-    return std::any_of(argv + 1, argv + argc, [&](std::string_view argument) {
-        return std::find(words.begin(), words.end(), argument) != words.end();
-    });
-}
 
 void refuse(const QString& why) {
     std::fprintf(stderr, "%s: %s\n", qUtf8Printable(QCoreApplication::applicationName()),

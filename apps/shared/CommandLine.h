@@ -4,9 +4,6 @@
 
 namespace Apps {
 
-/// Whether the command line asks for --help or --version, which work where no window can be opened.
-bool needsNoScreen(int argc, char** argv);
-
 /// A line on standard error, "program: why", and the end of the program with code 1.
 [[noreturn]] void refuse(const QString& why);
 

@@ -8,8 +8,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QStandardPaths>
+
+#include <optional>
 
 // A static library's resources are there only when they are asked for; Qt wants that outside every namespace.
 static void makeCataloguesKnown() {
@@ -22,17 +23,13 @@ namespace {
 
 const QString catalogue = QStringLiteral("korvane_apps");
 
-QString optionName() {
-    return QStringLiteral("language");
-}
-
-/// What is given for the option, before the others can be read; null when it is not.
-QString given(const QStringList& arguments) {
-    const QString option = QStringLiteral("--") + optionName();
-    const qsizetype at = arguments.indexOf(option);
-    if (at >= 0) return arguments.value(at + 1, QStringLiteral(""));
-    const QStringList joined = arguments.filter(QRegularExpression(u'^' + option + u'='));
-    return joined.isEmpty() ? QString() : joined.first().mid(option.size() + 1);
+/// What is given for the option, before the others can be read.
+std::optional<QString> given(const QStringList& arguments) {
+    QCommandLineParser parser;
+    const QCommandLineOption option = languageOption();
+    parser.addOption(option);
+    parser.parse(arguments);
+    return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
 }
 
 /// "de, en"
@@ -55,17 +52,17 @@ void chooseLanguage(const QStringList& arguments) {
         QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("korvane/translations"),
                                   QStandardPaths::LocateDirectory);
     const QStringList all = own + QStringList(QStringLiteral(":/korvane/translations"));
-    const QString name = given(arguments);
-    const QLocale locale = name.isNull() ? QLocale::system() : QLocale(name);
+    const auto name = given(arguments);
+    const QLocale locale = name ? QLocale(*name) : QLocale::system();
     Korvane::installTranslations(locale, own);
     const bool found = Korvane::installCatalogue(catalogue, locale, all);
     // Qt takes what it does not know for the language "C".
-    if (!name.isNull() && (!found || locale.language() == QLocale::C))
+    if (name && (!found || locale.language() == QLocale::C))
         refuse(QCoreApplication::translate("Apps::Language", "--language takes one of: %1.").arg(known(all)));
 }
 
 QCommandLineOption languageOption() {
-    return {optionName(),
+    return {QStringLiteral("language"),
             QCoreApplication::translate(
                 "Apps::Language", "The language to speak, like de; without it the system's, where there is "
                                   "a catalogue for it."),

@@ -1,5 +1,6 @@
 #include "shared/Screen.h"
 
+#include "shared/CommandLine.h"
 #include "shared/Language.h"
 
 #include <QCoreApplication>
@@ -42,21 +43,18 @@ void enlargeNoScreen() {
 
 } // namespace
 
-bool readyScreen(const char* program, int argc, char** argv) {
+void readyScreen(int argc, char** argv) {
     const bool isTour = hasArgument(argc, argv, "--tour");
     if (!hasScreen(argc, argv)) {
         if (!isTour) {
             const QCoreApplication application(argc, argv);
             chooseLanguage(QCoreApplication::arguments());
-            const QString why = QCoreApplication::translate(
-                "Apps::Screen", "there is no display. Set DISPLAY, or see the guided tour with --tour DIR.");
-            std::fprintf(stderr, "%s: %s\n", program, qUtf8Printable(why));
-            return false;
+            refuse(QCoreApplication::translate(
+                "Apps::Screen", "there is no display. Set DISPLAY, or see the guided tour with --tour DIR."));
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     if (isTour && qgetenv("QT_QPA_PLATFORM") == "offscreen") enlargeNoScreen();
-    return true;
 }
 
 } // namespace Apps

@@ -6,7 +6,7 @@ namespace Apps {
 /// display: it gets one that shows nothing (platform "offscreen"), large enough for the window and its lists,
 /// and what such a screen cannot do is not told.
 ///
-/// False, with a line on standard error, when there is no display and no tour is wanted.
-bool readyScreen(const char* program, int argc, char** argv);
+/// Refuses to go on when there is no display and no tour is wanted.
+void readyScreen(int argc, char** argv);
 
 } // namespace Apps
