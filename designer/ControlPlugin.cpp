@@ -1,7 +1,7 @@
 #include "designer/ControlPlugin.h"
 
 #include "designer/NewControl.h"
-#include "designer/PassingProperties.h"
+#include "designer/PropertyGroups.h"
 
 #include <korvane/controls/container/Translations.h>
 

@@ -1,15 +1,10 @@
 #include "designer/NewControl.h"
 
-#include "designer/PassingProperties.h"
-
 #include <QCoreApplication>
-#include <QXmlStreamWriter>
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <string_view>
-#include <utility>
 
 namespace Designer {
 
@@ -17,43 +12,10 @@ namespace {
 
 using Korvane::UserControl;
 
-class Writer {
-  public:
-    explicit Writer(QString& text) : mXml(&text) { mXml.setAutoFormatting(true); }
-
-    using Attributes = std::initializer_list<std::pair<const char*, QString>>;
-
-    /// An element with what is written inside it.
-    template <typename Inside>
-    void element(const char* name, Attributes attributes, Inside inside) {
-        mXml.writeStartElement(QLatin1String(name));
-        for (const auto& [attribute, value] : attributes)
-            mXml.writeAttribute(QLatin1String(attribute), value);
-        inside();
-        mXml.writeEndElement();
-    }
-    void text(const char* name, const QString& text) { mXml.writeTextElement(QLatin1String(name), text); }
-    void characters(const QString& text) { mXml.writeCharacters(text); }
-
-  private:
-    QXmlStreamWriter mXml;
-};
-
 QSize firstSize(const ControlKind& kind, const UserControl& control) {
     const QFontMetrics text = control.fontMetrics();
     const QSize room(kind.roomFor.width() * text.averageCharWidth(), kind.roomFor.height() * text.height());
     return control.sizeHint().expandedTo(room);
-}
-
-void writeSize(Writer& xml, QSize size) {
-    xml.element("property", {{"name", QStringLiteral("geometry")}}, [&] {
-        xml.element("rect", {}, [&] {
-            for (const char* corner : {"x", "y"})
-                xml.text(corner, QStringLiteral("0"));
-            xml.text("width", QString::number(size.width()));
-            xml.text("height", QString::number(size.height()));
-        });
-    });
 }
 
 /// What the user enters or edits. It has no translation: a form that is put into another language meanwhile
@@ -65,45 +27,45 @@ bool isContent(const QMetaProperty& property) {
 }
 
 /// All that `InitProperties` sets are texts and flags.
-void writeValue(Writer& xml, const QMetaProperty& property, const QVariant& value) {
-    if (value.typeId() == QMetaType::Bool)
-        xml.text("bool", value.toBool() ? QStringLiteral("true") : QStringLiteral("false"));
-    else if (isContent(property))
-        xml.element("string", {{"notr", QStringLiteral("true")}}, [&] { xml.characters(value.toString()); });
-    else
-        xml.text("string", value.toString());
+QString valueElement(const QMetaProperty& property, const QVariant& value) {
+    const QString text = value.toString().toHtmlEscaped();
+    if (value.typeId() == QMetaType::Bool) return QStringLiteral("<bool>%1</bool>").arg(text);
+    return QStringLiteral("<string%1>%2</string>").arg(isContent(property) ? " notr=\"true\"" : "", text);
 }
 
-void writeProperties(Writer& xml, const UserControl& plain, const UserControl& fresh) {
-    const QMetaObject& type = *fresh.metaObject();
-    for (int i = UserControl::staticMetaObject.propertyCount(); i < type.propertyCount(); ++i) {
-        const QMetaProperty property = type.property(i);
+/// What a new control has otherwise than one that was only made.
+QString propertyElements(const UserControl& plain, const UserControl& fresh) {
+    QString elements;
+    for (const QMetaProperty& property : fresh.ownProperties()) {
         const QVariant value = property.read(&fresh);
-        if (!property.isStored() || value == property.read(&plain)) continue;
-        xml.element("property", {{"name", QString::fromLatin1(property.name())}},
-                    [&] { writeValue(xml, property, value); });
+        if (property.isStored() && value != property.read(&plain))
+            elements += QStringLiteral("<property name=\"%1\">%2</property>")
+                            .arg(property.name(), valueElement(property, value));
     }
+    return elements;
 }
 
-void writeToolTips(Writer& xml, const UserControl& control) {
+QString toolTipElements(const UserControl& control) {
     const QString notKept = QCoreApplication::translate("Designer::NewControl", "%1: no form keeps it.");
     const QString readOnly = QCoreApplication::translate("Designer::NewControl", "%1: the control tells it.");
-    for (const QMetaProperty& property : passingProperties(control)) {
-        const QString name = QString::fromLatin1(property.name());
-        xml.element("tooltip", {{"name", name}},
-                    [&] { xml.characters((property.isWritable() ? notKept : readOnly).arg(name)); });
+    QString elements;
+    for (const QMetaProperty& property : control.ownProperties()) {
+        const QString text = (property.isWritable() ? notKept : readOnly).arg(property.name());
+        if (!property.isStored())
+            elements += QStringLiteral("<tooltip name=\"%1\">%2</tooltip>")
+                            .arg(property.name(), text.toHtmlEscaped());
     }
+    return elements;
 }
 
-void writeContents(Writer& xml, const UserControl& control) {
-    const QMetaObject& type = *control.metaObject();
-    for (int i = UserControl::staticMetaObject.propertyCount(); i < type.propertyCount(); ++i)
-        if (isContent(type.property(i)))
-            xml.element("stringpropertyspecification",
-                        {{"name", QString::fromLatin1(type.property(i).name())},
-                         {"type", QStringLiteral("singleline")},
-                         {"notr", QStringLiteral("true")}},
-                        [] {});
+QString contentElements(const UserControl& control) {
+    QString elements;
+    for (const QMetaProperty& property : control.ownProperties())
+        if (isContent(property))
+            elements +=
+                QStringLiteral(R"(<stringpropertyspecification name="%1" type="singleline" notr="true"/>)")
+                    .arg(property.name());
+    return elements;
 }
 
 } // namespace
@@ -111,25 +73,25 @@ void writeContents(Writer& xml, const UserControl& control) {
 QString newControl(const ControlKind& kind) {
     const std::unique_ptr<UserControl> plain(kind.make(nullptr)), fresh(kind.make(nullptr));
     fresh->InitProperties();
-    QString text;
-    Writer xml(text);
-    xml.element("ui", {{"language", QStringLiteral("c++")}, {"displayname", QLatin1String(kind.name)}}, [&] {
-        xml.element("widget", {{"class", kind.className()}, {"name", QLatin1String(kind.name)}}, [&] {
-            writeSize(xml, firstSize(kind, *fresh));
-            writeProperties(xml, *plain, *fresh);
-        });
-        xml.element("customwidgets", {}, [&] {
-            xml.element("customwidget", {}, [&] {
-                xml.text("class", kind.className());
-                xml.text("extends", QStringLiteral("QWidget"));
-                xml.element("propertyspecifications", {}, [&] {
-                    writeToolTips(xml, *fresh);
-                    writeContents(xml, *fresh);
-                });
-            });
-        });
-    });
-    return text;
+    const QSize size = firstSize(kind, *fresh);
+    return QStringLiteral(R"(<ui language="c++" displayname="%1">
+  <widget class="%2" name="%1">
+    <property name="geometry">
+      <rect><x>0</x><y>0</y><width>%3</width><height>%4</height></rect>
+    </property>
+    %5
+  </widget>
+  <customwidgets>
+    <customwidget>
+      <class>%2</class>
+      <extends>QWidget</extends>
+      <propertyspecifications>%6</propertyspecifications>
+    </customwidget>
+  </customwidgets>
+</ui>
+)")
+        .arg(kind.name, kind.className(), QString::number(size.width()), QString::number(size.height()),
+             propertyElements(*plain, *fresh), toolTipElements(*fresh) + contentElements(*fresh));
 }
 
 } // namespace Designer

@@ -6,8 +6,6 @@
 
 namespace Gallery {
 
-using Korvane::UserControl;
-
 namespace {
 
 bool isFlag(const QMetaProperty& property) {
@@ -53,11 +51,8 @@ QFont fontFor(const QMetaProperty& property) {
 
 } // namespace
 
-PropertyModel::PropertyModel(UserControl& control) : QAbstractTableModel(&control), mControl(control) {
-    const QMetaObject& type = *control.metaObject();
-    for (int i = UserControl::staticMetaObject.propertyCount(); i < type.propertyCount(); ++i)
-        mProperties.push_back(type.property(i));
-}
+PropertyModel::PropertyModel(Korvane::UserControl& control)
+    : QAbstractTableModel(&control), mControl(control), mProperties(control.ownProperties()) {}
 
 void PropertyModel::refresh() {
     emit dataChanged(index(0, Value), index(rowCount() - 1, Kept));

@@ -2,7 +2,10 @@
 
 #include <korvane/controls/container/PropertyBag.h>
 
+#include <QMetaProperty>
 #include <QWidget>
+
+#include <vector>
 
 namespace Korvane {
 
@@ -25,6 +28,9 @@ class UserControl : public QWidget {
     /// Whether the host is designing its form; false unless it says so.
     bool designMode() const { return mDesignMode; }
     void setDesignMode(bool on) { mDesignMode = on; }
+
+    /// The properties that the control has and a plain widget has not.
+    std::vector<QMetaProperty> ownProperties() const;
 
   signals:
     /// Raised by every property setter, also for properties that are never kept.
