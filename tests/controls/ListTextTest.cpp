@@ -4,21 +4,19 @@
 
 namespace Korvane {
 
-using Items = std::vector<std::string>;
-
 TEST(ListText, HoldsTheSameValuesJoinedAndTerminated) {
-    const std::vector<std::pair<const char*, Items>> rows{{"", {}},
-                                                          {"a", {"a"}},
-                                                          {"a/b/c", {"a", "b", "c"}},
-                                                          {"a/b/c/", {"a", "b", "c"}},
-                                                          {"/", {""}},
-                                                          {"a//c", {"a", "", "c"}},
-                                                          {"a//", {"a", ""}},
-                                                          {" a / b", {" a ", " b"}},
-                                                          {"//", {"", ""}}};
+    const std::vector<std::pair<QString, QStringList>> rows{{"", {}},
+                                                            {"a", {"a"}},
+                                                            {"a/b/c", {"a", "b", "c"}},
+                                                            {"a/b/c/", {"a", "b", "c"}},
+                                                            {"/", {""}},
+                                                            {"a//c", {"a", "", "c"}},
+                                                            {"a//", {"a", ""}},
+                                                            {" a / b", {" a ", " b"}},
+                                                            {"//", {"", ""}}};
     for (const auto& [text, items] : rows) {
-        EXPECT_EQ(listItems(text), items) << text;
-        EXPECT_EQ(listItems(listText(items)), items) << text;
+        EXPECT_EQ(listItems(text), items) << text.toStdString();
+        EXPECT_EQ(listItems(listText(items)), items) << text.toStdString();
     }
     EXPECT_EQ(listText({"a", "", "c"}), "a//c/");
     EXPECT_TRUE(canBeListItem("5 %") && canBeListItem("") && !canBeListItem("mg/dL"));

@@ -1,23 +1,21 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-#include <vector>
+#include <QStringList>
 
 namespace Korvane {
 
 /// What separates the values of a list in the one text that holds them.
-constexpr char listSeparator = '/';
+constexpr QChar listSeparator = u'/';
 
 /// The values that a text holds: "a/b/c" and "a/b/c/" hold the same three. Nothing else is dropped: "a//c"
 /// holds an empty one in the middle, "/" is one empty value, and an empty text holds none.
-std::vector<std::string> listItems(std::string_view text);
+QStringList listItems(const QString& text);
 
 /// The text that holds these values, each of them followed by a separator: what `listItems` makes the same
 /// values of again, as long as each of them can be one.
-std::string listText(const std::vector<std::string>& items);
+QString listText(const QStringList& items);
 
 /// Whether a text can be a value: one with a separator would become two.
-bool canBeListItem(std::string_view text);
+bool canBeListItem(const QString& text);
 
 } // namespace Korvane

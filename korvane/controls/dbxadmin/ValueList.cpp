@@ -1,7 +1,6 @@
 #include <korvane/controls/dbxadmin/ValueList.h>
 
 #include <korvane/controls/buttons/CommandButton.h>
-#include <korvane/controls/container/Text.h>
 #include <korvane/controls/container/UserControl.h>
 #include <korvane/controls/dbxadmin/GivenText.h>
 #include <korvane/controls/dbxadmin/ListText.h>
@@ -19,12 +18,11 @@ namespace Korvane {
 void ValueList::setData(const QString& text) {
     mData = text;
     if (text.isEmpty()) return;
-    const auto items = listItems(utf8(text));
+    const auto items = listItems(text);
     if (isAncestorOf(QApplication::focusWidget()) && items == shownItems()) return;
     const QSignalBlocker quiet(lstAddtoList);
     lstAddtoList->clear();
-    for (const std::string& item : items)
-        lstAddtoList->addItem(qt(item));
+    lstAddtoList->addItems(items);
     lstAddtoList->setCurrentRow(0);
     setRemoves(mRemoves);
 }
@@ -95,7 +93,7 @@ void ValueList::typed() {
 void ValueList::add() {
     const QString text = entryText();
     if (text.isEmpty()) return;
-    if (!canBeListItem(utf8(text))) return explainSeparator();
+    if (!canBeListItem(text)) return explainSeparator();
     {
         const QSignalBlocker quiet(lstAddtoList);
         lstAddtoList->addItem(text);
@@ -120,15 +118,15 @@ void ValueList::remove(bool selectsNext) {
     changed();
 }
 
-std::vector<std::string> ValueList::shownItems() const {
-    std::vector<std::string> items;
+QStringList ValueList::shownItems() const {
+    QStringList items;
     for (int i = 0; i < lstAddtoList->count(); ++i)
-        items.push_back(utf8(lstAddtoList->item(i)->text()));
+        items << lstAddtoList->item(i)->text();
     return items;
 }
 
 void ValueList::changed() {
-    mData = qt(listText(shownItems()));
+    mData = listText(shownItems());
     emit listChanged();
 }
 

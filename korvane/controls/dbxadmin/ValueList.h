@@ -1,9 +1,7 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
-
-#include <string>
-#include <vector>
 
 class QBoxLayout;
 class QKeyEvent;
@@ -74,7 +72,7 @@ class ValueList : public QWidget {
     void add();
     void remove(bool selectsNext);
     void changed();
-    std::vector<std::string> shownItems() const;
+    QStringList shownItems() const;
     int selectedRow() const;
     bool hasWork() const;
     void showButton();

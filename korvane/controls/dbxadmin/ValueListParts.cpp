@@ -1,7 +1,6 @@
 #include <korvane/controls/dbxadmin/ValueList.h>
 
 #include <korvane/controls/buttons/CommandButton.h>
-#include <korvane/controls/container/Text.h>
 #include <korvane/controls/container/Twips.h>
 #include <korvane/controls/container/UserControl.h>
 #include <korvane/controls/dbxadmin/ListText.h>
@@ -29,7 +28,7 @@ class OneItem : public QValidator {
   public:
     using QValidator::QValidator;
     State validate(QString& input, int&) const override {
-        return canBeListItem(utf8(input)) ? Acceptable : Invalid;
+        return canBeListItem(input) ? Acceptable : Invalid;
     }
 };
 
@@ -75,8 +74,7 @@ void ValueList::makeList() {
 }
 
 void ValueList::explainSeparator() {
-    const QString text =
-        tr("A value cannot hold a \"%1\": it separates the values.").arg(QLatin1Char(listSeparator));
+    const QString text = tr("A value cannot hold a \"%1\": it separates the values.").arg(listSeparator);
     QToolTip::showText(txtAddtoList->mapToGlobal(txtAddtoList->rect().bottomLeft()), text, txtAddtoList);
     txtAddtoList->setAccessibleDescription(text);
     QAccessibleEvent alert(txtAddtoList, QAccessible::Alert);
