@@ -12,8 +12,8 @@ namespace Apps {
 /// Hears every signal that an object's class declares, and its bases below a certain one, without knowing
 /// them.
 ///
-///     new SignalListener(*panel, QWidget::staticMetaObject, [](const QString& name, const QString&
-///     arguments) {
+///     using Text = const QString&;
+///     new SignalListener(*panel, QWidget::staticMetaObject, [](Text name, Text arguments) {
 ///         qInfo() << name << arguments;           // "RenamedNip" "12, \"Visit\", 11/16/2026 9:30 AM"
 ///     });
 ///

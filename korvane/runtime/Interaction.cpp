@@ -41,6 +41,10 @@ Interaction& Interaction::current() {
     return *installed();
 }
 
+bool Interaction::isDefault() {
+    return dynamic_cast<const StandardErrorInteraction*>(installed().get()) != nullptr;
+}
+
 std::shared_ptr<Interaction> Interaction::install(std::shared_ptr<Interaction> interaction) {
     if (!interaction) interaction = std::make_shared<StandardErrorInteraction>();
     return std::exchange(installed(), std::move(interaction));

@@ -43,6 +43,9 @@ class Interaction {
     /// The one in force; there always is one.
     static Interaction& current();
 
+    /// Whether nobody has installed one.
+    static bool isDefault();
+
     /// Installs another one and returns the one before; null goes back to the default.
     static std::shared_ptr<Interaction> install(std::shared_ptr<Interaction> interaction);
 };

@@ -12,7 +12,10 @@ HeldEnter::HeldEnter() : QObject(qApp) {
 /// It may be let go where nobody hears of it; then the next press of any key tells.
 bool HeldEnter::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
-    if (static_cast<QKeyEvent*>(event)->isAutoRepeat()) return true;
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    if (key.isAutoRepeat()) return true;
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (event->type() == QEvent::KeyRelease && !enter) return false;
     qApp->removeEventFilter(this);
     deleteLater();
     return false;

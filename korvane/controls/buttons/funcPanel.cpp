@@ -62,8 +62,7 @@ void funcPanel::setButtonCount(int count) {
         const QScopedValueRollback later(mArrangesLater, true);
         resize(width(), Twips(*this).px(mColumn.heightFor(count)));
     }
-    QMetaObject::invokeMethod(
-        this, [this] { arrange(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &funcPanel::arrange, Qt::QueuedConnection);
     updateGeometry();
     emit PropertyChanged(QStringLiteral("buttonCount"));
 }

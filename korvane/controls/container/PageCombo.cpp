@@ -41,8 +41,7 @@ void PageCombo::takeAnyText() {
 }
 
 bool PageCombo::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
-    if (!isCut()) return QComboBox::event(event);
+    if (event->type() != QEvent::ToolTip || !isCut()) return QComboBox::event(event);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipOf(currentText()), this);
     return true;
 }

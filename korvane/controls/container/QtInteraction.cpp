@@ -9,8 +9,6 @@
 #include <QMessageBox>
 #include <QPointer>
 
-#include <typeinfo>
-
 namespace Korvane {
 
 namespace {
@@ -103,11 +101,7 @@ std::optional<std::string> QtInteraction::InputBox(std::string_view prompt, std:
 }
 
 void QtInteraction::installOnce() {
-    const auto before = Interaction::install(nullptr);
-    const Interaction& installed = before ? *before : Interaction::current();
-    const Interaction& byDefault = Interaction::current();
-    const bool wasDefault = typeid(installed) == typeid(byDefault);
-    Interaction::install(wasDefault ? std::make_shared<QtInteraction>() : before);
+    if (isDefault()) install(std::make_shared<QtInteraction>());
     letQtTranslate();
 }
 

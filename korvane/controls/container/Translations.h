@@ -9,8 +9,8 @@ namespace Korvane {
 /// The library in the user's language. Call it when there is an application object and no control yet:
 ///
 ///     QApplication app(argc, argv);
-///     Korvane::installTranslations(QLocale());     // the system's language, where there is a catalogue for
-///     it Korvane::ucNIPPanel panel;
+///     Korvane::installTranslations(QLocale()); // the system's language
+///     Korvane::ucNIPPanel panel;
 ///
 /// Of the languages that the locale asks for (`QLocale::uiLanguages`), the first is taken that has a
 /// catalogue "korvane_<language>.qm": in one of the folders given, in their order, else among those that come
