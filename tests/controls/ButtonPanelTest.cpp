@@ -86,6 +86,7 @@ TEST(ButtonPanel, AnEnterThatIsHeldDownAnswersNoQuestionThatTheClickBringsUp) {
     };
     form.panel->Focus(0);
     send(form.button(0), QEvent::KeyPress, false);
+    QTest::keyRelease(&yes, Qt::Key_Shift);
     for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress})
         send(yes, type, true);
     EXPECT_EQ(answers, 0);
