@@ -29,14 +29,6 @@ void Journey::requireDate(const QString& wholeDate, const QString& focus) {
                 .arg(focus, focused ? focused->objectName() : QStringLiteral("no widget")));
 }
 
-void Journey::requireEvents(const QStringList& last) {
-    const QStringList heard = part<Apps::EventList>(QStringLiteral("events")).heard();
-    require(heard.mid(heard.size() - last.size()) == last,
-            QStringLiteral("The events end with \"%1\" and should with \"%2\".")
-                .arg(heard.mid(heard.size() - last.size()).join(QStringLiteral("; ")),
-                     last.join(QStringLiteral("; "))));
-}
-
 void Journey::closeDateError(const std::function<void()>& deed, const QString& message,
                              const QString& picture) {
     hand.answering(deed, [&](QWidget& box) {

@@ -29,7 +29,7 @@ void drive(const QDir& directory, int textSize, const char*& title) {
         Apps::travel(journey, voiceSteps(), title);
     else
         std::printf("--  the voice is skipped. %s\n", why.c_str());
-    std::printf("\n%d pictures in %s\n", journey.album.count(), qUtf8Printable(directory.absolutePath()));
+    journey.album.printCount();
 }
 
 } // namespace

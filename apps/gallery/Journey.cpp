@@ -45,11 +45,4 @@ void Journey::requireProperty(const char* name, const QVariant& value) {
                              .arg(QLatin1String(name), is.toString(), value.toString()));
 }
 
-void Journey::requireEvents(const QStringList& last) {
-    const QStringList heard = part<Apps::EventList>(QStringLiteral("events")).heard();
-    const QStringList end = heard.mid(heard.size() - last.size());
-    require(end == last, QStringLiteral("The events end with \"%1\" and should with \"%2\".")
-                             .arg(end.join(QStringLiteral("; ")), last.join(QStringLiteral("; "))));
-}
-
 } // namespace Gallery

@@ -19,7 +19,7 @@ void drive(const QDir& directory, int textSize, const char*& title) {
     Apps::showActive(window);
     Journey journey(window, directory.absolutePath());
     Apps::travel(journey, steps(), title);
-    std::printf("\n%d pictures in %s\n", journey.album.count(), qUtf8Printable(directory.absolutePath()));
+    journey.album.printCount();
 }
 
 } // namespace

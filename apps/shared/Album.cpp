@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <cstdio>
 #include <utility>
 
 namespace Apps {
@@ -50,6 +51,10 @@ void Album::add(const QString& title) {
     require(pictureAtRest().save(mDirectory.filePath(name)),
             QStringLiteral("The picture %1 cannot be written.").arg(mDirectory.filePath(name)));
     requireUsable();
+}
+
+void Album::printCount() const {
+    std::printf("\n%d pictures in %s\n", mCount, qUtf8Printable(mDirectory.absolutePath()));
 }
 
 void Album::requireUsable() const {

@@ -16,7 +16,8 @@ class Album {
     /// text in it does not fit (`clippedTexts`) or a shortcut has two uses (`doubledShortcuts`).
     void add(const QString& title);
 
-    int count() const { return mCount; }
+    /// Prints how many pictures there are, and where.
+    void printCount() const;
 
   private:
     void requireUsable() const;

@@ -28,7 +28,7 @@ void requireSame(const QString& what, const QString& is, const QString& shouldBe
 } // namespace
 
 Journey::Journey(QWidget& clinicWindow, const QString& database, const QString& directory)
-    : window(clinicWindow), album(clinicWindow, directory), ledger(database),
+    : Apps::Journey(clinicWindow, directory), window(clinicWindow), ledger(database),
       form(panelOf(clinicWindow), hand, ledger) {}
 
 void Journey::answer(const std::function<void()>& deed, const char* question,

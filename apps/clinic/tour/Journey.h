@@ -2,9 +2,7 @@
 
 #include "clinic/tour/Form.h"
 #include "clinic/tour/Ledger.h"
-#include "shared/Album.h"
-#include "shared/Failure.h"
-#include "shared/Hand.h"
+#include "shared/Journey.h"
 
 #include <QMessageBox>
 #include <QString>
@@ -26,18 +24,9 @@ struct Visit {
 };
 
 /// What a tour has at hand, and what it must find in the end.
-class Journey {
+class Journey : public Apps::Journey {
   public:
     Journey(QWidget& clinicWindow, const QString& database, const QString& directory);
-
-    /// A part of the window, by its object name. Fails when there is none in view.
-    template <typename Widget = QWidget>
-    Widget& part(const char* name) {
-        auto* widget = window.findChild<Widget*>(QLatin1String(name));
-        Apps::require(widget && widget->isVisible(),
-                      QStringLiteral("There is no %1 in view.").arg(QLatin1String(name)));
-        return *widget;
-    }
 
     /// Does something that brings up a question of the panel, which must read as given (English, or what the
     /// panel has for it in another language); takes a picture of it when a title is given, and presses the
@@ -66,8 +55,6 @@ class Journey {
     void requireStored() { requireStored(visit); }
 
     QWidget& window;
-    Apps::Hand hand;
-    Apps::Album album;
     Ledger ledger;
     Form form;
 

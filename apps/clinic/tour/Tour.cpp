@@ -56,7 +56,7 @@ void drive(const QDir& directory, const QString& address, int textSize, const ch
     std::printf("\nThe database now holds:\n");
     for (const Visit* visit : {&journey.visit, &journey.earlier})
         print(journey.ledger.rowsOf(visit->encounter));
-    std::printf("\n%d pictures in %s\n", journey.album.count(), qUtf8Printable(directory.absolutePath()));
+    journey.album.printCount();
 }
 
 } // namespace
