@@ -66,35 +66,22 @@ struct Editing {
     }
 };
 
-/// A drag over the list, driven by the events that the window system would send to it.
-class Drag {
-  public:
-    Drag(Editing& editing, int row) : mEditing(editing) {
-        mData.setData("application/x-korvane-choice", "text");
-        list().beginDrag(list().model()->index(row, 0));
-        QDragEnterEvent enter(editing.at(row), both, &mData, Qt::LeftButton, {});
-        send(enter);
-    }
-    ~Drag() { list().endDrag(); }
-
-    Qt::DropAction over(QPoint point, Qt::KeyboardModifiers keys = {}) {
-        QDragMoveEvent move(point, both, &mData, Qt::LeftButton, keys);
-        send(move);
-        return move.isAccepted() ? move.dropAction() : Qt::IgnoreAction;
-    }
-    void drop(QPoint point, Qt::KeyboardModifiers keys = {}) {
-        QDropEvent drop(point, both, &mData, {}, keys);
-        send(drop);
-    }
-
-  private:
-    static constexpr Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
-    ChoiceOrderList& list() { return mEditing.list(); }
-    void send(QEvent& event) { QCoreApplication::sendEvent(list().viewport(), &event); }
-
-    Editing& mEditing;
-    QMimeData mData;
-};
+/// Drags a choice over the list, by the events that the window system would send to it.
+void drag(Editing& e, int from, int to, Qt::KeyboardModifiers keys = {},
+          const std::function<void()>& meanwhile = nullptr) {
+    QMimeData data;
+    data.setData("application/x-korvane-choice", "text");
+    e.list().beginDrag(e.list().model()->index(from, 0));
+    EXPECT_EQ(e.rows(), 5) << "a place behind the last";
+    EXPECT_EQ(e.editor.choices().size(), 4) << "which is no choice";
+    const Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(e.at(from), both, &data, Qt::LeftButton, keys);
+    QCoreApplication::sendEvent(e.list().viewport(), &enter);
+    if (meanwhile) meanwhile();
+    QDropEvent drop(e.at(to), both, &data, {}, keys);
+    QCoreApplication::sendEvent(e.list().viewport(), &drop);
+    e.list().endDrag();
+}
 
 } // namespace
 
@@ -115,39 +102,33 @@ TEST(ChoiceEditor, AddsWhatAListCanHold) {
     }
 }
 
-TEST(ChoiceEditor, PutsADraggedChoiceBeforeTheMark) {
-    const struct {
-        int from;
-        int target; // 4: the empty place behind the last, 5: the room below it
-        const char* shown;
-        const char* current = "A";
-    } cases[] = {{0, 2, "[B] A C D"},      {3, 0, "D A [B] C", "D"}, {1, 4, "A C D [B]", "B"},
-                 {1, 5, "A C D [B]", "B"}, {1, 1, "A [B] C D", "B"}, {1, 2, "A [B] C D", "B"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.from << " to " << c.target);
+TEST(ChoiceEditor, PutsADraggedChoiceBeforeTheMarkAndLosesNone) {
+    for (const auto& [from, to, expected] : {std::tuple{0, 2, "[B] A C D"},
+                                             {3, 0, "D A [B] C"},
+                                             {1, 4, "A C D [B]"},
+                                             {1, 1, "A [B] C D"},
+                                             {1, 2, "A [B] C D"}}) {
         Editing e;
-        {
-            Drag drag(e, c.from);
-            EXPECT_EQ(e.rows(), 5) << "a place behind the last";
-            EXPECT_EQ(shown(e.editor), "A [B] C D") << "which is no choice";
-            const QPoint point = c.target < 5 ? e.at(c.target) : e.list().viewport()->rect().bottomLeft();
-            EXPECT_EQ(drag.over(point), c.from == c.target ? Qt::IgnoreAction : Qt::MoveAction);
-            drag.drop(point);
-        }
-        EXPECT_EQ(shown(e.editor), c.shown);
+        drag(e, from, to);
+        EXPECT_EQ(shown(e.editor), expected);
         EXPECT_EQ(e.rows(), 4);
-        EXPECT_EQ(e.list().currentIndex().data(), c.current) << "the one that was moved is the current one";
         EXPECT_EQ(e.edits, shown(e.editor) == "A [B] C D" ? 0 : 1);
     }
 }
 
-TEST(ChoiceEditor, DropsNothingThatIsNoLongerShown) {
+TEST(ChoiceEditor, TakesNothingForAFieldThatIsNoLongerShown) {
     Editing e;
-    {
-        Drag drag(e, 0);
-        e.editor.show({"X", "Y"}, -1);
-        drag.drop(e.at(1));
-    }
+    const auto showAnother = [&] { e.editor.show({"X", "Y"}, -1); };
+    drag(e, 0, 1, {}, showAnother);
+    EXPECT_EQ(shown(e.editor), "X Y");
+    e.user->texts = {"late"};
+    e.user->whenShown = showAnother;
+    e.press(0);
+    EXPECT_EQ(shown(e.editor), "X Y");
+    e.key(Qt::Key_F2);
+    e.box()->setText("A|B");
+    showAnother();
+    EXPECT_TRUE(e.editor.takeEdit()) << "the edit ended with what it was of";
     EXPECT_EQ(shown(e.editor), "X Y");
     EXPECT_EQ(e.edits, 0);
 }
@@ -155,11 +136,7 @@ TEST(ChoiceEditor, DropsNothingThatIsNoLongerShown) {
 TEST(ChoiceEditor, LetsACopyWaitForATextOfItsOwn) {
     for (const QString text : {"", "B", "B2"}) {
         Editing e;
-        {
-            Drag drag(e, 1);
-            EXPECT_EQ(drag.over(e.at(1), Qt::ControlModifier), Qt::CopyAction);
-            drag.drop(e.at(0), Qt::ControlModifier);
-        }
+        drag(e, 1, 0, Qt::ControlModifier);
         ASSERT_TRUE(e.box());
         EXPECT_EQ(e.box()->text(), "B");
         EXPECT_EQ(shown(e.editor), "A [B] C D") << "it is none yet";
@@ -243,11 +220,6 @@ TEST(ChoiceEditor, KeepsARefusedTextInItsBox) {
         EXPECT_TRUE(e.editor.takeEdit());
     }
     EXPECT_EQ(shown(e.editor), "A [B] C D");
-    e.key(Qt::Key_F2);
-    e.box()->setText("A|B");
-    e.editor.show({"X"}, -1);
-    EXPECT_TRUE(e.editor.takeEdit()) << "the edit ended with what it was of";
-    EXPECT_EQ(shown(e.editor), "X");
 }
 
 } // namespace Korvane

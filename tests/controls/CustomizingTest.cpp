@@ -119,10 +119,10 @@ TEST(Customizing, KeepsWhatAFieldHoldsWhenItIsDisplayedInAnotherWay) {
             desk.db->quietly("Update NIP_Custom1 Set Mood='Poor|gone'");
             desk.panel.Initialize(desk.db);
             desk.panel.CustomizeNip();
-            desk.does("Load; pulse=99; Customize; field 1; display=" + QString(to) + "; Save field");
+            desk.does("Load; pulse=99; Customize");
             if (to == types[0])
-                desk.does("field 0; display=LIST; Save field"); // also what was only just typed
-            desk.does("Back; Save");
+                desk.does("field 0; display=LIST-MULTIPLE; Save field"); // also what was only just typed
+            desk.does("field 1; display=" + QString(to) + "; Save field; Back; Save");
             EXPECT_THAT(desk.told(), IsEmpty());
             EXPECT_EQ(desk.rows("Select Pulse,Mood From NIP_Custom1"), "99|Poor|gone");
         }
@@ -201,9 +201,9 @@ TEST(Customizing, AChoiceThatIsStillBeingTypedIsAChange) {
         desk.type(*box, text);
         return box;
     };
-    for (const char* text : {"Great", "a|b"}) {
+    for (const auto& [text, leaves] : {std::pair{"Great", "Back"}, {"a|b", "ID_DeleteNipGroup"}}) {
         type(text);
-        desk.does("Back");
+        desk.does(leaves);
         EXPECT_THAT(desk.told(), ElementsAre(Field(&ShownBox::title, "Discard Customization Confirmation")));
         EXPECT_EQ(desk.heading(), "Editing field [Mood] of group [Vitals]");
         desk.user->answers = {Answer::Ok};
@@ -262,7 +262,7 @@ TEST(Customizing, RefusesWhatIsNoFieldAndKeepsWhatWasTyped) {
     EXPECT_EQ(desk.row().visibleRegion().boundingRect(), desk.row().rect()) << "scrolled into view";
 }
 
-TEST(Customizing, KeepsTheChoicesThatADisplayTypeDoesNotOffer) {
+TEST(Customizing, KeepsTheChoicesThatADisplayTypeDoesNotOfferAndATypeItDoesNotKnow) {
     CustomizingDesk desk;
     EXPECT_TRUE(desk.part<QLabel>("lblCustHint").isVisible());
     EXPECT_FALSE(desk.name().isVisible()) << "there is nothing to write it for";
@@ -274,6 +274,10 @@ TEST(Customizing, KeepsTheChoicesThatADisplayTypeDoesNotOffer) {
     EXPECT_THAT(desk.says("lblNipChoices"), HasSubstr("not offered"));
     desk.does("Save field");
     EXPECT_EQ(desk.choices(), choicesOfMood);
+    desk.db->quietly("Update DBFields Set DisplayType='SLIDER' Where FieldName='Mood'");
+    desk.panel.Initialize(desk.db);
+    desk.does("Customize; field 1; width=60; Save field");
+    EXPECT_THAT(desk.fields(), HasSubstr("Mood|The Mood|SLIDER|60")) << "what another program displays";
 }
 
 TEST(Customizing, DeletesFieldsAndGroupsOnlyWhenTheUserIsSure) {

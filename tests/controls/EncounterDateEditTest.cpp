@@ -2,6 +2,7 @@
 #include "support/PanelDesk.h"
 
 #include <QApplication>
+#include <QWheelEvent>
 
 namespace Korvane {
 
@@ -86,8 +87,11 @@ TEST(EncounterDateEdit, KeepsWhatIsNoDateForTheUserToMend) {
     }
 }
 
-TEST(EncounterDateEdit, UpAndDownStepThePartAtTheCursor) {
+TEST(EncounterDateEdit, UpAndDownStepThePartAtTheCursorAndTheWheelNone) {
     DateDesk desk;
+    QWheelEvent wheel({5, 5}, desk.date().mapToGlobal(QPoint(5, 5)), {}, {0, 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&desk.date(), &wheel);
     for (const auto& [cursor, text] : {std::pair{0, "2/2/2026 3:04 PM"},
                                        {3, "2/3/2026 3:04 PM"},
                                        {8, "2/3/2027 3:04 PM"},

@@ -38,16 +38,6 @@ struct Entry : NipForm {
     }
 };
 
-/// A user who does not answer before something else has happened.
-struct SlowUser : Testing::RecordingInteraction {
-    std::function<void()> meanwhile;
-
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
-        meanwhile();
-        return "late";
-    }
-};
-
 } // namespace
 
 TEST(EntryControl, OffersTheAllowedValuesAndAtTheEndTheStoredOneThatIsNotAmongThem) {
@@ -182,17 +172,16 @@ TEST(EditContentEntry, RemovesUntilNothingIsLeft) {
 
 TEST(EditContentEntry, DropsAnAnswerThatComesWhenOtherEntriesAreShown) {
     Entry entry("LIST-EDITCONTENT", "x");
-    auto user = std::make_shared<SlowUser>();
-    const auto before = Interaction::install(user);
-    user->meanwhile = [&] { entry.reload(); };
+    entry.user->texts = {"late", "later"};
+    entry.user->whenShown = [&] { entry.reload(); };
     entry.click("cmdNip(0)");
-    user->meanwhile = [&] {
+    EXPECT_EQ(shownRows(entry.list()), "x");
+    entry.user->whenShown = [&] {
         entry.db->quietly("Update DBFields Set DisplayType='LIST-MULTIPLE'");
         entry.rebuild();
     };
     entry.click("cmdNip(0)");
     EXPECT_EQ(shownRows(entry.list()), "A B C [x]");
-    Interaction::install(before);
     EXPECT_EQ(entry.edits, 0);
 }
 

@@ -1,5 +1,6 @@
 #include "support/DateForm.h"
 #include "support/InFront.h"
+#include "support/NothingIsClipped.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -313,17 +314,12 @@ TEST(axDate, ItsPartsStandInARowThatHoldsTheirTextsAtAnyFontSize) {
     for (const int points : {8, 10, 20, 32}) {
         SCOPED_TRACE(points);
         DateForm form("12/28/2028");
-        QFont font = form.form.font();
-        font.setPointSize(points);
-        form.form.setFont(font);
+        form.form.setFont(QFont(form.form.font().family(), points));
         form.form.setLayoutDirection(points == 20 ? Qt::RightToLeft : Qt::LeftToRight);
         form.form.resize(form.form.sizeHint());
         form.press("\t");
-        EXPECT_EQ(form.whole().geometry(), form.date->rect());
-        EXPECT_GT(form.box(1).x(), form.box(0).geometry().right() + 1);
-        EXPECT_LE(form.box(2).geometry().right(), form.date->rect().right());
+        expectNothingIsClipped(form.form);
         for (int i = 0; i < 3; ++i) {
-            EXPECT_GE(form.box(i).height(), form.box(i).sizeHint().height());
             form.box(i).end(false);
             EXPECT_EQ(form.box(i).cursorPositionAt({2, 5}), 0) << "not scrolled";
         }

@@ -1,4 +1,5 @@
 #include "support/AdminDesk.h"
+#include "support/NothingIsClipped.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -177,28 +178,22 @@ TEST(dbxadmin, GoesThroughItsPartsByTab) {
                             "cmdAddtoList", "lstAddtoList", "cmdMove(0)", "cmdUpdate"));
 }
 
-TEST(dbxadmin, ShowsAllOfItBesideOrBelowEachOtherAtAnySize) {
+TEST(dbxadmin, ShowsAllOfItAtAnySize) {
     AdminDesk desk;
-    auto& area = *desk.admin->findChild<QScrollArea*>();
-    const auto placed = [&](const char* name) {
-        return QRect(desk.part(name).mapTo(desk.admin, QPoint()), desk.part(name).size());
-    };
+    const auto& area = *desk.admin->findChild<QScrollArea*>();
     for (const int points : {9, 18}) {
-        QFont font = desk.form.font();
-        font.setPointSize(points);
-        desk.form.setFont(font);
+        desk.form.setFont(QFont(desk.form.font().family(), points));
         QCoreApplication::processEvents();
         desk.form.resize(desk.form.sizeHint());
         QCoreApplication::processEvents();
-        EXPECT_GT(placed("txtAddtoList").left(), placed("txtFldName").right());
+        expectNothingIsClipped(desk.form);
         EXPECT_FALSE(area.verticalScrollBar()->isVisible() || area.horizontalScrollBar()->isVisible());
         desk.form.resize(desk.form.minimumSizeHint());
         QCoreApplication::processEvents();
-        EXPECT_GT(placed("txtAddtoList").top(), placed("cboRequired").bottom());
         desk.admin->setFocus();
         for (; !desk.ok->hasFocus(); desk.press(Qt::Key_Tab)) {
-            const QRect part = QApplication::focusWidget()->rect();
-            const QRect seen = QApplication::focusWidget()->visibleRegion().boundingRect();
+            const QWidget& part = *QApplication::focusWidget();
+            const QSize seen = part.visibleRegion().boundingRect().size();
             EXPECT_EQ(seen.width(), part.width()) << desk.focus();
             EXPECT_GE(seen.height(), std::min(part.height(), points * 3 / 2)) << desk.focus();
         }

@@ -40,7 +40,7 @@ class RecordingInteraction : public Interaction {
     std::vector<ShownInput> inputs;
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> texts;
-    /// Runs while a message box is up.
+    /// Runs while a box is up.
     std::function<void()> whenShown;
 
     Answer MsgBox(std::string_view text, int style, std::string_view title) override {
@@ -52,6 +52,7 @@ class RecordingInteraction : public Interaction {
 
     std::optional<std::string> InputBox(std::string_view prompt, std::string_view title) override {
         inputs.push_back({std::string(prompt), std::string(title)});
+        if (whenShown) whenShown();
         if (texts.empty()) return std::nullopt;
         return takeFront(texts);
     }
