@@ -41,6 +41,20 @@ TEST_F(Translations, SpeakTheLanguageAskedForWhereThereIsACatalogueOfIt) {
     EXPECT_EQ(overflow(), "Overflow");
 }
 
+TEST_F(Translations, KeepTheLibrarysTextsThatTheCataloguesOfTheFoldersDoNotHave) {
+    const Testing::ScratchDir folder;
+    QFile broken(QString::fromStdString((folder.path() / "korvane_de.qm").string()));
+    ASSERT_TRUE(broken.open(QFile::WriteOnly) && broken.write("no catalogue") > 0);
+    broken.close();
+    const QString ofQt = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    const Testing::ScratchDir other;
+    QFile::copy(ofQt + "/qtbase_de.qm", QString::fromStdString((other.path() / "korvane_de.qm").string()));
+    for (const auto& each : {folder.path(), other.path()}) {
+        EXPECT_TRUE(installTranslations(QLocale("de_AT"), {QString::fromStdString(each.string())}));
+        EXPECT_EQ(overflow(), "Überlauf") << each;
+    }
+}
+
 TEST_F(Translations, TakeTheCatalogueOfAFolderBeforeThoseThatComeWithTheLibrary) {
     const Testing::ScratchDir folder;
     const QString path = QString::fromStdString(folder.path().string());
@@ -64,6 +78,10 @@ TEST_F(Translations, LabelTheButtonsOfMessageBoxesWithQtsOwn) {
     const QMessageBox box(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No);
     EXPECT_EQ(box.button(QMessageBox::Yes)->text().remove('&'), "Ja");
     EXPECT_EQ(box.button(QMessageBox::No)->text().remove('&'), "Nein");
+    installTranslations(QLocale("fr"));
+    const QMessageBox english(QMessageBox::Question, {}, {}, QMessageBox::Yes);
+    EXPECT_EQ(english.button(QMessageBox::Yes)->text().remove('&'), "Yes")
+        << "as the question, which there is in no French";
 }
 
 /// Counted: "%1", "&" and line breaks.

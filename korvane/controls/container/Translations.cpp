@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <ranges>
 #include <utility>
 
 // A static library's resources are there only when they are asked for; Qt wants that outside every namespace.
@@ -24,12 +25,29 @@ bool isEnglish(const QString& language) {
     return language == QStringLiteral("C") || QLocale(language).language() == QLocale::English;
 }
 
-/// Null where there is none.
-std::unique_ptr<QTranslator> loaded(const QString& catalogue, const QStringList& folders) {
-    auto translator = std::make_unique<QTranslator>();
-    const bool found = std::ranges::any_of(
-        folders, [&](const QString& folder) { return translator->load(catalogue, folder); });
-    return found ? std::move(translator) : nullptr;
+/// Installs those of the folders; the first of them is asked first.
+bool install(const QString& name, const QString& language, const QStringList& folders, QObject& owner) {
+    bool found = false;
+    for (const QString& folder : folders | std::views::reverse) {
+        auto translator = std::make_unique<QTranslator>();
+        if (!translator->load(name + u'_' + QString(language).replace(u'-', u'_'), folder)) continue;
+        translator->setObjectName(name);
+        translator->setParent(&owner);
+        found = QCoreApplication::installTranslator(translator.release()) || found;
+    }
+    return found;
+}
+
+/// Puts the catalogue into the first of the languages that it speaks; null where there is none. Without an
+/// application there is nothing to put them into.
+QString installFirst(const QString& name, const QStringList& languages, const QStringList& folders) {
+    QCoreApplication* const application = QCoreApplication::instance();
+    if (!application) return {};
+    qDeleteAll(application->findChildren<QTranslator*>(name, Qt::FindDirectChildrenOnly));
+    const auto found = std::ranges::find_if(languages, [&](const QString& language) {
+        return isEnglish(language) || install(name, language, folders, *application);
+    });
+    return found == languages.end() ? QString() : *found;
 }
 
 std::string askQt(const char* context, const char* text) {
@@ -44,24 +62,18 @@ void letQtTranslate() {
 
 bool installCatalogue(const QString& name, const QLocale& locale, const QStringList& folders) {
     letQtTranslate();
-    QCoreApplication& application = *QCoreApplication::instance();
-    delete application.findChild<QTranslator*>(name, Qt::FindDirectChildrenOnly);
-    for (const QString& language : locale.uiLanguages()) {
-        if (isEnglish(language)) return true;
-        auto translator = loaded(name + u'_' + QString(language).replace(u'-', u'_'), folders);
-        if (!translator) continue;
-        translator->setObjectName(name);
-        translator->setParent(&application);
-        return QCoreApplication::installTranslator(translator.release());
-    }
-    return false;
+    return !installFirst(name, locale.uiLanguages(), folders).isNull();
 }
 
 bool installTranslations(const QLocale& locale, const QStringList& folders) {
     makeCataloguesKnown();
-    installCatalogue(QStringLiteral("qtbase"), locale, {QLibraryInfo::path(QLibraryInfo::TranslationsPath)});
-    return installCatalogue(QStringLiteral("korvane"), locale,
-                            folders + QStringList(QStringLiteral(":/korvane/translations")));
+    letQtTranslate();
+    const QString spoken = installFirst(QStringLiteral("korvane"), locale.uiLanguages(),
+                                        folders + QStringList(QStringLiteral(":/korvane/translations")));
+    // A question and its buttons speak one language.
+    const QStringList ofQt = spoken.isNull() ? QStringList() : QStringList(spoken);
+    installFirst(QStringLiteral("qtbase"), ofQt, {QLibraryInfo::path(QLibraryInfo::TranslationsPath)});
+    return !spoken.isNull();
 }
 
 } // namespace Korvane
