@@ -7,6 +7,7 @@
 #include <korvane/nip/cNIP.h>
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <iterator>
@@ -77,7 +78,10 @@ void FieldGrid::mark(std::int16_t field) {
 
 QSize FieldGrid::minimumSizeHint() const {
     const int rows = lowest * (fontMetrics().height() + 1);
-    return {QTreeWidget::minimumSizeHint().width(), header()->sizeHint().height() + rows + 2 * frameWidth()};
+    int headings = verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < header()->count(); ++column)
+        headings += header()->sectionSizeHint(column);
+    return {headings + 2 * frameWidth(), header()->sizeHint().height() + rows + 2 * frameWidth()};
 }
 
 /// A view without a current row takes its first one then, which nobody has chosen.
