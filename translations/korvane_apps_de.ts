@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Go to the next part of the window</source>
-        <translation>Zum nächsten Teil des Fensters</translation>
+        <translation>Zum nächsten Bereich des Fensters gehen</translation>
     </message>
     <message>
         <source>&amp;Previous Pane</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Go to the part of the window before</source>
-        <translation>Zum vorigen Teil des Fensters</translation>
+        <translation>Zum vorigen Bereich des Fensters gehen</translation>
     </message>
     <message>
         <source>&amp;Larger Text</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Which keys do what</source>
-        <translation>Welche Tasten was bewirken</translation>
+        <translation>Welche Taste was bewirkt</translation>
     </message>
     <message>
         <source>&amp;About</source>
@@ -310,7 +310,7 @@
     <name>Clinic::Help</name>
     <message>
         <source>Down</source>
-        <translation>Ab</translation>
+        <translation>Pfeil ab</translation>
     </message>
     <message>
         <source>From the search box into the list of patients</source>
@@ -435,7 +435,7 @@
     </message>
     <message>
         <source>Work on this database: sqlite:FILE, or postgresql://USER@HOST/NAME with the password in PGPASSWORD or ~/.pgpass. An empty one gets the sample clinic.</source>
-        <translation>Mit dieser Datenbank arbeiten: sqlite:DATEI oder postgresql://BENUTZER@RECHNER/NAME mit dem Kennwort in PGPASSWORD oder ~/.pgpass. Eine leere bekommt die Beispielklinik.</translation>
+        <translation>Mit dieser Datenbank arbeiten: sqlite:DATEI oder postgresql://BENUTZER@RECHNER/NAME mit dem Kennwort in PGPASSWORD oder ~/.pgpass. Eine leere Datenbank bekommt die Beispielklinik.</translation>
     </message>
     <message>
         <source>url</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>Part of a name or an ID. Down goes into the list.</source>
-        <translation>Ein Teil eines Namens oder einer ID. Die Taste Ab geht in die Liste.</translation>
+        <translation>Ein Teil eines Namens oder einer ID. Mit Pfeil ab geht es in die Liste.</translation>
     </message>
     <message>
         <source>Name or ID</source>
@@ -547,7 +547,7 @@
     </message>
     <message>
         <source>&amp;Enlivened</source>
-        <translation>&amp;Lebhaft</translation>
+        <translation>&amp;Bedienbar</translation>
     </message>
     <message>
         <source>Mi&amp;nimum</source>
@@ -582,11 +582,11 @@
     <name>DateForm::VoiceBox</name>
     <message>
         <source>Voice</source>
-        <translation>Sprache</translation>
+        <translation>Spracheingabe</translation>
     </message>
     <message>
         <source>&amp;Voice of the date control</source>
-        <translation>&amp;Sprache des Datumsfelds</translation>
+        <translation>&amp;Spracheingabe im Datumsfeld</translation>
     </message>
     <message>
         <source>&amp;Microphone</source>
@@ -659,15 +659,15 @@
     </message>
     <message>
         <source>One date in three boxes: month, day and year.</source>
-        <translation>Ein Datum in drei Kästchen: Monat, Tag und Jahr.</translation>
+        <translation>Ein Datum in drei Eingabefeldern: Monat, Tag und Jahr.</translation>
     </message>
     <message>
         <source>A frame around one to five buttons that tell the host which one was clicked.</source>
-        <translation>Ein Rahmen um eine bis fünf Tasten, die dem Programm melden, welche angeklickt wurde.</translation>
+        <translation>Ein Rahmen um eine bis fünf Schaltflächen, die dem Programm melden, welche angeklickt wurde.</translation>
     </message>
     <message>
         <source>Four buttons to move to the first, the previous, the next and the last record.</source>
-        <translation>Vier Tasten, um zum ersten, vorigen, nächsten und letzten Datensatz zu gehen.</translation>
+        <translation>Vier Schaltflächen, um zum ersten, vorigen, nächsten und letzten Datensatz zu gehen.</translation>
     </message>
     <message>
         <source>The definition of one field of a database: its names, how it is entered, its list of values.</source>
@@ -696,7 +696,7 @@
     <name>Gallery::PropertyModel</name>
     <message>
         <source>read only</source>
-        <translation>nur lesen</translation>
+        <translation>nur lesbar</translation>
     </message>
     <message>
         <source>yes</source>

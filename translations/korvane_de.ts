@@ -9,27 +9,27 @@
     </message>
     <message>
         <source>Shows, enters and customizes the Nip of one patient. The program gives it its database with Initialize, and a patient with CreateNip or LoadNipInfo.</source>
-        <translation>Zeigt, erfasst und passt das Nip eines Patienten an. Das Programm gibt ihm mit Initialize seine Datenbank und mit CreateNip oder LoadNipInfo einen Patienten.</translation>
+        <translation>Zum Anzeigen, Erfassen und Anpassen der Nips eines Patienten. Das Programm gibt ihm mit Initialize seine Datenbank und mit CreateNip oder LoadNipInfo einen Patienten.</translation>
     </message>
     <message>
         <source>Date control: one date in three boxes</source>
-        <translation>Datumsfeld: ein Datum in drei Kästchen</translation>
+        <translation>Datumsfeld: ein Datum in drei Eingabefeldern</translation>
     </message>
     <message>
         <source>Takes a date as month, day and year, by keys or by voice. What cannot be right is told by Exception, a change by OnChange.</source>
-        <translation>Nimmt ein Datum als Monat, Tag und Jahr an, über die Tastatur oder gesprochen. Was nicht stimmen kann, meldet Exception, eine Änderung OnChange.</translation>
+        <translation>Nimmt ein Datum als Monat, Tag und Jahr an, über die Tastatur oder gesprochen. Exception meldet, was nicht stimmen kann, OnChange eine Änderung.</translation>
     </message>
     <message>
         <source>Function buttons: one to five in a frame</source>
-        <translation>Funktionstasten: eine bis fünf in einem Rahmen</translation>
+        <translation>Schaltflächen: eine bis fünf in einem Rahmen</translation>
     </message>
     <message>
         <source>Tells with btnClick which of its buttons was clicked, counted from 0.</source>
-        <translation>Meldet mit btnClick, welche Taste angeklickt wurde, gezählt ab 0.</translation>
+        <translation>Meldet mit btnClick, welche Schaltfläche angeklickt wurde, gezählt ab 0.</translation>
     </message>
     <message>
         <source>Record-move buttons: first, previous, next, last</source>
-        <translation>Datensatztasten: erster, voriger, nächster, letzter</translation>
+        <translation>Schaltflächen für Datensätze: erster, voriger, nächster, letzter</translation>
     </message>
     <message>
         <source>Tells with btnClick where to move: 0 first, 1 previous, 2 next, 3 last.</source>
@@ -135,7 +135,7 @@
     </message>
     <message>
         <source>Move the highlighted choice up (Alt+Up)</source>
-        <translation>Den markierten Auswahlwert nach oben schieben (Alt+Auf)</translation>
+        <translation>Den markierten Auswahlwert nach oben schieben (Alt+Pfeil auf)</translation>
     </message>
     <message>
         <source>Move Down</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>Move the highlighted choice down (Alt+Down)</source>
-        <translation>Den markierten Auswahlwert nach unten schieben (Alt+Ab)</translation>
+        <translation>Den markierten Auswahlwert nach unten schieben (Alt+Pfeil ab)</translation>
     </message>
     <message>
         <source>%1: choice</source>
@@ -240,7 +240,7 @@
     <name>Korvane::CustomizePane</name>
     <message>
         <source>Customizing the Structure of the NIP tables</source>
-        <translation>Anpassen der Struktur der NIP-Tabellen</translation>
+        <translation>Anpassen der Struktur der Nip-Tabellen</translation>
     </message>
     <message>
         <source>New Field</source>
@@ -342,7 +342,7 @@
     </message>
     <message>
         <source>Voice</source>
-        <translation>Sprache</translation>
+        <translation>Spracheingabe</translation>
     </message>
 </context>
 <context>
@@ -418,7 +418,7 @@
     </message>
     <message>
         <source>The field name is too long.  It can have %1 letters, fewer when there are accents or other alphabets in it.</source>
-        <translation>Der Feldname ist zu lang.  Er darf %1 Buchstaben haben, mit Umlauten oder anderen Alphabeten weniger.</translation>
+        <translation>Der Feldname ist zu lang.  Er darf %1 Buchstaben haben, mit Umlauten, Akzenten oder anderen Alphabeten weniger.</translation>
     </message>
     <message>
         <source>The field caption is too long.  It can have %1 characters.</source>
@@ -430,7 +430,7 @@
     </message>
     <message>
         <source>The row position must be a whole number from 1, or empty to leave the field where it stands.</source>
-        <translation>Die Zeilenposition muss eine ganze Zahl ab 1 sein, oder leer, damit das Feld bleibt, wo es steht.</translation>
+        <translation>Die Zeilenposition muss eine ganze Zahl ab 1 sein oder leer bleiben; dann bleibt das Feld, wo es steht.</translation>
     </message>
     <message>
         <source>A field can have no more than %1 choices.</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>Cascading means that values from one Exam will be carried over to the next exam</source>
-        <translation>Übernehmen heißt, dass Werte einer Untersuchung in die nächste übertragen werden</translation>
+        <translation>Übernehmen heißt, dass Werte aus einer Untersuchung in die nächste übertragen werden</translation>
     </message>
     <message>
         <source>the last</source>
@@ -574,7 +574,7 @@
         <source>The following problems occurred when loading the NIP controls:
 
 %1</source>
-        <translation>Beim Laden der NIP-Steuerelemente sind folgende Probleme aufgetreten:
+        <translation>Beim Laden der Nip-Steuerelemente sind folgende Probleme aufgetreten:
 
 %1</translation>
     </message>
@@ -606,7 +606,7 @@
     </message>
     <message>
         <source>%1 stands there more than once: the last is used</source>
-        <translation>%1 steht dort mehr als einmal: verwendet wird das letzte</translation>
+        <translation>%1 steht dort mehr als einmal: verwendet wird der letzte Wert</translation>
     </message>
     <message>
         <source>no names</source>
@@ -622,7 +622,7 @@
     </message>
     <message>
         <source>The settings hold lines that cannot be read: what they were meant for is taken at its default</source>
-        <translation>Die Einstellungen enthalten Zeilen, die nicht gelesen werden können: wofür sie gedacht waren, gilt die Vorgabe</translation>
+        <translation>Die Einstellungen enthalten Zeilen, die nicht gelesen werden können: Wofür sie gedacht waren, gilt die Vorgabe</translation>
     </message>
     <message>
         <source>that is no text</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>The recordset does not allow changes</source>
-        <translation>Die Datensatzgruppe lässt keine Änderungen zu</translation>
+        <translation>Das Recordset lässt keine Änderungen zu</translation>
     </message>
     <message>
         <source>Not possible while a transaction is open</source>
@@ -1366,7 +1366,7 @@
     </message>
     <message>
         <source>that has more than 32 bits, the button face is used</source>
-        <translation>das hat mehr als 32 Bit, verwendet wird die Farbe der Tasten</translation>
+        <translation>das hat mehr als 32 Bit, verwendet wird die Farbe der Schaltflächen</translation>
     </message>
     <message>
         <source>%1 5 is used</source>
@@ -1476,13 +1476,6 @@
     </message>
 </context>
 <context>
-    <name>Korvane::records</name>
-    <message>
-        <source>AttachmentID doesn&apos;t exist, aborting!</source>
-        <translation>AttachmentID gibt es nicht, Abbruch!</translation>
-    </message>
-</context>
-<context>
     <name>Korvane::runtime</name>
     <message>
         <source>Korvane data-entry library</source>
@@ -1551,7 +1544,7 @@ Feldnamen dürfen keine Leerzeichen, Anführungszeichen oder Sonderzeichen entha
     </message>
     <message>
         <source>What is the name of the group you would like to create</source>
-        <translation>Wie soll die Gruppe heißen, die Sie anlegen möchten</translation>
+        <translation>Wie soll die neue Gruppe heißen</translation>
     </message>
     <message>
         <source>New group name</source>
@@ -1576,8 +1569,8 @@ Die Gruppe [%2] wurde nicht angelegt.</translation>
     <message>
         <source>Deleting a Nip Group will also delete all fields in the group.
 This is a destructive action that cannot be reversed.  Do you wish to continue?</source>
-        <translation>Mit einer Nip-Gruppe werden auch alle Felder der Gruppe gelöscht.
-Das vernichtet Daten und kann nicht rückgängig gemacht werden.  Möchten Sie fortfahren?</translation>
+        <translation>Wenn Sie eine Nip-Gruppe löschen, werden auch alle Felder der Gruppe gelöscht.
+Dabei werden Daten vernichtet; das kann nicht rückgängig gemacht werden.  Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Delete Group Confirmation</source>
@@ -1637,7 +1630,7 @@ Das vernichtet Daten und kann nicht rückgängig gemacht werden.  Möchten Sie f
     </message>
     <message>
         <source>Are you sure you want to create a new nip and discard the one you were creating?</source>
-        <translation>Möchten Sie wirklich ein neues Nip anlegen und das, das Sie gerade anlegen, verwerfen?</translation>
+        <translation>Möchten Sie wirklich ein neues Nip anlegen und das gerade begonnene verwerfen?</translation>
     </message>
     <message>
         <source>Are you sure you want to create a new nip and discard the changes you are making?</source>
@@ -1645,7 +1638,7 @@ Das vernichtet Daten und kann nicht rückgängig gemacht werden.  Möchten Sie f
     </message>
     <message>
         <source>Are you sure you want to load a nip and discard the one you were creating?</source>
-        <translation>Möchten Sie wirklich ein Nip laden und das, das Sie gerade anlegen, verwerfen?</translation>
+        <translation>Möchten Sie wirklich ein Nip laden und das gerade begonnene verwerfen?</translation>
     </message>
     <message>
         <source>Are you sure you want to load a nip and discard the changes you are making?</source>
@@ -1689,15 +1682,15 @@ Das vernichtet Daten und kann nicht rückgängig gemacht werden.  Möchten Sie f
     </message>
     <message>
         <source>New Nip with changes that are not saved</source>
-        <translation>Neues Nip mit Änderungen, die nicht gespeichert sind</translation>
+        <translation>Neues Nip, Änderungen nicht gespeichert</translation>
     </message>
     <message>
         <source>Saved Nip with changes that are not saved</source>
-        <translation>Gespeichertes Nip mit Änderungen, die nicht gespeichert sind</translation>
+        <translation>Gespeichertes Nip, Änderungen nicht gespeichert</translation>
     </message>
     <message>
         <source>These entries have no field any more (they are kept in the error log):</source>
-        <translation>Für diese Eingaben gibt es kein Feld mehr (sie stehen im Fehlerprotokoll):</translation>
+        <translation>Für diese Eingaben gibt es kein Feld mehr (sie bleiben im Fehlerprotokoll erhalten):</translation>
     </message>
     <message>
         <source>Another desk has customized this form since it was shown here.  It is shown as it is now; what you entered is kept.</source>
@@ -1721,7 +1714,7 @@ Das vernichtet Daten und kann nicht rückgängig gemacht werden.  Möchten Sie f
     </message>
     <message>
         <source>There is no group left for what you wrote; it is kept in the error log.</source>
-        <translation>Für das, was Sie geschrieben haben, gibt es keine Gruppe mehr; es steht im Fehlerprotokoll.</translation>
+        <translation>Für das, was Sie geschrieben haben, gibt es keine Gruppe mehr; es bleibt im Fehlerprotokoll erhalten.</translation>
     </message>
 </context>
 <context>
@@ -1776,11 +1769,11 @@ Das vernichtet Daten und kann nicht rückgängig gemacht werden.  Möchten Sie f
     </message>
     <message>
         <source>Voice is not there: the speech model %1 is missing (Debian&apos;s pocketsphinx-en-us).</source>
-        <translation>Sprache ist nicht verfügbar: Das Sprachmodell %1 fehlt (Debian: pocketsphinx-en-us).</translation>
+        <translation>Spracheingabe ist nicht verfügbar: Das Sprachmodell %1 fehlt (Debian: pocketsphinx-en-us).</translation>
     </message>
     <message>
         <source>Voice is not there: the speech model %1 cannot be used.</source>
-        <translation>Sprache ist nicht verfügbar: Das Sprachmodell %1 kann nicht benutzt werden.</translation>
+        <translation>Spracheingabe ist nicht verfügbar: Das Sprachmodell %1 kann nicht benutzt werden.</translation>
     </message>
     <message>
         <source>The speech engine refused the commands.</source>
@@ -1800,15 +1793,15 @@ Das vernichtet Daten und kann nicht rückgängig gemacht werden.  Möchten Sie f
     </message>
     <message>
         <source>Sound of %1 samples a second in %2 channels cannot be listened to.</source>
-        <translation>Ton mit %1 Abtastwerten je Sekunde auf %2 Kanälen kann nicht gehört werden.</translation>
+        <translation>Ton mit %1 Abtastwerten je Sekunde auf %2 Kanälen kann nicht verarbeitet werden.</translation>
     </message>
     <message>
         <source>Voice is not there: the application has not set up a speech engine.</source>
-        <translation>Sprache ist nicht verfügbar: Das Programm hat keine Spracherkennung eingerichtet.</translation>
+        <translation>Spracheingabe ist nicht verfügbar: Das Programm hat keine Spracherkennung eingerichtet.</translation>
     </message>
     <message>
         <source>Voice is not there: this build has no speech engine.</source>
-        <translation>Sprache ist nicht verfügbar: Dieses Programm wurde ohne Spracherkennung gebaut.</translation>
+        <translation>Spracheingabe ist nicht verfügbar: Dieses Programm wurde ohne Spracherkennung gebaut.</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,6 @@
 #include <korvane/data/SQLData.h>
 #include <korvane/runtime/RuntimeError.h>
 #include <korvane/runtime/Text.h>
-#include <korvane/runtime/Translation.h>
 
 #include <algorithm>
 #include <array>
@@ -197,8 +196,7 @@ bool Attachment::DeleteObjectFromDatabase(std::string_view id) {
                              kDeleting)
                : Deletion::NoRow;
     if (deletion == Deletion::NoRow)
-        vLogAdd("Attachment:DeleteObjectFromDatabase",
-                translate("Korvane::records", "AttachmentID doesn't exist, aborting!"), 2);
+        vLogAdd("Attachment:DeleteObjectFromDatabase", "AttachmentID doesn't exist, aborting!", 2);
     return deletion == Deletion::Run;
 }
 
