@@ -1129,10 +1129,6 @@
         <translation>Die Verbindung ist keine zu einer SQLite-Datenbank.</translation>
     </message>
     <message>
-        <source>The database has rolled the transaction back after a failure; nothing of it was saved.</source>
-        <translation>Die Datenbank hat die Transaktion nach einem Fehler zurückgenommen; nichts davon wurde gespeichert.</translation>
-    </message>
-    <message>
         <source>The table &quot;%1&quot; is new; it has to be appended to a catalog first.</source>
         <translation>Die Tabelle „%1“ ist neu; sie muss zuerst einem Katalog hinzugefügt werden.</translation>
     </message>

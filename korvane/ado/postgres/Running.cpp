@@ -50,9 +50,11 @@ void requireOneStatement(const sql::Statement& statement) {
     }
 }
 
-bool controlsTransaction(const sql::Statement& statement) {
-    constexpr std::array words{"begin",     "start",   "commit", "end",    "rollback",
-                               "savepoint", "release", "abort",  "prepare"};
+constexpr std::array committing{"commit", "end", "prepare"};
+constexpr std::array otherwiseControlling{"begin", "start", "rollback", "savepoint", "release", "abort"};
+
+template <typename Words>
+bool beginsWithOneOf(const Words& words, const sql::Statement& statement) {
     const sql::Token& first = statement.tokens.front();
     return std::any_of(words.begin(), words.end(), [&](const char* word) { return first.isWord(word); });
 }
@@ -82,7 +84,8 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
         shape->table = lowerCase(source.schema + "." + source.table);
         addTypeCheck(shape->translation, source);
     }
-    shape->controlsTransaction = controlsTransaction(statement);
+    shape->commits = beginsWithOneOf(committing, statement);
+    shape->controlsTransaction = shape->commits || beginsWithOneOf(otherwiseControlling, statement);
     return shape;
 }
 
@@ -354,6 +357,7 @@ Outcome Session::outcomeOf(const Request& request, Answer answer) {
     Outcome outcome;
     outcome.rows = std::shared_ptr<const pg_result>(answer.release(), ClearResult());
     const pg_result* rows = outcome.rows.get();
+    if (request.shape->commits) Transactions::requireCommitted(rows);
     if (request.shape->effect == sql::Effect::Rows)
         outcome.touched = std::atoi(PQcmdTuples(const_cast<pg_result*>(rows)));
     if (request.shape->effect == sql::Effect::Schema) {

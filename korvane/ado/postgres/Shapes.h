@@ -29,7 +29,8 @@ struct Shape {
     std::string table; ///< of an Insert or Update: the table it writes, in lower case; of what changes the
                        ///< schema: the table it changes, empty when it may be any
     bool isInsert = false;
-    bool controlsTransaction = false; ///< Begin, Commit, Savepoint, ...
+    bool commits = false;             ///< Commit, or another word for it
+    bool controlsTransaction = false; ///< that, or Begin, Savepoint, ...
     std::deque<Form> forms;           ///< most often one: it is the values' columns that decide
     std::shared_ptr<std::vector<std::string>> dropped; ///< names that the server may forget
 

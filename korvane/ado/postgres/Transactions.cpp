@@ -1,7 +1,7 @@
 #include <korvane/ado/postgres/Transactions.h>
 
+#include <korvane/ado/TransactionErrors.h>
 #include <korvane/ado/postgres/Error.h>
-#include <korvane/runtime/Translation.h>
 
 #include <libpq-fe.h>
 
@@ -37,9 +37,7 @@ std::int32_t Transactions::begin(TransactionFor use) {
 }
 
 void Transactions::commit() {
-    if (mLevels.empty())
-        throw RuntimeError(RuntimeError::DatabaseFailure,
-                           Korvane::translate("Korvane::ado", "There is no transaction to commit."));
+    if (mLevels.empty()) throw nothingToCommit();
     requireNotLost();
     if (mLevels.back()) {
         const std::string begun = "Savepoint " + savepoint(level());
@@ -52,17 +50,13 @@ void Transactions::commit() {
     } else if (!hasBegun()) {
         mUnsent.clear();
     } else {
-        const Answer answer = run("Commit");
-        // Of a transaction that has failed the server says that it was rolled back, and calls it a success.
-        if (std::string_view(PQcmdStatus(answer.get())) != "COMMIT") requireNotLost();
+        requireCommitted(run("Commit").get());
     }
     mLevels.pop_back();
 }
 
 void Transactions::rollback() {
-    if (mLevels.empty())
-        throw RuntimeError(RuntimeError::DatabaseFailure,
-                           Korvane::translate("Korvane::ado", "There is no transaction to roll back."));
+    if (mLevels.empty()) throw nothingToRollBack();
     const bool isSavepoint = mLevels.back();
     const std::string mark = savepoint(level());
     mLevels.pop_back();
@@ -80,13 +74,11 @@ bool Transactions::lost() const {
 }
 
 void Transactions::requireNotLost() const {
-    if (!lost()) return;
-    throw RuntimeError(
-        RuntimeError::DatabaseFailure,
-        Korvane::translate(
-            "Korvane::ado",
-            "The transaction is over: the database has rolled it back after a failure, or somebody has ended "
-            "it past this connection. What was written in it was saved only if it was committed there."));
+    if (lost()) throw transactionOver();
+}
+
+void Transactions::requireCommitted(const pg_result* answer) {
+    if (std::string_view(PQcmdStatus(const_cast<pg_result*>(answer))) == "ROLLBACK") throw transactionOver();
 }
 
 Answer Transactions::run(const std::string& statement) {

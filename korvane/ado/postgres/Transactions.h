@@ -36,6 +36,9 @@ class Transactions {
     /// Raises when the server has ended the transaction by itself: until it has been rolled back here too,
     /// nothing may run, since it would be written outside of it.
     void requireNotLost() const;
+    /// Raises when that is the answer to a commit which the server has turned into a rollback: so it ends a
+    /// transaction in which something has failed, and calls it a success.
+    static void requireCommitted(const pg_result* answer);
 
   private:
     bool lost() const;

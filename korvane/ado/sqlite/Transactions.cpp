@@ -1,20 +1,13 @@
 #include <korvane/ado/sqlite/Transactions.h>
 
+#include <korvane/ado/TransactionErrors.h>
 #include <korvane/ado/sqlite/Error.h>
-#include <korvane/runtime/Translation.h>
 
 #include <sqlite3.h>
 
 #include <string>
 
 namespace Korvane::ado::sqlite {
-
-namespace {
-
-// No number of its own for these.
-constexpr int noTransaction = RuntimeError::DatabaseFailure;
-
-} // namespace
 
 void Transactions::run(const char* statement) const {
     check(mHandle, sqlite3_exec(mHandle, statement, nullptr, nullptr, nullptr));
@@ -37,9 +30,7 @@ std::int32_t Transactions::begin(TransactionFor use) {
 }
 
 void Transactions::commit() {
-    if (mSavepoints.empty())
-        throw RuntimeError(noTransaction,
-                           Korvane::translate("Korvane::ado", "There is no transaction to commit."));
+    if (mSavepoints.empty()) throw nothingToCommit();
     requireNotLost();
     if (mSavepoints.back()) {
         run("Release", level());
@@ -50,9 +41,7 @@ void Transactions::commit() {
 }
 
 void Transactions::rollback() {
-    if (mSavepoints.empty())
-        throw RuntimeError(noTransaction,
-                           Korvane::translate("Korvane::ado", "There is no transaction to roll back."));
+    if (mSavepoints.empty()) throw nothingToRollBack();
     if (!lost()) {
         if (mSavepoints.back()) {
             run("Rollback To", level());
@@ -69,12 +58,7 @@ bool Transactions::lost() const {
 }
 
 void Transactions::requireNotLost() const {
-    if (!lost()) return;
-    throw RuntimeError(
-        RuntimeError::DatabaseFailure,
-        Korvane::translate(
-            "Korvane::ado",
-            "The database has rolled the transaction back after a failure; nothing of it was saved."));
+    if (lost()) throw transactionOver();
 }
 
 } // namespace Korvane::ado::sqlite
