@@ -120,9 +120,9 @@ TEST_F(FaultsOfAServer, SayThatItIsComingUpOrReadOnly) {
 TEST_F(FaultsOfAServer, OfTheNetworkAreNeverWaitedOutForEver) {
     const PrivateServer server;
     Relay network(server.socketFile());
-    const auto db = open("postgresql://clinic@" + network.host() + "/postgres?statement_timeout=50");
+    const auto db = open("postgresql://clinic@" + network.host() + "/postgres?statement_timeout=500");
     db->Execute("Create Table T (A Integer, B Text)");
-    const auto other = open(server.address("statement_timeout=2000"));
+    const auto other = open(server.address("statement_timeout=20000"));
     const std::string large(20'000'000, 'x'); // more than the line takes at once
     const std::function<void()> asks[] = {
         [&] {
@@ -157,13 +157,14 @@ TEST_F(FaultsOfAServer, OfTheNetworkAreNeverWaitedOutForEver) {
         EXPECT_THAT(raised(ask).Description(), HasSubstr("not answered in time"));
         EXPECT_EQ(db->State(), 0);
         EXPECT_EQ(db->transactionLevel(), 0);
-        EXPECT_LT(std::chrono::steady_clock::now() - begun, 4s);
+        EXPECT_LT(std::chrono::steady_clock::now() - begun, 30s) << "the network itself gives up in 60";
         network.resume();
         other->Execute("Truncate Table T"); // it need not wait for what was given up
         network.hang();
-        postgres::setLimits(*db, {.connect = 100ms, .statement = 50ms});
+        postgres::setLimits(*db, {.connect = 100ms, .statement = 500ms});
         EXPECT_THAT(raised([&] { db->Reset(); }).Description(), HasSubstr("did not answer in time"));
         network.resume();
+        postgres::setLimits(*db, {.statement = 500ms});
         db->Reset();
         EXPECT_EQ(one(db, "Select Count(*) From T"), "0");
     }
