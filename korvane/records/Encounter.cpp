@@ -44,13 +44,9 @@ void Encounter::LoadObjectFromDatabase() {
 }
 
 bool Encounter::Save() {
-    const std::int32_t before = mEncounterID;
     const bool inserts = isNew();
     mRow.beginSave();
-    if (!guarded(kSaving, false, [this] { return SaveObjectToDatabase(); })) {
-        mEncounterID = before;
-        return false;
-    }
+    if (!guarded(kSaving, false, [this] { return SaveObjectToDatabase(); })) return false;
     if (inserts)
         guarded(kSaving, false, [this] {
             SavedNewEncounter.raise();

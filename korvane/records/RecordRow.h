@@ -18,7 +18,7 @@ namespace Korvane {
 
 /// The identifier of a new row: the "MaxID" that the statement reads, plus 1, and never below 1. Nothing,
 /// with a line in the error log made of `prefix`, the error's number, a blank and its description, when the
-/// statement fails, or the number does not fit 32 bits.
+/// statement fails or gives no row, or the number does not fit 32 bits.
 std::optional<std::int32_t> nextIdentifier(const std::shared_ptr<ado::Connection>& connection,
                                            std::string_view statement, std::string_view prefix);
 

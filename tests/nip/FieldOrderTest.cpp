@@ -63,6 +63,8 @@ TEST(FieldOrder, TakesACommentAlong) {
 
 TEST(FieldOrder, FindsRoomWhereOrdinalsLeaveNone) {
     EXPECT_EQ(orderAfter(groupOf({{"A", 0.0F}, {"B", 0.0F}, {"C", 0.0F}}), 3, 1), "C A B");
+    EXPECT_EQ(orderAfter(groupOf({{"B", 1.0F}, {"A", 1.0F}, {"C", 2.0F}}), 3, 1), "C B A")
+        << "there is room, but not for the order of the others";
     EXPECT_EQ(orderAfter(groupOf({{"_x", 0.0F}, {"a", 0.0F}, {"B", 0.0F}, {"c", 2.0F}}), 4, 2), "_x c a B")
         << "equal ordinals stand as the engine has sorted their names";
     EXPECT_EQ(orderAfter(groupOf({{"A", 16777216.0F}, {"B", 16777218.0F}, {"C", 16777220.0F}}), 3, 2),

@@ -1,4 +1,5 @@
 #include <korvane/records/Encounter.h>
+#include <korvane/records/RecordRow.h>
 
 #include "support/CaseTable.h"
 #include "support/Errors.h"
@@ -105,6 +106,7 @@ TEST_F(EncounterTest, NeverTakesAnIdentifierThatItCouldNotFind) {
     EXPECT_FALSE(encounter.Save());
     EXPECT_THAT(errors(), HasSubstr("Error in Encounter.SaveObjectToDatabase: 3604 disk I/O error\n"));
     db->failOn.clear();
+    EXPECT_EQ(nextIdentifier(db, "Select EncounterID as MaxID From Encounter", ""), std::nullopt) << "no row";
     db->quietly("Insert Into Encounter (EncounterID) Values (2147483647)");
     EXPECT_FALSE(encounter.Save());
     EXPECT_THAT(errors(), HasSubstr("Error in Encounter.SaveObjectToDatabase: 6 "));
