@@ -1,6 +1,7 @@
 #include <korvane/controls/axdate/DatePartBox.h>
 
 #include <korvane/controls/axdate/GivenDate.h>
+#include <korvane/controls/container/Keys.h>
 #include <korvane/controls/container/Text.h>
 
 #include <QAction>
@@ -72,7 +73,7 @@ bool DatePartBox::isAtEdge(int key) const {
 }
 
 void DatePartBox::keyPressEvent(QKeyEvent* event) {
-    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool plain = isPlain(*event);
     const int key = event->key();
     if (event->matches(QKeySequence::Copy)) return emit copyWanted();
     if (event->matches(QKeySequence::Paste)) return takeClipboard();
@@ -81,7 +82,7 @@ void DatePartBox::keyPressEvent(QKeyEvent* event) {
     if (plain && (key == Qt::Key_Left || key == Qt::Key_Right) && isAtEdge(key))
         return emit moveWanted(key == Qt::Key_Left ? -1 : 1);
     if (isDiscarded(*event)) return;
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) emit enterPressed();
+    if (isEnter(*event)) emit enterPressed();
     QLineEdit::keyPressEvent(event);
 }
 

@@ -1,8 +1,8 @@
 #include <korvane/controls/buttons/ButtonFocus.h>
 
 #include <korvane/controls/buttons/PanelButton.h>
+#include <korvane/controls/container/Keys.h>
 
-#include <QKeyEvent>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -16,10 +16,6 @@ constexpr int none = -1;
 
 bool isUsable(const PanelButton& button) {
     return button.isEnabled() && !button.isHidden();
-}
-
-bool isPlain(const QKeyEvent& key) {
-    return (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
 } // namespace
@@ -82,25 +78,23 @@ bool ButtonFocus::take(const PanelButton& button, const QKeyEvent& key) {
     if (!isPlain(key)) return false;
     const int last = static_cast<int>(std::ssize(mButtons)) - 1;
     const int right = mPanel.layoutDirection() == Qt::RightToLeft ? -1 : 1;
+    const auto moveTo = [this](int from, int by) {
+        focus(next(from, by));
+        return true;
+    };
     switch (key.key()) {
     case Qt::Key_Up:
-        focus(next(index - 1, -1));
-        return true;
+        return moveTo(index - 1, -1);
     case Qt::Key_Down:
-        focus(next(index + 1, 1));
-        return true;
+        return moveTo(index + 1, 1);
     case Qt::Key_Left:
-        focus(next(index - right, -right));
-        return true;
+        return moveTo(index - right, -right);
     case Qt::Key_Right:
-        focus(next(index + right, right));
-        return true;
+        return moveTo(index + right, right);
     case Qt::Key_Home:
-        focus(next(0, 1));
-        return true;
+        return moveTo(0, 1);
     case Qt::Key_End:
-        focus(next(last, -1));
-        return true;
+        return moveTo(last, -1);
     default:
         return false;
     }

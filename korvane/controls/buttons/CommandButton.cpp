@@ -2,6 +2,7 @@
 
 #include <korvane/controls/buttons/HeldEnter.h>
 #include <korvane/controls/buttons/WholeCaption.h>
+#include <korvane/controls/container/Keys.h>
 
 #include <QFocusEvent>
 #include <QHelpEvent>
@@ -43,9 +44,8 @@ bool CommandButton::takeAccelerator(const QShortcutEvent& accelerator) {
 
 /// Enter that is held down would go on clicking, and with "Remove from List" empty the list.
 void CommandButton::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && event->isAutoRepeat()) return;
-    if (enter) new HeldEnter;
+    if (isEnter(*event) && event->isAutoRepeat()) return;
+    if (isEnter(*event)) new HeldEnter;
     QPushButton::keyPressEvent(event);
 }
 

@@ -1,7 +1,8 @@
 #include <korvane/controls/buttons/HeldEnter.h>
 
+#include <korvane/controls/container/Keys.h>
+
 #include <QCoreApplication>
-#include <QKeyEvent>
 
 namespace Korvane {
 
@@ -14,8 +15,7 @@ bool HeldEnter::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
     const auto& key = static_cast<QKeyEvent&>(*event);
     if (key.isAutoRepeat()) return true;
-    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-    if (event->type() == QEvent::KeyRelease && !enter) return false;
+    if (event->type() == QEvent::KeyRelease && !isEnter(key)) return false;
     qApp->removeEventFilter(this);
     deleteLater();
     return false;

@@ -1,6 +1,7 @@
 #include <korvane/controls/dbxadmin/ValueList.h>
 
 #include <korvane/controls/buttons/CommandButton.h>
+#include <korvane/controls/container/Keys.h>
 #include <korvane/controls/container/UserControl.h>
 #include <korvane/controls/dbxadmin/GivenText.h>
 #include <korvane/controls/dbxadmin/ListText.h>
@@ -142,13 +143,11 @@ bool ValueList::eventFilter(QObject* watched, QEvent* event) {
 /// Enter does not reach the default button of a dialog, not even from an empty box: it may be one too many.
 /// A Delete that is held down removes one value, not all of them.
 bool ValueList::take(const QObject* part, const QKeyEvent& key) {
-    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-    const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (enter && part == txtAddtoList) {
+    if (isEnter(key) && part == txtAddtoList) {
         if (!key.isAutoRepeat()) add();
         return true;
     }
-    if (part != lstAddtoList || key.key() != Qt::Key_Delete || !plain) return false;
+    if (part != lstAddtoList || key.key() != Qt::Key_Delete || !isPlain(key)) return false;
     if (!key.isAutoRepeat()) remove(true);
     return true;
 }

@@ -1,5 +1,6 @@
 #include <korvane/controls/nippanel/ChoiceEditView.h>
 
+#include <korvane/controls/container/Keys.h>
 #include <korvane/controls/nippanel/ChoiceEditDelegate.h>
 #include <korvane/controls/nippanel/ChoiceOrderModel.h>
 #include <korvane/controls/nippanel/ListEntryText.h>
@@ -49,8 +50,7 @@ bool ChoiceEditView::edit(const QModelIndex& index, EditTrigger trigger, QEvent*
 
 // The box leaves the Enter that ends it to its parents, where a dialog's default button must not get it.
 void ChoiceEditView::keyPressEvent(QKeyEvent* event) {
-    const bool ends = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!ends || !mDelegate->box()) WrappingList::keyPressEvent(event);
+    if (!isEnter(*event) || !mDelegate->box()) WrappingList::keyPressEvent(event);
 }
 
 void ChoiceEditView::commitData(QWidget* editor) {

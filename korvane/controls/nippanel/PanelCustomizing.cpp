@@ -1,5 +1,6 @@
 #include <korvane/controls/nippanel/PanelMembers.h>
 
+#include <korvane/controls/container/Keys.h>
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/nippanel/ButtonRow.h>
 #include <korvane/controls/nippanel/CustomizeBar.h>
@@ -203,7 +204,7 @@ bool ucNIPPanel::Members::asksToLeave(const CustomizePane& pane) {
 /// In one of the pane's boxes and closed combo boxes Enter stores the field, and never presses what a dialog
 /// around the panel takes for its default button.
 bool ucNIPPanel::Members::isEnterInPane(const QKeyEvent& key) const {
-    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) return false;
+    if (!isEnter(key)) return false;
     const FieldForm& inputs = form->customizePane().form();
     const QWidget* const focus = QApplication::focusWidget();
     const auto* combo = qobject_cast<const QComboBox*>(focus);
