@@ -1,12 +1,14 @@
 #include "gallery/Exhibits.h"
 
-#include "gallery/SampleNip.h"
+#include "clinic/sample/SampleClinic.h"
 
 #include <korvane/controls/axdate/axDate.h>
 #include <korvane/controls/buttons/funcPanel.h>
 #include <korvane/controls/buttons/movebtn.h>
+#include <korvane/controls/container/Text.h>
 #include <korvane/controls/dbxadmin/dbxadmin.h>
 #include <korvane/controls/nippanel/ucNIPPanel.h>
+#include <korvane/data/SQLData.h>
 
 #include <QCoreApplication>
 
@@ -41,17 +43,22 @@ std::unique_ptr<Control> made(const char* name) {
 Exhibit nipPanel() {
     auto panel = made<Korvane::ucNIPPanel>("ucNIPPanel");
     auto* p = panel.get();
-    const SampleNip sample = makeSampleNip();
-    p->Initialize(sample.connection);
-    p->LoadNipInfo(sample.encounter, sample.patient);
+    const auto connection = Korvane::ado::open("sqlite::memory:");
+    Clinic::installSample(*connection);
+    Korvane::SQLData latest;
+    latest.SQL(connection, "Select Top 1 EncounterID, PatientID From Encounter Order By EncounterID Desc",
+               false, Korvane::AccessMode::Read);
+    const QString patient = Korvane::qt(latest.Data("PatientID").textOrEmpty());
+    const std::int32_t encounter = latest.Data("EncounterID").toInt32();
+    p->Initialize(connection);
+    p->LoadNipInfo(encounter, patient);
     return {
         std::move(panel),
         Exhibits::tr("A data-entry form that the clinic shapes itself, here over a sample clinic in memory."),
         true,
-        {{QStringLiteral("CreateNip(\"%1\")").arg(sample.patient),
-          [=] { return told(p->CreateNip(sample.patient)); }},
-         {QStringLiteral("LoadNipInfo(%1, \"%2\")").arg(sample.encounter).arg(sample.patient),
-          [=] { return told(p->LoadNipInfo(sample.encounter, sample.patient)); }},
+        {{QStringLiteral("CreateNip(\"%1\")").arg(patient), [=] { return told(p->CreateNip(patient)); }},
+         {QStringLiteral("LoadNipInfo(%1, \"%2\")").arg(encounter).arg(patient),
+          [=] { return told(p->LoadNipInfo(encounter, patient)); }},
          {QStringLiteral("SaveNipInfo"), quiet([p] { p->SaveNipInfo(); })},
          {QStringLiteral("CustomizeNip"), quiet([p] { p->CustomizeNip(); })}}};
 }

@@ -10,23 +10,16 @@
 
 namespace Gallery {
 
-namespace {
-
-void drive(const QDir& directory, int textSize, const char*& title) {
-    Korvane::App::Path(Korvane::utf8(directory.absolutePath()));
-    QApplication::setFont(Apps::scaled(QApplication::font(), textSize));
-    GalleryWindow window;
-    Apps::showActive(window);
-    Journey journey(window, directory.absolutePath());
-    Apps::travel(journey, steps(), title);
-    journey.album.printCount();
-}
-
-} // namespace
-
-int runTour(const QString& directory, int textSize) {
-    return Apps::runTour(directory,
-                         [&](const QDir& place, const char*& title) { drive(place, textSize, title); });
+int runTour(const QString& target, int textSize) {
+    return Apps::runTour(target, [&](const QDir& directory, const char*& title) {
+        Korvane::App::Path(Korvane::utf8(directory.absolutePath()));
+        QApplication::setFont(Apps::scaled(QApplication::font(), textSize));
+        GalleryWindow window;
+        Apps::showActive(window);
+        Journey journey(window, directory.absolutePath());
+        Apps::travel(journey, steps(), title);
+        journey.album.printCount();
+    });
 }
 
 } // namespace Gallery

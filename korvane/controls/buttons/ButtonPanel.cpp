@@ -39,7 +39,7 @@ ButtonPanel::~ButtonPanel() {
 }
 
 PanelButton& ButtonPanel::button(int index) const {
-    if (!has(index)) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
+    if (index < 0 || index >= count()) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
     return *mButtons[static_cast<std::size_t>(index)];
 }
 

@@ -55,7 +55,6 @@ class ButtonPanel : public UserControl {
     QGroupBox& frame() const { return *frame1; }
     /// Of the buttons, those that are hidden too; indexes go from 0.
     int count() const { return static_cast<int>(mButtons.size()); }
-    bool has(int index) const { return index >= 0 && index < count(); }
     /// Raises `RuntimeError::SubscriptOutOfRange`.
     PanelButton& button(int index) const;
 

@@ -4,7 +4,6 @@
 #include <korvane/controls/container/Text.h>
 #include <korvane/controls/container/Twips.h>
 #include <korvane/runtime/Interaction.h>
-#include <korvane/runtime/RuntimeError.h>
 
 #include <QEvent>
 #include <QFontInfo>
@@ -84,10 +83,10 @@ const char* funcPanel::refusal(int count) {
 }
 
 void funcPanel::setButtonEnabled(int index, bool on) {
-    if (index < 0 || index >= std::ssize(mEnabled)) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
+    if (index == most) return;
+    PanelButton& changed = button(index);
     mEnabled[static_cast<std::size_t>(index)] = on;
-    if (!has(index)) return;
-    button(index).setEnabled(on);
+    changed.setEnabled(on);
     emit PropertyChanged(QStringLiteral("btn%1Enabled").arg(index + 1));
 }
 

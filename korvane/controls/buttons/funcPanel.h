@@ -134,16 +134,12 @@ class funcPanel : public ButtonPanel {
     void setButtonCount(int count);
     void givenButtonCount(int count);
     ButtonStyle styleCode() const { return static_cast<ButtonStyle>(mStyle); }
-    void styleCode(ButtonStyle style) {
-        if (const auto code = codeFrom(*this, style, "buttonStyle")) buttonStyle(*code);
-    }
+    void styleCode(ButtonStyle style) { takeCode(*this, &funcPanel::buttonStyle, style, "buttonStyle"); }
     FontSize frameFontCode() const { return static_cast<FontSize>(mFrameFontSize); }
-    void frameFontCode(FontSize size) {
-        if (const auto code = codeFrom(*this, size, "FrameFontSize")) FrameFontSize(*code);
-    }
+    void frameFontCode(FontSize size) { takeCode(*this, &funcPanel::FrameFontSize, size, "FrameFontSize"); }
     FontSize buttonFontCode() const { return static_cast<FontSize>(mButtonFontSize); }
     void buttonFontCode(FontSize size) {
-        if (const auto code = codeFrom(*this, size, "ButtonFontSize")) ButtonFontSize(*code);
+        takeCode(*this, &funcPanel::ButtonFontSize, size, "ButtonFontSize");
     }
 
     void setButtonEnabled(int index, bool on);
@@ -162,7 +158,7 @@ class funcPanel : public ButtonPanel {
     QSize mArranged; ///< the control's size that the column follows
     bool mArrangesLater = false;
     qint32 mBackColor = buttonFace;
-    std::array<bool, most + 1> mEnabled{};
+    std::array<bool, most> mEnabled{};
     bool mAllBold = false;
     qint16 mCount = most;
     qint16 mStyle = ThreeDimensional;

@@ -172,17 +172,13 @@ class dbxadmin : public UserControl {
 
   private:
     DisplayType displayTypeCode() const { return static_cast<DisplayType>(displayType()); }
-    void displayTypeCode(DisplayType type) {
-        if (const auto code = codeFrom(*this, type, "displayType")) displayType(*code);
-    }
+    void displayTypeCode(DisplayType type) { takeCode(*this, &dbxadmin::displayType, type, "displayType"); }
     Requirement requirementCode() const { return static_cast<Requirement>(FieldRequired()); }
     void requirementCode(Requirement required) {
-        if (const auto code = codeFrom(*this, required, "FieldRequired")) FieldRequired(*code);
+        takeCode(*this, &dbxadmin::FieldRequired, required, "FieldRequired");
     }
     ListAction listActionCode() const { return static_cast<ListAction>(ListMode()); }
-    void listActionCode(ListAction action) {
-        if (const auto code = codeFrom(*this, action, "ListMode")) ListMode(*code);
-    }
+    void listActionCode(ListAction action) { takeCode(*this, &dbxadmin::ListMode, action, "ListMode"); }
 
     QString caption(int index) const;
     void caption(int index, const QString& text);
