@@ -159,15 +159,11 @@ TEST(EditContentEntry, AddsEntriesWithoutCheckBoxesAndOnlyWhatWouldComeBack) {
 
 TEST(EditContentEntry, RemovesUntilNothingIsLeft) {
     Entry entry("LIST-EDITCONTENT", "x|y|z");
-    auto& remove = *entry.control<QPushButton>("cmdNip(1)");
     entry.list()->setFocus();
-    entry.press(*entry.list(), {Qt::Key_Delete});
-    EXPECT_EQ(entry.saved(), "y|z");
-    remove.setFocus();
-    entry.press(remove, {Qt::Key_Space, Qt::Key_Space});
-    EXPECT_EQ(entry.saved(), "");
-    EXPECT_FALSE(remove.isEnabled());
-    EXPECT_TRUE(entry.control<QPushButton>("cmdNip(0)")->hasFocus());
+    for (const char* left : {"y|z", "z", "", ""}) {
+        entry.press(*entry.list(), {Qt::Key_Delete});
+        EXPECT_EQ(entry.saved(), left);
+    }
 }
 
 TEST(EditContentEntry, DropsAnAnswerThatComesWhenOtherEntriesAreShown) {

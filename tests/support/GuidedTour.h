@@ -19,9 +19,10 @@ struct GuidedTour {
     std::vector<std::pair<QString, QByteArray>> pictures;
 };
 
-inline GuidedTour tour(const ScratchDir& home, const std::string& pictures, const QStringList& more = {}) {
+inline GuidedTour tour(const QString& application, const ScratchDir& home, const std::string& pictures,
+                       const QStringList& more = {}) {
     const QDir dir(QString::fromStdString(home.file(pictures)));
-    GuidedTour tour{run(home, QStringList{"--tour", dir.path()} + more), {}, {}};
+    GuidedTour tour{run(application, home, QStringList{"--tour", dir.path()} + more), {}, {}};
     tour.told = QString::fromStdString(tour.outcome.output)
                     .remove(QRegularExpression(QStringLiteral(" pictures in .*\n$")));
     for (const QString& name : dir.entryList({"*.png"}, QDir::Files)) {

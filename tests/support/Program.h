@@ -15,8 +15,8 @@ struct Outcome {
     std::string output, errors;
 };
 
-/// Runs the program of this test executable without a screen, with a home of its own, to its end.
-inline Outcome run(const ScratchDir& home, const QStringList& arguments) {
+/// Runs korvane-clinic or another application without a screen, with a home of its own, to its end.
+inline Outcome run(const QString& application, const ScratchDir& home, const QStringList& arguments) {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
@@ -24,7 +24,7 @@ inline Outcome run(const ScratchDir& home, const QStringList& arguments) {
     for (const char* place : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         environment.insert(place, QString::fromStdString(home.path().string()));
     program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(KORVANE_PROGRAM), arguments);
+    program.start(QStringLiteral(KORVANE_PROGRAMS "/korvane-") + application, arguments);
     constexpr int limit = 100000;
     if (!program.waitForFinished(limit)) return {};
     return {program.exitCode(), program.readAllStandardOutput().toStdString(),
