@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <ranges>
 #include <utility>
 
 // A static library's resources are there only when they are asked for; Qt wants that outside every namespace.
@@ -28,9 +27,9 @@ bool isEnglish(const QString& language) {
 /// Installs those of the folders; the first of them is asked first.
 bool install(const QString& name, const QString& language, const QStringList& folders, QObject& owner) {
     bool found = false;
-    for (const QString& folder : folders | std::views::reverse) {
+    for (auto folder = folders.crbegin(); folder != folders.crend(); ++folder) {
         auto translator = std::make_unique<QTranslator>();
-        if (!translator->load(name + u'_' + QString(language).replace(u'-', u'_'), folder)) continue;
+        if (!translator->load(name + u'_' + QString(language).replace(u'-', u'_'), *folder)) continue;
         translator->setObjectName(name);
         translator->setParent(&owner);
         found = QCoreApplication::installTranslator(translator.release()) || found;
