@@ -33,9 +33,6 @@ struct Entry : NipForm {
         for (const Qt::Key key : keys)
             QTest::keyClick(&widget, key);
     }
-    bool isInView(int row) {
-        return list()->viewport()->rect().contains(list()->visualRect(list()->model()->index(row, 0)));
-    }
 };
 
 } // namespace
@@ -129,12 +126,11 @@ TEST(ListEntry, HasTheFirstCheckedRowInViewAndUnderTheKeys) {
     for (int i = 0; i < 20; ++i)
         entry.allowed(2, "Field", "choice " + std::to_string(i), static_cast<float>(10 + i));
     entry.open();
-    EXPECT_TRUE(entry.isInView(18));
+    EXPECT_TRUE(entry.list()->viewport()->rect().contains(
+        entry.list()->visualRect(entry.list()->model()->index(18, 0))));
     entry.list()->setFocus(Qt::TabFocusReason);
     entry.press(*entry.list(), {Qt::Key_Space});
     EXPECT_EQ(entry.saved(), "") << "that answer was taken back";
-    entry.reload();
-    EXPECT_TRUE(entry.isInView(0)) << "without an answer the list begins at its top";
 }
 
 TEST(EditContentEntry, AddsEntriesWithoutCheckBoxesAndOnlyWhatWouldComeBack) {

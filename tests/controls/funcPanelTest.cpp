@@ -84,11 +84,8 @@ TEST(funcPanel, RemembersWhatWasEnabledButOnlyByItsMethods) {
     form.form.setEnabled(false);
     EXPECT_TRUE(form.panel->Enabled()) << "it is the form that is not";
     form.panel->btnEnable(5);
-    form.panel->btnFontBold(5, true);
-    for (const qint16 index : std::initializer_list<qint16>{-1, 6}) {
+    for (const qint16 index : std::initializer_list<qint16>{-1, 6})
         EXPECT_THROW(form.panel->btnEnable(index), RuntimeError);
-        EXPECT_THROW(form.panel->btnFontBold(index, true), RuntimeError);
-    }
 }
 
 TEST(funcPanel, TakesItsFontsByCodeAndGrowsWithALargeForm) {
