@@ -1361,8 +1361,8 @@
         <translation>das ist keine Größe, verwendet wird %1</translation>
     </message>
     <message>
-        <source>that has more than 32 bits, the button face is used</source>
-        <translation>das hat mehr als 32 Bit, verwendet wird die Farbe der Schaltflächen</translation>
+        <source>that is no colour of 32 bits, the button face is used</source>
+        <translation>das ist keine Farbe mit 32 Bit, verwendet wird die Farbe der Schaltflächen</translation>
     </message>
     <message>
         <source>%1 5 is used</source>

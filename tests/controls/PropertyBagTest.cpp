@@ -59,7 +59,7 @@ TEST(PropertyBag, WrittenByHandLoadsWithDefaultsAndSaysWhatIsWrong) {
     EXPECT_EQ(panel.ButtonFontSize(), 2);
     EXPECT_EQ(panel.BackColor(), buttonFace);
     EXPECT_EQ(bag.problems().join('\n').toStdString(),
-              "BackColor holds 4294967551: that has more than 32 bits, the button face is used\n"
+              "BackColor holds 4294967551: that is no colour of 32 bits, the button face is used\n"
               "ButtonFontsize is not the name of a property that is kept\n"
               "FrameCaption holds nothing: that is no text, \"Function Btn\" is used\n"
               "FrameFontSize holds -3: that is no size, 1 is used\n"
@@ -69,6 +69,11 @@ TEST(PropertyBag, WrittenByHandLoadsWithDefaultsAndSaysWhatIsWrong) {
     PropertyBag none;
     none.Contents("{\"Shown\": ");
     EXPECT_EQ(none.problems().size(), 1);
+    none.Contents(R"({"BackColor": "red"})");
+    panel.ReadProperties(none);
+    EXPECT_EQ(panel.BackColor(), buttonFace);
+    EXPECT_EQ(none.problems().join('\n').toStdString(),
+              "BackColor holds \"red\": that is no colour of 32 bits, the button face is used");
 }
 
 TEST(PropertyBag, TellsOfWhatItsFormatWouldPassOver) {

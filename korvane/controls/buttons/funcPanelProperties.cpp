@@ -1,6 +1,7 @@
 #include <korvane/controls/buttons/funcPanel.h>
 
 #include <korvane/controls/buttons/PanelButton.h>
+#include <korvane/controls/container/PropertyValue.h>
 
 #include <QGroupBox>
 
@@ -90,11 +91,14 @@ void funcPanel::InitProperties() {
 
 /// Written by hand it may be the number without a sign.
 void funcPanel::readBackColor(const PropertyBag& bag) {
-    const qlonglong code = bag.ReadProperty("BackColor", qlonglong{buttonFace}).toLongLong();
-    const bool fits =
-        code >= std::numeric_limits<qint32>::min() && code <= std::numeric_limits<quint32>::max();
-    if (!fits) bag.addProblem("BackColor", tr("that has more than 32 bits, the button face is used"));
-    mBackColor = fits ? static_cast<qint32>(code) : buttonFace;
+    const QVariant given = bag.ReadProperty("BackColor", {});
+    const QVariant code =
+        given.isValid() ? propertyValue(given, QMetaType::fromType<qlonglong>()) : buttonFace;
+    const qlonglong number = code.toLongLong();
+    const bool fits = code.isValid() && number >= std::numeric_limits<qint32>::min() &&
+                      number <= std::numeric_limits<quint32>::max();
+    if (!fits) bag.addProblem("BackColor", tr("that is no colour of 32 bits, the button face is used"));
+    mBackColor = fits ? static_cast<qint32>(number) : buttonFace;
 }
 
 /// A count that would be refused is one of the bag's problems: no form opens with a message box.
