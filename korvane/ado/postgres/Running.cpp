@@ -1,5 +1,6 @@
 // How a session runs statements: alone, or together with others that were announced.
 
+#include <korvane/ado/StatementErrors.h>
 #include <korvane/ado/postgres/Session.h>
 
 #include <korvane/ado/postgres/ChangedTable.h>
@@ -34,19 +35,14 @@ bool failed(const Answer& answer) {
 
 void requireOneStatement(const sql::Statement& statement) {
     const auto& tokens = statement.tokens;
-    if (tokens.front().kind == sql::TokenKind::End)
-        throw RuntimeError(RuntimeError::InvalidArgument,
-                           Korvane::translate("Korvane::ado", "There is no statement to run."));
+    if (tokens.front().kind == sql::TokenKind::End) throw noStatement();
     if (tokens.front().isWord("copy"))
         throw RuntimeError(RuntimeError::InvalidArgument,
                            Korvane::translate("Korvane::ado", "Copy cannot be run over this connection."));
     for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
         if (!tokens[at].isSymbol(';')) continue;
         const sql::Token& behind = tokens[at + 1];
-        if (behind.kind != sql::TokenKind::End && !behind.isSymbol(';'))
-            throw RuntimeError(
-                RuntimeError::InvalidArgument,
-                Korvane::translate("Korvane::ado", "Only one statement can be run at a time."));
+        if (behind.kind != sql::TokenKind::End && !behind.isSymbol(';')) throw severalStatements();
     }
 }
 
@@ -135,13 +131,7 @@ Request Session::request(std::string_view statement) {
     // The server takes no more with one statement.
     constexpr std::size_t mostParameters = 65535;
     if (literals.size() > mostParameters) return literalRequest(statement, {});
-    if (rules.size() != literals.size()) {
-        throw RuntimeError(
-            RuntimeError::InvalidArgument,
-            Korvane::translate(
-                "Korvane::ado",
-                "The statement holds a parameter mark; values are written into the statement itself."));
-    }
+    if (rules.size() != literals.size()) throw parameterMark();
     std::vector<TypeId> types;
     for (std::size_t i = 0; i < literals.size(); ++i) {
         const sql::ColumnValue value =
@@ -163,13 +153,7 @@ Request Session::request(std::string_view statement) {
 Request Session::literalRequest(std::string_view statement, std::string_view addedColumns) {
     Request request;
     request.shape = makeShape(statement, addedColumns);
-    if (!request.shape->translation.parameters.empty()) {
-        throw RuntimeError(
-            RuntimeError::InvalidArgument,
-            Korvane::translate(
-                "Korvane::ado",
-                "The statement holds a parameter mark; values are written into the statement itself."));
-    }
+    if (!request.shape->translation.parameters.empty()) throw parameterMark();
     request.command.text = request.shape->translation.text;
     return request;
 }

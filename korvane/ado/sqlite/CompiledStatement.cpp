@@ -1,5 +1,6 @@
 #include <korvane/ado/sqlite/CompiledStatement.h>
 
+#include <korvane/ado/StatementErrors.h>
 #include <korvane/ado/sql/Lexer.h>
 #include <korvane/ado/sqlite/Error.h>
 #include <korvane/runtime/Translation.h>
@@ -27,8 +28,7 @@ CompiledStatement::CompiledStatement(sqlite3* handle, std::string_view text, boo
         token = lexer.next();
     if (token.kind == sql::TokenKind::End) return;
     sqlite3_finalize(mStatement);
-    throw RuntimeError(RuntimeError::InvalidArgument,
-                       Korvane::translate("Korvane::ado", "Only one statement can be run at a time."));
+    throw severalStatements();
 }
 
 CompiledStatement::~CompiledStatement() {

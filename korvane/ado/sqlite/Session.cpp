@@ -1,5 +1,6 @@
 #include <korvane/ado/sqlite/Session.h>
 
+#include <korvane/ado/StatementErrors.h>
 #include <korvane/ado/sql/Lexer.h>
 #include <korvane/ado/sql/Names.h>
 #include <korvane/ado/sqlite/Error.h>
@@ -201,9 +202,7 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
     shape->text = text;
     shape->translation = translate(text, mSchema, addedColumns);
     shape->idle = CompiledStatement(mHandle, shape->translation.text, true);
-    if (!shape->idle)
-        throw RuntimeError(RuntimeError::InvalidArgument,
-                           Korvane::translate("Korvane::ado", "There is no statement to run."));
+    if (!shape->idle) throw noStatement();
     shape->meetsColumns =
         std::ranges::any_of(shape->translation.parameters,
                             [](const sql::ParameterRule& rule) { return rule.column.has_value(); });
@@ -216,13 +215,7 @@ std::shared_ptr<Shape> Session::makeShape(std::string_view text, std::string_vie
 void Session::bindLiterals(const Lease& lease, TextLives lives) {
     sqlite3_stmt* statement = lease.statement.get();
     const auto& literals = mLifter.literals();
-    if (sqlite3_bind_parameter_count(statement) != static_cast<int>(literals.size())) {
-        throw RuntimeError(
-            RuntimeError::InvalidArgument,
-            Korvane::translate(
-                "Korvane::ado",
-                "The statement holds a parameter mark; values are written into the statement itself."));
-    }
+    if (sqlite3_bind_parameter_count(statement) != static_cast<int>(literals.size())) throw parameterMark();
     for (std::size_t i = 0; i < literals.size(); ++i) {
         const sql::Literal& literal = literals[i];
         const sql::ParameterRule& rule = lease.shape->translation.parameters[i];
